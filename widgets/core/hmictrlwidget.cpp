@@ -1,0 +1,36 @@
+#include "hmictrlwidget.h"
+
+#include "hmiview.h"
+
+HMI_IMPLEMENT_WIDGET_CLASS(CHmiCtrlWidget, CHmiWidget)
+
+CHmiCtrlWidget::CHmiCtrlWidget() = default;
+CHmiCtrlWidget::~CHmiCtrlWidget() = default;
+
+void CHmiCtrlWidget::Draw(CHmiDC&)
+{
+    if (!m_pControl)
+        return;
+    HmiRect wanted = m_rect;
+    if (m_pView) {
+        const HmiPoint topLeft = m_pView->DocToClient({m_rect.left, m_rect.top});
+        const HmiPoint bottomRight = m_pView->DocToClient({m_rect.right, m_rect.bottom});
+        wanted = {topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
+    }
+    if (m_pControl->GetClientRect() == wanted)
+        return;
+    m_pControl->MoveTo(wanted);
+    if (m_pView)
+        m_pView->InvalidateView();
+}
+
+void CHmiCtrlWidget::SetCtrlWndProc(std::unique_ptr<CHmiControl> control)
+{
+    m_pControl = std::move(control);
+}
+
+void CHmiCtrlWidget::Hide()
+{
+    if (m_pControl)
+        m_pControl->Hide();
+}

@@ -1,0 +1,109 @@
+#include "widgets/catalogue/hmiwidgetcustom.h"
+#include "widgets/core/hmictrlwidget.h"
+#include "widgets/core/widgetlibrary.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FirstWidget : public CHmiWidget {
+    HMI_DECLARE_WIDGET_CLASS(FirstWidget)
+public:
+    std::string GetWidgetClassName() const override { return "first"; }
+};
+HMI_IMPLEMENT_WIDGET_CLASS(FirstWidget, CHmiWidget)
+
+class SecondWidget : public CHmiCtrlWidget {
+    HMI_DECLARE_WIDGET_CLASS(SecondWidget)
+};
+HMI_IMPLEMENT_WIDGET_CLASS(SecondWidget, CHmiCtrlWidget)
+
+const CHmiRuntimeClass* const kCustom = &CHmiWidgetCustom::classCHmiWidgetCustom;
+
+struct RegistryTest : ::testing::Test {
+    void SetUp() override { Clear(); }
+    void TearDown() override { Clear(); }
+    static void Clear()
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        ClearRegisteredWidgetLibs();
+    }
+};
+
+} // namespace
+
+TEST_F(RegistryTest, UnknownKeysFallBackToTheCustomWidget)
+{
+    EXPECT_EQ(CHmiWidget::GetWidgetClass(""), kCustom);
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("button"), kCustom);
+
+    ASSERT_TRUE(CHmiWidget::AddWidgetRunTimeClass("first", &FirstWidget::classFirstWidget));
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("first"), &FirstWidget::classFirstWidget);
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("First"), kCustom) << "keys are case-sensitive";
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("firs"), kCustom);
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("first "), kCustom);
+}
+
+TEST_F(RegistryTest, AddingNeedsAKeyAndAClass)
+{
+    EXPECT_FALSE(CHmiWidget::AddWidgetRunTimeClass("", &FirstWidget::classFirstWidget));
+    EXPECT_FALSE(CHmiWidget::AddWidgetRunTimeClass("first", nullptr));
+    EXPECT_TRUE(CHmiWidget::WidgetClassList.empty());
+}
+
+TEST_F(RegistryTest, DuplicateKeysAreKeptAndTheFirstWins)
+{
+    CHmiWidget::AddWidgetRunTimeClass("dup", &FirstWidget::classFirstWidget);
+    CHmiWidget::AddWidgetRunTimeClass("dup", &SecondWidget::classSecondWidget);
+    EXPECT_EQ(CHmiWidget::WidgetClassList.size(), 2u);
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("dup"), &FirstWidget::classFirstWidget);
+
+    CHmiWidget::RemoveAllRunTimeClass();
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("dup"), kCustom);
+}
+
+TEST_F(RegistryTest, CreatingByKeyGivesAFullyDeclaredWidget)
+{
+    CHmiWidget::AddWidgetRunTimeClass("first", &FirstWidget::classFirstWidget);
+    const HmiWidgetPtr widget = CHmiWidget::GetWidgetClass("first")->CreateObject();
+    ASSERT_NE(widget, nullptr);
+    EXPECT_EQ(widget->GetWidgetClassName(), "first");
+    EXPECT_EQ(widget->GetProperties().size(), 14u);
+
+    const HmiWidgetPtr custom = CHmiWidget::GetWidgetClass("gauge")->CreateObject();
+    EXPECT_EQ(custom->GetRuntimeClass(), kCustom);
+}
+
+TEST_F(RegistryTest, LibraryRegistrationChecksItsArguments)
+{
+    const CWidgetRunTimeClass entries[] = {
+        {"", &FirstWidget::classFirstWidget},
+        {"second", &SecondWidget::classSecondWidget},
+        {"nothing", nullptr},
+    };
+    EXPECT_EQ(RegisterWidgetsLib("gauges", 0, entries), 0);
+    EXPECT_EQ(RegisterWidgetsLib("gauges", -1, entries), 0);
+    EXPECT_EQ(RegisterWidgetsLib("", 3, entries), 0);
+    EXPECT_EQ(RegisterWidgetsLib(nullptr, 3, entries), 0);
+    EXPECT_EQ(RegisterWidgetsLib("gauges", 3, nullptr), 0);
+    EXPECT_TRUE(RegisteredWidgetLibs().empty());
+    EXPECT_TRUE(CHmiWidget::WidgetClassList.empty());
+
+    EXPECT_EQ(RegisterWidgetsLib("gauges", 3, entries), 1);
+    ASSERT_EQ(RegisteredWidgetLibs().size(), 1u);
+    EXPECT_EQ(RegisteredWidgetLibs()[0].m_strName, "gauges");
+    EXPECT_EQ(RegisteredWidgetLibs()[0].m_nCount, 3);
+    EXPECT_EQ(RegisteredWidgetLibs()[0].m_pEntries, entries);
+    ASSERT_EQ(CHmiWidget::WidgetClassList.size(), 1u) << "bad entries are skipped, the rest register";
+    EXPECT_EQ(CHmiWidget::WidgetClassList[0].m_strClassKey, "second");
+}
+
+TEST_F(RegistryTest, LaterLibrariesCannotReplaceAKey)
+{
+    const CWidgetRunTimeClass first[] = {{"gauge", &FirstWidget::classFirstWidget}};
+    const CWidgetRunTimeClass second[] = {{"gauge", &SecondWidget::classSecondWidget}};
+    RegisterWidgetsLib("a", 1, first);
+    RegisterWidgetsLib("b", 1, second);
+    EXPECT_EQ(RegisteredWidgetLibs().size(), 2u);
+    EXPECT_EQ(CHmiWidget::GetWidgetClass("gauge"), &FirstWidget::classFirstWidget);
+}
