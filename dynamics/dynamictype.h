@@ -2,6 +2,9 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+
+class XmlElement;
 
 // How a bound expression drives a property: one object per binding, owned by the property
 // record it is attached to. Each binding type ("color_digit", "text_int", ...) derives from it.
@@ -19,8 +22,16 @@ public:
     // Appends the binding's inner element (`type_params` or `code`) to a window file text.
     virtual void WriteInnerElement(std::string& archive) const = 0;
 
+    // Reads one inner element (`type_params` or `code`) of a `dynamic` element of a window
+    // file; false when the element lacks what the type needs, and then nothing is stored.
+    virtual bool ReadInnerElement(const XmlElement& element) = 0;
+
     virtual std::unique_ptr<CHmiDynamicType> Clone() const = 0;
 
     // The user's raw expression; for a script binding, the script code.
     std::string expression;
 };
+
+// A new binding of the named type with its defaults; null for a name that is not one of
+// "color_digit", "color_analog", "text_int", "text_float", "text_double", "script" (exact case).
+std::unique_ptr<CHmiDynamicType> CreateDynamicType(std::string_view typeName);

@@ -15,6 +15,7 @@ public:
     {
         archive += "\t\t\t\t<type_params expression=\"" + expression + "\" />\r\n";
     }
+    bool ReadInnerElement(const XmlElement&) override { return true; }
     std::unique_ptr<CHmiDynamicType> Clone() const override { return std::make_unique<FakeDynamicType>(*this); }
 
     static inline int alive = 0;
