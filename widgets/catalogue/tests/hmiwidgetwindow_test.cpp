@@ -1,0 +1,99 @@
+#include "ownproperties.h"
+#include "tests/support/memoryoptiontree.h"
+#include "widgets/catalogue/hmiwidgetwindow.h"
+
+#include <gtest/gtest.h>
+
+TEST(HmiWidgetWindow, DeclaresAndWritesTheWindowProperties)
+{
+    const CHmiWidgetWindow window;
+    EXPECT_EQ(window.GetWidgetClassName(), "window");
+    EXPECT_EQ(window.GetWidgetRect(), (HmiRect{0, 0, 1024, 768}));
+    const std::vector<PropertyRow> expected = {
+        {"hascaption", "caption", "Set if window has caption", 0, PROP_COMBO, "Window", {"No caption", "Has caption"}},
+        {"centerwnd", "centerwnd", "Set if window align center", 0, PROP_COMBO, "Window",
+         {"Not align center", "Align center"}},
+        {"bkcolor", "bkcolor", "Set window background color", 0, PROP_COLOR, "Window", {}},
+        {"security_level", "security level", "Set security level", 0, PROP_EDIT, "Window", {}},
+        {"security_mode", "security handle mode", "set security handle mode when no permission", 0, PROP_COMBO,
+         "Window", {"no prompt", "prompt no permission", "prompt password window"}},
+    };
+    EXPECT_EQ(OwnPropertyRows(window), expected);
+    EXPECT_EQ(OwnPropertyLines(window), "\t\t\t<property name=\"style\" type=\"ulong\" value=\"0\" />\n"
+                                        "\t\t\t<property name=\"bkcolor\" type=\"ulong\" value=\"16777215\" />\n"
+                                        "\t\t\t<property name=\"security_level\" type=\"ushort\" value=\"0\" />\n"
+                                        "\t\t\t<property name=\"security_mode\" type=\"uchar\" value=\"0\" />\n");
+}
+
+TEST(HmiWidgetWindow, CaptionAndCentringTravelAsStyleBits)
+{
+    CHmiWidgetWindow written;
+    written.m_nCenterWnd = 1;
+    EXPECT_TRUE(OwnPropertyLines(written).starts_with("\t\t\t<property name=\"style\" type=\"ulong\" value=\"4\" />"));
+
+    CHmiWidgetWindow both;
+    EXPECT_EQ(both.SetWidgetProperty("style", "ulong", "5", ""), 1);
+    EXPECT_EQ(both.m_nHasCaption, 1);
+    EXPECT_EQ(both.m_nCenterWnd, 1);
+
+    CHmiWidgetWindow centred;
+    centred.SetWidgetProperty("style", "ulong", "0x4", "");
+    EXPECT_EQ(centred.m_nHasCaption, 0);
+    EXPECT_EQ(centred.m_nCenterWnd, 1);
+    centred.SetWidgetProperty("style", "ulong", "0", "");
+    EXPECT_EQ(centred.m_nCenterWnd, 1) << "a clear bit leaves its flag as it was";
+
+    centred.SetWidgetProperty("bkcolor", "ulong", "0x00FF00", "");
+    EXPECT_EQ(centred.m_bkColor, 0x0000FF00u);
+}
+
+TEST(HmiWidgetWindow, HasOnlyOpenAndCloseEvents)
+{
+    CHmiWidgetWindow window;
+    window.SetWidgetEventCode("click", "beep();");
+    window.SetWidgetEventCode("open", "init();");
+    std::vector<std::tuple<std::string, std::string, std::string, std::string>> events;
+    for (const CHmiWidgetEvent& event : window.GetEvents())
+        events.emplace_back(event.name, event.label, event.description, event.code);
+    EXPECT_EQ(events, (decltype(events){
+                          {"open", "open", "activate this event then open window", "init();"},
+                          {"close", "close", "activate this event then close window", ""},
+                      }));
+}
+
+TEST(HmiWidgetWindow, PropertyListShowsAndTakesTheWindowValues)
+{
+    CHmiWidgetWindow window;
+    window.m_nSecurityMode = 2;
+    MemoryOptionTree tree;
+    window.CreateWidgetPropertyTree(tree);
+    EXPECT_EQ(tree.Find("Window")->info, "Window properties");
+    EXPECT_EQ(tree.Find("security handle mode", "Window")->selection, 2);
+
+    MemoryOptionItem* caption = tree.Find("caption", "Window");
+    caption->SetCurSel(1);
+    window.UpdateWidgetPropByTree(caption);
+    MemoryOptionItem* color = tree.Find("bkcolor", "Window");
+    color->SetColor(0x00123456);
+    window.UpdateWidgetPropByTree(color);
+    EXPECT_EQ(window.m_nHasCaption, 1);
+    EXPECT_EQ(window.m_bkColor, 0x00123456u);
+}
+
+TEST(HmiWidgetWindow, CloneWritesTheSameElement)
+{
+    CHmiWidgetWindow window;
+    window.m_nHasCaption = 1;
+    window.m_bkColor = 0x00000080;
+    window.m_nSecurityLevel = 3;
+    window.m_nSecurityMode = 1;
+    window.SetWidgetRect({0, 0, 320, 240});
+    window.SetWidgetEventCode("close", "save();");
+
+    const HmiWidgetPtr clone = window.Clone();
+    ASSERT_NE(dynamic_cast<CHmiWidgetWindow*>(clone.get()), nullptr);
+    std::string original, cloned;
+    window.Serialize(original);
+    clone->Serialize(cloned);
+    EXPECT_EQ(cloned, original);
+}
