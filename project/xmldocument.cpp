@@ -1,10 +1,13 @@
 #include "xmldocument.h"
 
+#include "fileio.h"
+
 #include "textcodec.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
+#include <climits>
 #include <cstring>
 
 namespace {
@@ -86,13 +89,18 @@ XmlDocument::XmlDocument(_xmlDoc* doc)
 
 XmlDocument XmlDocument::Load(const std::string& path)
 {
-    LIBXML_TEST_VERSION
-    return XmlDocument(xmlReadFile(path.c_str(), nullptr, kParseOptions));
+    // Reading the bytes ourselves keeps libxml2 from printing its own I/O errors.
+    std::string bytes;
+    if (!ReadWholeFile(path, bytes))
+        return XmlDocument(nullptr);
+    return Parse(bytes);
 }
 
 XmlDocument XmlDocument::Parse(const std::string& text)
 {
     LIBXML_TEST_VERSION
+    if (text.size() > std::size_t(INT_MAX))
+        return XmlDocument(nullptr);
     return XmlDocument(xmlReadMemory(text.data(), int(text.size()), nullptr, nullptr, kParseOptions));
 }
 

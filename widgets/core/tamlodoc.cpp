@@ -1,8 +1,130 @@
 #include "tamlodoc.h"
 
 #include "hmiview.h"
+#include "widgetfilereader.h"
+#include "widgets/catalogue/hmiwidgetwindow.h"
 
 #include <algorithm>
+
+namespace {
+
+constexpr const char* kWindowClassKey = "window";
+
+} // namespace
+
+int& CTamloDoc::WidgetNameCounter()
+{
+    static int counter = 1;
+    return counter;
+}
+
+void CTamloDoc::DeleteContents()
+{
+    if (m_pNameList) {
+        for (const HmiWidgetPtr& widget : m_widgets)
+            m_pNameList->RemoveWidgetName(widget->GetWidgetName());
+    }
+    m_widgets.clear();
+}
+
+void CTamloDoc::AddWindowWidget(bool atTail, bool select)
+{
+    HmiWidgetPtr window(new CHmiWidgetWindow);
+    window->SetWidgetName(kWindowClassKey);
+    AddWidget(std::move(window), atTail, select);
+}
+
+void CTamloDoc::OnNewDocument()
+{
+    DeleteContents();
+    AddWindowWidget(true, true);
+    m_bModified = false;
+}
+
+bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, bool select)
+{
+    if (!widget || !widget->Init())
+        return false;
+    CHmiWidget& added = *widget;
+    if (atTail)
+        m_widgets.push_back(std::move(widget));
+    else
+        m_widgets.push_front(std::move(widget));
+    added.m_pDocument = this;
+    if (added.GetWidgetName().empty()) {
+        const std::string classKey = added.GetWidgetClassName();
+        std::string name;
+        do
+            name = classKey + std::to_string(WidgetNameCounter()++);
+        while (HasWidgetName(name));
+        added.SetWidgetName(std::move(name));
+    }
+    if (m_pNameList)
+        m_pNameList->AddWidgetName(added.GetWidgetName(), select);
+    m_bModified = true;
+    return true;
+}
+
+void CTamloDoc::RemoveWidget(CHmiWidget* widget)
+{
+    const auto found = std::find_if(m_widgets.begin(), m_widgets.end(),
+                                    [widget](const HmiWidgetPtr& w) { return w.get() == widget; });
+    if (found == m_widgets.end())
+        return;
+    if (m_pNameList)
+        m_pNameList->RemoveWidgetName(widget->GetWidgetName());
+    widget->Invalidate();
+    m_widgets.erase(found);
+    m_bModified = true;
+}
+
+bool CTamloDoc::HasWidgetName(std::string_view name) const
+{
+    return std::any_of(m_widgets.begin(), m_widgets.end(),
+                       [name](const HmiWidgetPtr& w) { return w->GetWidgetName() == name; });
+}
+
+CHmiWidget* CTamloDoc::GetWindowWidget() const
+{
+    for (const HmiWidgetPtr& widget : m_widgets) {
+        if (widget->GetWidgetClassName() == kWindowClassKey)
+            return widget.get();
+    }
+    return nullptr;
+}
+
+FileResult CTamloDoc::Load(const std::string& path)
+{
+    DeleteContents();
+    const FileResult result =
+        ReadWindowFile(path, [this](HmiWidgetPtr widget) {
+            widget->m_pView = m_views.empty() ? nullptr : m_views.front();
+            AddWidget(std::move(widget), false, false);
+        });
+    if (!GetWindowWidget())
+        AddWindowWidget(false, false);
+    for (CHmiView* view : m_views)
+        view->InvalidateView();
+    m_bModified = false;
+    return result;
+}
+
+std::string CTamloDoc::Serialize() const
+{
+    std::string archive = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
+    for (const HmiWidgetPtr& widget : m_widgets)
+        widget->Serialize(archive);
+    archive += "</hmiwidget>\n";
+    return archive;
+}
+
+FileResult CTamloDoc::Save(const std::string& path)
+{
+    FileResult result = WriteFileAtomically(path, Serialize());
+    if (result)
+        m_bModified = false;
+    return result;
+}
 
 void CTamloDoc::AddView(CHmiView* view)
 {

@@ -1,8 +1,12 @@
 #pragma once
 
 #include "hmitypes.h"
+#include "hmiwidget.h"
+#include "project/fileio.h"
 
+#include <deque>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class CHmiView;
@@ -16,7 +20,8 @@ public:
     virtual void RemoveWidgetName(const std::string& name) = 0;
 };
 
-// The document of one HMI window.
+// The document of one HMI window: it owns the window's widgets in drawing order (head first,
+// tail on top), names new widgets, and loads and saves the window file.
 class CTamloDoc {
 public:
     CTamloDoc() = default;
@@ -24,11 +29,33 @@ public:
     CTamloDoc& operator=(const CTamloDoc&) = delete;
     virtual ~CTamloDoc() = default;
 
+    // Makes the document a new window: just a window widget named "window".
+    void OnNewDocument();
+
+    // Initialises the widget and adds it at the tail (else the head). A widget without a name
+    // gets its class key and the next free value of the process-wide name counter. Returns
+    // false, destroying the widget, when it fails to initialise.
+    bool AddWidget(HmiWidgetPtr widget, bool atTail, bool select);
+    // Takes the widget out of the list and destroys it.
+    void RemoveWidget(CHmiWidget* widget);
+    bool HasWidgetName(std::string_view name) const;
+    const std::deque<HmiWidgetPtr>& Widgets() const { return m_widgets; }
+    // The first widget whose class key is "window", or null.
+    CHmiWidget* GetWindowWidget() const;
+
+    // Replaces the content with the window file at path. A file that cannot be read, is not
+    // XML or has another root leaves the document with just a window widget, and says why.
+    FileResult Load(const std::string& path);
+    // Writes the window file; on failure the previous file is left whole and the document
+    // stays modified.
+    FileResult Save(const std::string& path);
+    // The window file's bytes.
+    std::string Serialize() const;
+
     // Views that show this document; not owned.
     void AddView(CHmiView* view);
     void RemoveView(CHmiView* view);
     const std::vector<CHmiView*>& Views() const { return m_views; }
-
     // Repaints an area (window coordinates) in every view.
     void UpdateAllViews(const HmiRect& area) const;
 
@@ -38,7 +65,14 @@ public:
     void SetWidgetNameList(CWidgetNameList* list) { m_pNameList = list; }
     CWidgetNameList* GetWidgetNameList() const { return m_pNameList; }
 
+    // The counter that numbers new widget names, shared by all documents; starts at 1.
+    static int& WidgetNameCounter();
+
 private:
+    void DeleteContents();
+    void AddWindowWidget(bool atTail, bool select);
+
+    std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
     CWidgetNameList* m_pNameList = nullptr;
     bool m_bModified = false;

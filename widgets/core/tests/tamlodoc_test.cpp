@@ -1,0 +1,271 @@
+#include "tests/support/fakeview.h"
+#include "tests/support/tempdir.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+class GaugeWidget : public CHmiWidget {
+public:
+    explicit GaugeWidget(bool initialises = true) : m_initialises(initialises) {}
+    std::string GetWidgetClassName() const override { return "gauge"; }
+    bool Init() override { return m_initialises; }
+
+private:
+    bool m_initialises;
+};
+
+class RecordingNameList : public CWidgetNameList {
+public:
+    void AddWidgetName(const std::string& name, bool select) override
+    {
+        log.push_back("add " + name + (select ? " selected" : ""));
+    }
+    void RemoveWidgetName(const std::string& name) override { log.push_back("remove " + name); }
+
+    std::vector<std::string> log;
+};
+
+std::vector<std::string> NamesOf(const CTamloDoc& doc)
+{
+    std::vector<std::string> names;
+    for (const HmiWidgetPtr& widget : doc.Widgets())
+        names.push_back(widget->GetWidgetName());
+    return names;
+}
+
+HmiWidgetPtr MakeGauge(const std::string& name = {})
+{
+    HmiWidgetPtr widget(new GaugeWidget);
+    widget->SetWidgetName(name);
+    return widget;
+}
+
+struct TamloDocTest : ::testing::Test {
+    void SetUp() override
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        RegisterBuiltinWidgetClasses();
+        savedCounter = CTamloDoc::WidgetNameCounter();
+    }
+    void TearDown() override
+    {
+        CTamloDoc::WidgetNameCounter() = savedCounter;
+        CHmiWidget::RemoveAllRunTimeClass();
+    }
+
+    std::string WidgetXml(const char* name, const char* classKey, const char* properties = "")
+    {
+        return std::string("<widget name=\"") + name + "\" class=\"" + classKey + "\"><properties>" + properties +
+               "</properties></widget>";
+    }
+
+    int savedCounter = 1;
+    TempDir dir;
+};
+
+} // namespace
+
+TEST_F(TamloDocTest, NewDocumentHoldsJustTheWindowWidget)
+{
+    CTamloDoc doc;
+    RecordingNameList names;
+    doc.SetWidgetNameList(&names);
+    doc.OnNewDocument();
+    ASSERT_EQ(doc.Widgets().size(), 1u);
+    EXPECT_EQ(doc.Widgets()[0]->GetWidgetName(), "window");
+    EXPECT_EQ(doc.Widgets()[0]->GetWidgetClassName(), "window");
+    EXPECT_EQ(doc.GetWindowWidget(), doc.Widgets()[0].get());
+    EXPECT_EQ(names.log, (std::vector<std::string>{"add window selected"}));
+    EXPECT_FALSE(doc.IsModified());
+}
+
+TEST_F(TamloDocTest, NewWidgetsAreNamedFromTheSharedCounterSkippingTakenNames)
+{
+    CTamloDoc doc;
+    CTamloDoc other;
+    CTamloDoc::WidgetNameCounter() = 3;
+    doc.AddWidget(MakeGauge(), true, false);
+    other.AddWidget(MakeGauge(), true, false);
+    doc.AddWidget(MakeGauge("gauge6"), true, false);
+    doc.AddWidget(MakeGauge(), true, false);
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"gauge3", "gauge6", "gauge5"}));
+    EXPECT_EQ(NamesOf(other), (std::vector<std::string>{"gauge4"})) << "the counter is shared by all documents";
+    doc.AddWidget(MakeGauge(), true, false);
+    EXPECT_EQ(NamesOf(doc).back(), "gauge7") << "a name taken by hand is skipped";
+    EXPECT_EQ(CTamloDoc::WidgetNameCounter(), 8);
+}
+
+TEST_F(TamloDocTest, AddingAtTheHeadOrTailAndRemoving)
+{
+    CTamloDoc doc;
+    RecordingNameList names;
+    doc.SetWidgetNameList(&names);
+    doc.AddWidget(MakeGauge("b"), true, false);
+    doc.AddWidget(MakeGauge("a"), false, false);
+    doc.AddWidget(MakeGauge("c"), true, true);
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(doc.Widgets()[0]->m_pDocument, &doc);
+    EXPECT_TRUE(doc.IsModified());
+    EXPECT_TRUE(doc.HasWidgetName("b"));
+    EXPECT_FALSE(doc.HasWidgetName("B"));
+
+    doc.RemoveWidget(doc.Widgets()[1].get());
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"a", "c"}));
+    EXPECT_EQ(names.log.back(), "remove b");
+    EXPECT_EQ(names.log[2], "add c selected");
+}
+
+TEST_F(TamloDocTest, AWidgetThatFailsToInitialiseIsNotAdded)
+{
+    CTamloDoc doc;
+    EXPECT_FALSE(doc.AddWidget(HmiWidgetPtr(new GaugeWidget(false)), true, false));
+    EXPECT_TRUE(doc.Widgets().empty());
+    EXPECT_FALSE(doc.IsModified());
+}
+
+TEST_F(TamloDocTest, LoadingReversesTheFileOrderAndAddsAMissingWindow)
+{
+    const std::string path = dir.Write("abc.xml", "<hmiwidget>" + WidgetXml("A", "timer") + WidgetXml("B", "timer") +
+                                                      WidgetXml("C", "timer") + "</hmiwidget>");
+    CTamloDoc doc;
+    FakeView view;
+    doc.AddView(&view);
+    ASSERT_TRUE(doc.Load(path));
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "C", "B", "A"}));
+    EXPECT_EQ(doc.Widgets()[1]->m_pView, &view);
+    EXPECT_EQ(view.wholeViewInvalidations, 1);
+    EXPECT_FALSE(doc.IsModified());
+
+    // Saving at once writes the list order; reading that back reverses it again.
+    const std::string saved = dir.Path("saved.xml");
+    ASSERT_TRUE(doc.Save(saved));
+    CTamloDoc again;
+    ASSERT_TRUE(again.Load(saved));
+    EXPECT_EQ(NamesOf(again), (std::vector<std::string>{"A", "B", "C", "window"}));
+}
+
+TEST_F(TamloDocTest, UnreadableFilesGiveAWindowAndAReason)
+{
+    const std::pair<std::string, std::string> cases[] = {
+        {dir.Path("missing.xml"), "No such file"},
+        {dir.Write("broken.xml", "<hmiwidget><widget"), "not a well-formed XML"},
+        {dir.Write("other.xml", "<hmiwindow/>"), "<hmiwindow>"},
+        {dir.Path(""), "folder"},
+        {dir.Write("secret.xml", "<hmiwidget/>"), "Permission denied"},
+    };
+    ::chmod(dir.Path("secret.xml").c_str(), 0);
+    for (const auto& [path, reason] : cases) {
+        CTamloDoc doc;
+        doc.AddWidget(MakeGauge("old"), true, false);
+        UnprivilegedScope asUser;
+        const FileResult result = doc.Load(path);
+        EXPECT_FALSE(result) << path;
+        EXPECT_NE(result.error.find(reason), std::string::npos) << result.error;
+        EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window"}));
+    }
+}
+
+TEST_F(TamloDocTest, MalformedWidgetsAreDroppedAndTheirNeighboursKept)
+{
+    const std::string path = dir.Write(
+        "mixed.xml",
+        "<hmiwidget>" + WidgetXml("first", "timer") + WidgetXml("", "timer") + WidgetXml("noclass", "") +
+            WidgetXml("untyped", "timer", "<property name=\"left\" type=\"\" value=\"1\"/>") +
+            WidgetXml("unnamed", "timer", "<property name=\"\" type=\"short\" value=\"1\"/>") +
+            "<widget name=\"badevent\" class=\"timer\"><events><event name=\"timer\"></event></events></widget>"
+            "<widget name=\"baddynamic\" class=\"timer\"><dynamics><dynamic propname=\"left\"/></dynamics></widget>"
+            "<widget name=\"nosuchprop\" class=\"timer\"><dynamics>"
+            "<dynamic propname=\"colour\" expression=\"x\"/><dynamic propname=\"left\" expression=\"$db.x\"/>"
+            "</dynamics><extra/></widget>"
+            "<other name=\"x\" class=\"timer\"/>" +
+            WidgetXml("last", "timer", "<property name=\"left\" type=\"short\" value=\"7\"/><ignored/>") +
+            "</hmiwidget>");
+    CTamloDoc doc;
+    ASSERT_TRUE(doc.Load(path));
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "last", "nosuchprop", "first"}));
+    EXPECT_EQ(doc.Widgets()[1]->GetWidgetRect().left, 7);
+    EXPECT_EQ(doc.Widgets()[2]->FindProperty("left")->m_strExpression, "$db.x");
+}
+
+TEST_F(TamloDocTest, UnknownClassesSurviveARoundTripWithTheirProperties)
+{
+    const std::string original = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
+                                 "\t<widget name=\"g1\"  class=\"gauge\">\r\n\t\t<properties>\r\n"
+                                 "\t\t\t<property name=\"left\" type=\"short\" value=\"5\" />\n"
+                                 "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"255\" />\n"
+                                 "\t\t\t<property name=\"label\" type=\"string\" length=\"40\" value=\"a &amp; b\" />\n"
+                                 "\t\t</properties>\r\n\t\t<dynamics>\r\n\t\t</dynamics>\r\n"
+                                 "\t\t<events>\r\n\t\t</events>\r\n\t</widget>\r\n</hmiwidget>\n";
+    CTamloDoc doc;
+    ASSERT_TRUE(doc.Load(dir.Write("gauge.xml", original)));
+    ASSERT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "g1"}));
+    const std::string saved = doc.Serialize();
+    // The kept lines come back as read: the value is not escaped again.
+    EXPECT_NE(saved.find("\t<widget name=\"g1\"  class=\"gauge\">\r\n"), std::string::npos);
+    EXPECT_NE(saved.find("\t\t\t<property name=\"flashspeed\" type=\"ulong\" value=\"1\" />\n"
+                         "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"255\" />\n"
+                         "\t\t\t<property name=\"label\" type=\"string\" length=\"40\" value=\"a & b\" />\n"
+                         "\t\t</properties>"),
+              std::string::npos)
+        << saved;
+}
+
+TEST_F(TamloDocTest, ChineseTextSurvivesLoadAndSaveByteForByte)
+{
+    const std::string caption = "\xCE\xC2\xB6\xC8"; // two Chinese characters in GB2312
+    const std::string file = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
+                             "\t<widget name=\"" + caption + "\"  class=\"caption\">\r\n\t\t<properties>\r\n"
+                             "\t\t\t<property name=\"text\" type=\"string\" value=\"" + caption + "\" />\n"
+                             "\t\t</properties>\r\n\t\t<dynamics>\r\n\t\t</dynamics>\r\n"
+                             "\t\t<events>\r\n\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[say(\"" + caption +
+                             "\");]]>\n\t\t\t</event>\r\n\t\t</events>\r\n\t</widget>\r\n</hmiwidget>\n";
+    CTamloDoc doc;
+    ASSERT_TRUE(doc.Load(dir.Write("chinese.xml", file)));
+    const CHmiWidget& widget = *doc.Widgets()[1];
+    EXPECT_EQ(widget.GetWidgetName(), caption);
+    EXPECT_EQ(widget.GetEvents()[0].code, "say(\"" + caption + "\");");
+    const std::string saved = doc.Serialize();
+    EXPECT_NE(saved.find("value=\"" + caption + "\""), std::string::npos);
+    EXPECT_NE(saved.find("<![CDATA[say(\"" + caption + "\");]]>"), std::string::npos);
+}
+
+TEST_F(TamloDocTest, AFailedSaveKeepsTheOldFileAndTheModifiedFlag)
+{
+    const std::string path = dir.Write("keep.xml", "old bytes");
+    CTamloDoc doc;
+    doc.OnNewDocument();
+    doc.AddWidget(MakeGauge(), true, false);
+    ASSERT_EQ(::chmod(dir.Path("").c_str(), 0555), 0);
+    FileResult result;
+    {
+        UnprivilegedScope asUser;
+        result = doc.Save(path);
+    }
+    ::chmod(dir.Path("").c_str(), 0755);
+    EXPECT_FALSE(result);
+    EXPECT_NE(result.error.find("Permission denied"), std::string::npos) << result.error;
+    EXPECT_EQ(dir.Read("keep.xml"), "old bytes");
+    EXPECT_TRUE(doc.IsModified());
+    EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"keep.xml"})) << "no temporary file is left behind";
+}
+
+TEST_F(TamloDocTest, ASaveReplacesTheFileWhole)
+{
+    const std::string path = dir.Write("window.xml", std::string(100000, 'x'));
+    ::chmod(path.c_str(), 0640);
+    CTamloDoc doc;
+    doc.OnNewDocument();
+    doc.SetModifiedFlag();
+    ASSERT_TRUE(doc.Save(path));
+    EXPECT_EQ(dir.Read("window.xml"), doc.Serialize());
+    EXPECT_FALSE(doc.IsModified());
+    struct stat info;
+    ::stat(path.c_str(), &info);
+    EXPECT_EQ(info.st_mode & 0777, 0640u) << "the file keeps its permissions";
+}

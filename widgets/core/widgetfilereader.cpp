@@ -1,0 +1,123 @@
+#include "widgetfilereader.h"
+
+#include "dynamics/dynamictype.h"
+#include "project/xmldocument.h"
+#include "widgets/catalogue/hmiwidgetcustom.h"
+
+
+namespace {
+
+// Each section reader returns false when the section is malformed, which drops the widget.
+
+bool ReadProperties(CHmiWidget& widget, const XmlElement& section)
+{
+    for (XmlElement property : ChildElements(section)) {
+        if (!property.Is("property"))
+            continue;
+        const std::string name = property.Attribute("name");
+        const std::string type = property.Attribute("type");
+        if (name.empty() || type.empty())
+            return false;
+        widget.SetWidgetProperty(name, type, property.Attribute("value"), property.Attribute("length"));
+    }
+    return true;
+}
+
+bool ReadDynamics(CHmiWidget& widget, const XmlElement& section)
+{
+    for (XmlElement dynamic : ChildElements(section)) {
+        if (!dynamic.Is("dynamic"))
+            continue;
+        const std::string propName = dynamic.Attribute("propname");
+        const std::string expression = dynamic.Attribute("expression");
+        if (propName.empty() || expression.empty())
+            return false;
+        CHmiWidgetProp* prop = widget.AddWidgetDynProp(propName, expression);
+        if (!prop)
+            continue; // no such property: nothing to bind
+        std::unique_ptr<CHmiDynamicType> type = CreateDynamicType(dynamic.Attribute("type"));
+        if (!type)
+            continue;
+        for (XmlElement inner : ChildElements(dynamic)) {
+            if (inner.Is("type_params") || inner.Is("code"))
+                type->ReadInnerElement(inner);
+        }
+        prop->SetDynamicType(std::move(type));
+    }
+    return true;
+}
+
+bool ReadEvents(CHmiWidget& widget, const XmlElement& section)
+{
+    for (XmlElement event : ChildElements(section)) {
+        if (!event.Is("event"))
+            continue;
+        const std::string name = event.Attribute("name");
+        const std::string code = event.Text();
+        if (name.empty() || code.empty())
+            return false;
+        widget.SetWidgetEventCode(name, code);
+    }
+    return true;
+}
+
+HmiWidgetPtr ReadWidget(const XmlElement& element)
+{
+    const std::string classKey = element.Attribute("class");
+    if (classKey.empty())
+        return nullptr;
+    const CHmiRuntimeClass* runtimeClass = CHmiWidget::GetWidgetClass(classKey);
+    HmiWidgetPtr widget = runtimeClass->CreateObject();
+    if (!widget)
+        return nullptr;
+    if (runtimeClass == &CHmiWidgetCustom::classCHmiWidgetCustom)
+        static_cast<CHmiWidgetCustom&>(*widget).ClassName = classKey;
+
+    std::string name = element.Attribute("name");
+    if (name.empty())
+        return nullptr;
+    widget->SetWidgetName(std::move(name));
+
+    for (XmlElement section : ChildElements(element)) {
+        bool ok = true;
+        if (section.Is("properties"))
+            ok = ReadProperties(*widget, section);
+        else if (section.Is("dynamics"))
+            ok = ReadDynamics(*widget, section);
+        else if (section.Is("events"))
+            ok = ReadEvents(*widget, section);
+        if (!ok)
+            return nullptr;
+    }
+    return widget;
+}
+
+} // namespace
+
+FileResult ReadWindowDocument(const XmlDocument& document, const WidgetSink& sink)
+{
+    const XmlElement root = document.Root();
+    if (!document.IsValid())
+        return FileResult::Failure("The file is not a well-formed XML file.");
+    if (!root.Is("hmiwidget"))
+        return FileResult::Failure("The file is not a window file: its root element is <" + root.Name() + ">.");
+    for (XmlElement element : ChildElements(root)) {
+        if (!element.Is("widget"))
+            continue;
+        if (HmiWidgetPtr widget = ReadWidget(element))
+            sink(std::move(widget));
+    }
+    return FileResult::Success();
+}
+
+FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
+{
+    std::string bytes;
+    FileResult result = ReadWholeFile(path, bytes);
+    if (!result)
+        return result;
+    result = ReadWindowDocument(XmlDocument::Parse(bytes), sink);
+    if (!result)
+        result.error = path + ": " + result.error;
+    return result;
+}
