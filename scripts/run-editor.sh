@@ -6,4 +6,8 @@ cd "$(dirname "$0")/.."
 bash scripts/install-deps.sh
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
 cmake --build build -j2
-exec build/bin/kelvo-hmi --help
+# Until the desktop editor is built, the command-line tool shows the demo windows' widgets.
+for window in examples/demo/main.xml examples/demo/pumps.xml; do
+    echo "== $window"
+    build/bin/kelvo-hmi list "$window"
+done

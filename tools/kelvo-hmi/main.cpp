@@ -1,52 +1,81 @@
 // kelvo-hmi: the editor's core on the command line, for people and scripts without a display.
 
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/tamlodoc.h"
+
 #include <cstdio>
-#include <cstring>
 #include <functional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace {
+
+using Arguments = std::span<char* const>;
 
 struct Command {
     std::string_view name;
     std::string_view usage;
     std::string_view summary;
-    std::function<int(std::span<char*> args)> run; // args after the command name
+    int argumentCount;
+    std::function<int(Arguments args)> run; // args after the command name
 };
 
-const std::span<const Command> Commands();
+int Fail(const std::string& message)
+{
+    std::fprintf(stderr, "kelvo-hmi: %s\n", message.c_str());
+    return 1;
+}
+
+int List(Arguments args)
+{
+    CTamloDoc document;
+    if (const FileResult loaded = document.Load(args[0]); !loaded)
+        return Fail(loaded.error);
+    for (const HmiWidgetPtr& widget : document.Widgets()) {
+        const HmiRect& r = widget->GetWidgetRect();
+        std::printf("%s\t%s\t%d\t%d\t%d\t%d\n", widget->GetWidgetName().c_str(),
+                    widget->GetWidgetClassName().c_str(), r.left, r.top, r.right, r.bottom);
+    }
+    return 0;
+}
+
+int RoundTrip(Arguments args)
+{
+    CTamloDoc document;
+    if (const FileResult loaded = document.Load(args[0]); !loaded)
+        return Fail(loaded.error);
+    if (const FileResult saved = document.Save(args[1]); !saved)
+        return Fail(saved.error);
+    return 0;
+}
+
+
+const Command kCommands[] = {
+    {"list", "list WINDOW.xml", "one line per widget: name, class, left, top, right, bottom", 1, List},
+    {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, RoundTrip},
+};
 
 void PrintUsage(std::FILE* out)
 {
     std::fprintf(out, "Usage: kelvo-hmi COMMAND [ARGS]\n\nCommands:\n");
-    for (const Command& command : Commands())
-        std::fprintf(out, "  %-34.*s %.*s\n", int(command.usage.size()), command.usage.data(),
+    for (const Command& command : kCommands)
+        std::fprintf(out, "  %-30.*s %.*s\n", int(command.usage.size()), command.usage.data(),
                      int(command.summary.size()), command.summary.data());
-    std::fprintf(out, "\nOptions:\n  %-34s %s\n  %-34s %s\n", "--help", "show this help",
-                 "--version", "show the version");
-}
-
-const std::span<const Command> Commands()
-{
-    static const Command commands[] = {
-        {"help", "help", "show this help", [](std::span<char*>) {
-             PrintUsage(stdout);
-             return 0;
-         }},
-    };
-    return commands;
+    std::fprintf(out, "\nOptions:\n  %-30s %s\n  %-30s %s\n", "--help", "show this help", "--version",
+                 "show the version");
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    if (argc < 2) {
+    const Arguments args(argv + 1, argv + argc);
+    if (args.empty()) {
         PrintUsage(stderr);
         return 2;
     }
-    const std::string_view first = argv[1];
+    const std::string_view first = args[0];
     if (first == "--help" || first == "-h") {
         PrintUsage(stdout);
         return 0;
@@ -55,9 +84,15 @@ int main(int argc, char* argv[])
         std::printf("kelvo-hmi %s\n", KELVO_VERSION);
         return 0;
     }
-    for (const Command& command : Commands()) {
-        if (command.name == first)
-            return command.run(std::span<char*>(argv + 2, argv + argc));
+    for (const Command& command : kCommands) {
+        if (command.name != first)
+            continue;
+        if (int(args.size()) - 1 != command.argumentCount) {
+            std::fprintf(stderr, "Usage: kelvo-hmi %.*s\n", int(command.usage.size()), command.usage.data());
+            return 2;
+        }
+        RegisterBuiltinWidgetClasses();
+        return command.run(args.subspan(1));
     }
     std::fprintf(stderr, "kelvo-hmi: unknown command '%s'\n\n", argv[1]);
     PrintUsage(stderr);
