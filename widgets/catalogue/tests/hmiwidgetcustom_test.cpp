@@ -1,4 +1,5 @@
 #include "tests/support/memoryoptiontree.h"
+#include "tests/support/windowfilelines.h"
 #include "widgets/catalogue/hmiwidgetcustom.h"
 
 #include <gtest/gtest.h>
@@ -27,17 +28,7 @@ TEST(HmiWidgetCustom, WritesTheKeptLinesAfterTheBaseProperties)
     EXPECT_EQ(archive,
               "\t<widget name=\"g1\"  class=\"gauge\">\r\n"
               "\t\t<properties>\r\n"
-              "\t\t\t<property name=\"left\" type=\"short\" value=\"0\" />\n"
-              "\t\t\t<property name=\"right\" type=\"short\" value=\"0\" />\n"
-              "\t\t\t<property name=\"top\" type=\"short\" value=\"0\" />\n"
-              "\t\t\t<property name=\"bottom\" type=\"short\" value=\"0\" />\n"
-              "\t\t\t<property name=\"visible\" type=\"uchar\" value=\"1\" />\n"
-              "\t\t\t<property name=\"enable\" type=\"uchar\" value=\"1\" />\n"
-              "\t\t\t<property name=\"noredraw\" type=\"uchar\" value=\"0\" />\n"
-              "\t\t\t<property name=\"xoffset\" type=\"short\" value=\"0\" />\n"
-              "\t\t\t<property name=\"yoffset\" type=\"short\" value=\"0\" />\n"
-              "\t\t\t<property name=\"flash\" type=\"uchar\" value=\"0\" />\n"
-              "\t\t\t<property name=\"flashspeed\" type=\"ulong\" value=\"1\" />\n"
+              + BaseWidgetLines() +
               "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"255\" />\n"
               "\t\t</properties>\r\n"
               "\t\t<dynamics>\r\n"

@@ -1,21 +1,11 @@
 #include "tests/support/memoryoptiontree.h"
+#include "tests/support/recordingnamelist.h"
 #include "widgets/core/hmiwidget.h"
 #include "widgets/core/tamlodoc.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-class RecordingNameList : public CWidgetNameList {
-public:
-    void AddWidgetName(const std::string& name, bool select) override
-    {
-        log.push_back("add " + name + (select ? " selected" : ""));
-    }
-    void RemoveWidgetName(const std::string& name) override { log.push_back("remove " + name); }
-
-    std::vector<std::string> log;
-};
 
 // A widget with a group of its own, to see rows land under their group's root item.
 class GaugeWidget : public CHmiWidget {

@@ -1,4 +1,5 @@
 #include "tests/support/fakeview.h"
+#include "tests/support/recordingnamelist.h"
 #include "tests/support/tempdir.h"
 #include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/core/tamlodoc.h"
@@ -18,17 +19,6 @@ public:
 
 private:
     bool m_initialises;
-};
-
-class RecordingNameList : public CWidgetNameList {
-public:
-    void AddWidgetName(const std::string& name, bool select) override
-    {
-        log.push_back("add " + name + (select ? " selected" : ""));
-    }
-    void RemoveWidgetName(const std::string& name) override { log.push_back("remove " + name); }
-
-    std::vector<std::string> log;
 };
 
 std::vector<std::string> NamesOf(const CTamloDoc& doc)

@@ -3,6 +3,7 @@
 
 #include "dynamics/dynamictypes.h"
 #include "tests/support/tempdir.h"
+#include "tests/support/windowfilelines.h"
 #include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/catalogue/hmiwidgetcustom.h"
 #include "widgets/catalogue/hmiwidgettimer.h"
@@ -60,24 +61,8 @@ public:
 
 HMI_IMPLEMENT_WIDGET_CLASS(LabelWidget, CHmiWidget)
 
-// The widget lines shared by every widget of the file below.
-std::string BaseLines(int left, int right, int top, int bottom)
-{
-    return "\t\t\t<property name=\"left\" type=\"short\" value=\"" + std::to_string(left) + "\" />\n"
-           "\t\t\t<property name=\"right\" type=\"short\" value=\"" + std::to_string(right) + "\" />\n"
-           "\t\t\t<property name=\"top\" type=\"short\" value=\"" + std::to_string(top) + "\" />\n"
-           "\t\t\t<property name=\"bottom\" type=\"short\" value=\"" + std::to_string(bottom) + "\" />\n"
-           "\t\t\t<property name=\"visible\" type=\"uchar\" value=\"1\" />\n"
-           "\t\t\t<property name=\"enable\" type=\"uchar\" value=\"1\" />\n"
-           "\t\t\t<property name=\"noredraw\" type=\"uchar\" value=\"0\" />\n"
-           "\t\t\t<property name=\"xoffset\" type=\"short\" value=\"0\" />\n"
-           "\t\t\t<property name=\"yoffset\" type=\"short\" value=\"0\" />\n"
-           "\t\t\t<property name=\"flash\" type=\"uchar\" value=\"0\" />\n"
-           "\t\t\t<property name=\"flashspeed\" type=\"ulong\" value=\"1\" />\n";
-}
-
 const std::string kWindowElement =
-    "\t<widget name=\"window\"  class=\"window\">\r\n\t\t<properties>\r\n" + BaseLines(0, 1024, 0, 768) +
+    "\t<widget name=\"window\"  class=\"window\">\r\n\t\t<properties>\r\n" + BaseWidgetLines(0, 1024, 0, 768) +
     "\t\t\t<property name=\"style\" type=\"ulong\" value=\"5\" />\n"
     "\t\t\t<property name=\"bkcolor\" type=\"ulong\" value=\"16777215\" />\n"
     "\t\t\t<property name=\"security_level\" type=\"ushort\" value=\"2\" />\n"
@@ -94,7 +79,7 @@ const std::string kWindowElement =
     "\t</widget>\r\n";
 
 const std::string kValveElement =
-    "\t<widget name=\"valve1\"  class=\"valve\">\r\n\t\t<properties>\r\n" + BaseLines(100, 160, 50, 110) +
+    "\t<widget name=\"valve1\"  class=\"valve\">\r\n\t\t<properties>\r\n" + BaseWidgetLines(100, 160, 50, 110) +
     "\t\t\t<property name=\"centercolor\" type=\"ulong\" value=\"65280\" />\n"
     "\t\t</properties>\r\n"
     "\t\t<dynamics>\r\n"
@@ -108,7 +93,7 @@ const std::string kValveElement =
     "\t</widget>\r\n";
 
 const std::string kTimerElement =
-    "\t<widget name=\"tick\"  class=\"timer\">\r\n\t\t<properties>\r\n" + BaseLines(10, 42, 10, 42) +
+    "\t<widget name=\"tick\"  class=\"timer\">\r\n\t\t<properties>\r\n" + BaseWidgetLines(10, 42, 10, 42) +
     "\t\t\t<property name=\"interval\" type=\"ulong\" value=\"250\" />\n"
     "\t\t</properties>\r\n"
     "\t\t<dynamics>\r\n"
@@ -122,7 +107,7 @@ const std::string kTimerElement =
     "\t</widget>\r\n";
 
 const std::string kLabelElement =
-    "\t<widget name=\"label1\"  class=\"label\">\r\n\t\t<properties>\r\n" + BaseLines(200, 400, 100, 140) +
+    "\t<widget name=\"label1\"  class=\"label\">\r\n\t\t<properties>\r\n" + BaseWidgetLines(200, 400, 100, 140) +
     "\t\t\t<property name=\"text\" type=\"string\" length=\"32\" "
     "value=\"a&lt;b &amp; &quot;c&quot; &gt; &apos;d&apos;\" />\n"
     "\t\t\t<property name=\"format\" type=\"string\" length=\"64\" value=\"%.2f\" />\n"
@@ -147,7 +132,7 @@ const std::string kLabelElement =
     "\t</widget>\r\n";
 
 const std::string kGaugeElement =
-    "\t<widget name=\"g1\"  class=\"gauge\">\r\n\t\t<properties>\r\n" + BaseLines(5, 25, 5, 25) +
+    "\t<widget name=\"g1\"  class=\"gauge\">\r\n\t\t<properties>\r\n" + BaseWidgetLines(5, 25, 5, 25) +
     "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"7\" />\n"
     "\t\t</properties>\r\n"
     "\t\t<dynamics>\r\n"
