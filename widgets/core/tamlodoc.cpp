@@ -96,6 +96,7 @@ CHmiWidget* CTamloDoc::GetWindowWidget() const
 FileResult CTamloDoc::Load(const std::string& path)
 {
     DeleteContents();
+    m_strPathName = path;
     const FileResult result =
         ReadWindowFile(path, [this](HmiWidgetPtr widget) {
             widget->m_pView = m_views.empty() ? nullptr : m_views.front();
@@ -121,8 +122,10 @@ std::string CTamloDoc::Serialize() const
 FileResult CTamloDoc::Save(const std::string& path)
 {
     FileResult result = WriteFileAtomically(path, Serialize());
-    if (result)
+    if (result) {
         m_bModified = false;
+        m_strPathName = path;
+    }
     return result;
 }
 

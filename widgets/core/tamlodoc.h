@@ -49,6 +49,9 @@ public:
     // Writes the window file; on failure the previous file is left whole and the document
     // stays modified.
     FileResult Save(const std::string& path);
+    // The window file the document was last loaded from or saved to; empty for a new window.
+    // Pictures are found in its folder.
+    const std::string& GetPathName() const { return m_strPathName; }
     // The window file's bytes.
     std::string Serialize() const;
 
@@ -74,6 +77,7 @@ private:
 
     std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
+    std::string m_strPathName;
     CWidgetNameList* m_pNameList = nullptr;
     bool m_bModified = false;
 };

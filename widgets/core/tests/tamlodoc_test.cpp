@@ -242,6 +242,7 @@ TEST_F(TamloDocTest, AFailedSaveKeepsTheOldFileAndTheModifiedFlag)
     EXPECT_NE(result.error.find("Permission denied"), std::string::npos) << result.error;
     EXPECT_EQ(dir.Read("keep.xml"), "old bytes");
     EXPECT_TRUE(doc.IsModified());
+    EXPECT_EQ(doc.GetPathName(), "") << "the document is still the new one";
     EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"keep.xml"})) << "no temporary file is left behind";
 }
 
@@ -253,6 +254,7 @@ TEST_F(TamloDocTest, ASaveReplacesTheFileWhole)
     doc.OnNewDocument();
     doc.SetModifiedFlag();
     ASSERT_TRUE(doc.Save(path));
+    EXPECT_EQ(doc.GetPathName(), path);
     EXPECT_EQ(dir.Read("window.xml"), doc.Serialize());
     EXPECT_FALSE(doc.IsModified());
     struct stat info;
