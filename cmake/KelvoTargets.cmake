@@ -16,15 +16,20 @@ function(kelvo_add_executable name)
     target_compile_options(${name} PRIVATE -Wall -Wextra)
 endfunction()
 
-# kelvo_add_test(NAME SOURCES ... LIBS ... [DATA_DIR dir]): a GoogleTest program run by ctest.
-# DATA_DIR reaches the tests as the compile definition KELVO_TEST_DATA_DIR.
+# kelvo_add_test(NAME [GUI] SOURCES ... LIBS ... [DATA_DIR dir]): a GoogleTest program run by
+# ctest. GUI gives the tests a QGuiApplication (offscreen unless a platform is set), which
+# fonts need. DATA_DIR reaches the tests as the compile definition KELVO_TEST_DATA_DIR.
 function(kelvo_add_test name)
     if(NOT KELVO_BUILD_TESTS)
         return()
     endif()
-    cmake_parse_arguments(ARG "" "DATA_DIR" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "GUI" "DATA_DIR" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main)
+    if(ARG_GUI)
+        target_link_libraries(${name} PRIVATE ${ARG_LIBS} kelvo-gui-test-main GTest::gtest)
+    else()
+        target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main)
+    endif()
     target_compile_options(${name} PRIVATE -Wall -Wextra)
     if(ARG_DATA_DIR)
         target_compile_definitions(${name} PRIVATE KELVO_TEST_DATA_DIR="${ARG_DATA_DIR}")

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "hmidc.h"
+
+class QPainter;
+
+// The drawing target over a QPainter, with antialiasing off and the device-context pixel
+// rules of CHmiDC: the canvas creates one on its own painter, and CHmiImageDC on an image.
+// One-pixel lines are rasterised here rather than by Qt, so that the end point is left out
+// and dotted and dashed patterns run along the line as on the panel.
+class CHmiPainterDC : public CHmiDC {
+public:
+    explicit CHmiPainterDC(QPainter& painter);
+
+    HmiPen SelectPen(const HmiPen& pen) override;
+    HmiBrush SelectBrush(const HmiBrush& brush) override;
+    HmiFont SelectFont(const HmiFont& font) override;
+    HmiColor SetTextColor(HmiColor color) override;
+    HmiColor SetBkColor(HmiColor color) override;
+    HmiBkMode SetBkMode(HmiBkMode mode) override;
+    HmiPoint MoveTo(HmiPoint point) override;
+    void LineTo(HmiPoint point) override;
+    void Rectangle(const HmiRect& rect) override;
+    void Ellipse(const HmiRect& rect) override;
+    void Polygon(std::span<const HmiPoint> points) override;
+    void FillSolidRect(const HmiRect& rect, HmiColor color) override;
+    void DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format) override;
+    HmiPoint GetTextExtent(std::string_view text) override;
+    bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
+
+private:
+    // A line from one point up to, not including, the other, in the current pen.
+    void DrawPenLine(HmiPoint from, HmiPoint to);
+    void DrawThinLine(HmiPoint from, HmiPoint to);
+    void ApplyPenAndBrush();
+
+    QPainter& m_painter;
+    HmiPen m_pen;
+    HmiBrush m_brush;
+    HmiFont m_font = HmiFont::DefaultGui();
+    HmiColor m_textColor = 0;
+    HmiColor m_bkColor = 0x00FFFFFF;
+    HmiBkMode m_bkMode = HmiBkMode::Opaque;
+    HmiPoint m_position;
+    int m_patternPhase = 0; // where a dotted line's pattern stands, carried from segment to segment
+};

@@ -1,0 +1,212 @@
+// Pixels painted by the real painter target on an image.
+
+#include "tests/support/tempdir.h"
+#include "widgets/core/hmiimagedc.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace {
+
+constexpr HmiColor kWhite = 0xFFFFFF;
+constexpr HmiColor kBlack = 0x000000;
+constexpr HmiColor kRed = 0x0000FF;
+constexpr HmiColor kBlue = 0xFF0000;
+
+// The set of pixels of one colour, as "x,y" texts, so that failures show where.
+std::set<std::string> PixelsOf(const CHmiImageDC& dc, HmiColor color)
+{
+    std::set<std::string> pixels;
+    for (int y = 0; y < dc.Height(); ++y)
+        for (int x = 0; x < dc.Width(); ++x)
+            if (dc.GetPixel(x, y) == color)
+                pixels.insert(std::to_string(x) + "," + std::to_string(y));
+    return pixels;
+}
+
+std::set<std::string> Span(int x0, int y0, int x1, int y1)
+{
+    std::set<std::string> pixels;
+    for (int y = y0; y <= y1; ++y)
+        for (int x = x0; x <= x1; ++x)
+            pixels.insert(std::to_string(x) + "," + std::to_string(y));
+    return pixels;
+}
+
+std::set<HmiColor> ColoursIn(const CHmiImageDC& dc)
+{
+    std::set<HmiColor> colours;
+    for (int y = 0; y < dc.Height(); ++y)
+        for (int x = 0; x < dc.Width(); ++x)
+            colours.insert(dc.GetPixel(x, y));
+    return colours;
+}
+
+void DrawLine(CHmiDC& dc, HmiPoint from, HmiPoint to)
+{
+    dc.MoveTo(from);
+    dc.LineTo(to);
+}
+
+} // namespace
+
+TEST(PainterDC, RectangleCoversLeftToRightMinusOneOutlineIncluded)
+{
+    for (const HmiRect rect : {HmiRect{2, 3, 6, 7}, HmiRect{6, 7, 2, 3}}) {
+        CHmiImageDC dc(10, 10);
+        dc.SelectPen({HmiPenStyle::Solid, 1, kBlack});
+        dc.SelectBrush({false, kRed});
+        dc.Rectangle(rect);
+        EXPECT_EQ(PixelsOf(dc, kRed), Span(3, 4, 4, 5));
+        std::set<std::string> outline = Span(2, 3, 5, 6);
+        for (const std::string& inner : Span(3, 4, 4, 5))
+            outline.erase(inner);
+        EXPECT_EQ(PixelsOf(dc, kBlack), outline);
+    }
+    CHmiImageDC hollow(10, 10);
+    hollow.SelectBrush({true, kRed});
+    hollow.Rectangle({0, 0, 4, 4});
+    EXPECT_TRUE(PixelsOf(hollow, kRed).empty());
+    EXPECT_EQ(PixelsOf(hollow, kBlack).size(), 12u);
+}
+
+TEST(PainterDC, LinesLeaveOutTheirEndPointInEveryDirection)
+{
+    CHmiImageDC dc(12, 12);
+    DrawLine(dc, {1, 1}, {6, 1});
+    EXPECT_EQ(PixelsOf(dc, kBlack), Span(1, 1, 5, 1));
+
+    CHmiImageDC back(12, 12);
+    DrawLine(back, {6, 1}, {1, 1});
+    EXPECT_EQ(PixelsOf(back, kBlack), Span(2, 1, 6, 1));
+
+    CHmiImageDC vertical(12, 12);
+    DrawLine(vertical, {3, 8}, {3, 2});
+    EXPECT_EQ(PixelsOf(vertical, kBlack), Span(3, 3, 3, 8));
+
+    CHmiImageDC diagonal(12, 12);
+    DrawLine(diagonal, {0, 0}, {4, 4});
+    EXPECT_EQ(PixelsOf(diagonal, kBlack), (std::set<std::string>{"0,0", "1,1", "2,2", "3,3"}));
+
+    CHmiImageDC zeroWidth(12, 12);
+    zeroWidth.SelectPen({HmiPenStyle::Solid, 0, kBlack});
+    DrawLine(zeroWidth, {0, 5}, {10, 5});
+    EXPECT_EQ(PixelsOf(zeroWidth, kBlack), Span(0, 5, 9, 5)) << "a pen of width 0 paints one pixel wide";
+
+    CHmiImageDC wide(12, 12);
+    wide.SelectPen({HmiPenStyle::Solid, 3, kBlack});
+    DrawLine(wide, {2, 6}, {9, 6});
+    EXPECT_EQ(wide.GetPixel(5, 5), kBlack);
+    EXPECT_EQ(wide.GetPixel(5, 7), kBlack);
+    EXPECT_EQ(wide.GetPixel(5, 9), kWhite);
+}
+
+TEST(PainterDC, DottedPensRunThreeOnThreeOffAndFillGapsOnlyWhenOpaque)
+{
+    CHmiImageDC dc(14, 4);
+    dc.SelectPen({HmiPenStyle::Dot, 1, kBlack});
+    dc.SetBkMode(HmiBkMode::Transparent);
+    DrawLine(dc, {0, 1}, {13, 1});
+    std::set<std::string> expected = Span(0, 1, 2, 1);
+    expected.merge(Span(6, 1, 8, 1));
+    expected.merge(Span(12, 1, 12, 1));
+    EXPECT_EQ(PixelsOf(dc, kBlack), expected);
+    EXPECT_EQ(PixelsOf(dc, kBlue).size(), 0u);
+
+    dc.SetBkMode(HmiBkMode::Opaque);
+    dc.SetBkColor(kBlue);
+    DrawLine(dc, {0, 2}, {13, 2});
+    std::set<std::string> gaps = Span(3, 2, 5, 2);
+    gaps.merge(Span(9, 2, 11, 2));
+    EXPECT_EQ(PixelsOf(dc, kBlue), gaps);
+}
+
+TEST(PainterDC, EllipseStaysInsideItsRectangle)
+{
+    CHmiImageDC dc(14, 14);
+    dc.SelectBrush({false, kRed});
+    dc.Ellipse({1, 1, 11, 11});
+    EXPECT_EQ(dc.GetPixel(6, 6), kRed);
+    for (int i = 0; i < 14; ++i) {
+        EXPECT_EQ(dc.GetPixel(11, i), kWhite) << "column 11 at " << i;
+        EXPECT_EQ(dc.GetPixel(i, 11), kWhite) << "row 11 at " << i;
+        EXPECT_EQ(dc.GetPixel(0, i), kWhite) << "column 0 at " << i;
+    }
+    EXPECT_FALSE(PixelsOf(dc, kBlack).empty());
+    bool touchesColumn10 = false;
+    for (int y = 0; y < 14; ++y)
+        touchesColumn10 |= dc.GetPixel(10, y) == kBlack;
+    EXPECT_TRUE(touchesColumn10) << "the outline reaches right - 1";
+}
+
+TEST(PainterDC, TextIsTwoColouredWrapsAlignsAndFillsItsBackgroundWhenOpaque)
+{
+    CHmiImageDC dc(120, 60);
+    dc.SetBkMode(HmiBkMode::Transparent);
+    dc.SelectFont({"DejaVu Sans", -12, 400});
+    dc.DrawText("Hello", {0, 0, 120, 20}, HMI_DT_LEFT | HMI_DT_SINGLELINE);
+    EXPECT_EQ(ColoursIn(dc), (std::set<HmiColor>{kWhite, kBlack})) << "no antialiasing";
+
+    CHmiImageDC wrapped(60, 60);
+    wrapped.SelectFont({"DejaVu Sans", -12, 400});
+    wrapped.SetBkMode(HmiBkMode::Transparent);
+    wrapped.DrawText("wide words wrap", {0, 0, 60, 60}, HMI_DT_WORDBREAK);
+    int lowest = 0;
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 60; ++x)
+            if (wrapped.GetPixel(x, y) == kBlack)
+                lowest = y;
+    EXPECT_GT(lowest, 20) << "the words go on a second line";
+
+    auto rightmostInk = [](HmiColor ink, std::uint32_t format) {
+        CHmiImageDC target(100, 20);
+        target.SelectFont({"DejaVu Sans", -12, 400});
+        target.SetBkColor(kBlue);
+        target.DrawText("ab", {0, 0, 100, 20}, format | HMI_DT_SINGLELINE);
+        int rightmost = -1;
+        for (int y = 0; y < 20; ++y)
+            for (int x = 0; x < 100; ++x)
+                if (target.GetPixel(x, y) == ink)
+                    rightmost = std::max(rightmost, x);
+        return rightmost;
+    };
+    EXPECT_LT(rightmostInk(kBlack, HMI_DT_LEFT), 30);
+    EXPECT_GT(rightmostInk(kBlack, HMI_DT_RIGHT), 90);
+    EXPECT_GT(rightmostInk(kBlue, HMI_DT_CENTER), 50) << "opaque text fills its background";
+    EXPECT_LT(rightmostInk(kBlue, HMI_DT_CENTER), 70);
+}
+
+TEST(PainterDC, PicturesAreStretchedWithTheirTransparentColourLeftOut)
+{
+    TempDir dir;
+    QImage picture(2, 2, QImage::Format_RGB32);
+    picture.setPixel(0, 0, qRgb(255, 0, 0));
+    picture.setPixel(1, 0, qRgb(0, 255, 0));
+    picture.setPixel(0, 1, qRgb(0, 0, 255));
+    picture.setPixel(1, 1, qRgb(0, 0, 0));
+    const std::string path = dir.Path("tiles.png");
+    ASSERT_TRUE(picture.save(QString::fromStdString(path)));
+
+    CHmiImageDC dc(6, 6);
+    ASSERT_TRUE(dc.DrawPictureFile(path, {1, 1, 5, 5}, nullptr));
+    EXPECT_EQ(PixelsOf(dc, kRed), Span(1, 1, 2, 2));
+    EXPECT_EQ(PixelsOf(dc, kBlue), Span(1, 3, 2, 4));
+    EXPECT_EQ(PixelsOf(dc, kBlack), Span(3, 3, 4, 4));
+    EXPECT_EQ(dc.GetPixel(5, 5), kWhite);
+
+    CHmiImageDC masked(6, 6);
+    masked.FillSolidRect({0, 0, 6, 6}, 0x808080);
+    const HmiColor green = 0x00FF00;
+    ASSERT_TRUE(masked.DrawPictureFile(path, {1, 1, 5, 5}, &green));
+    EXPECT_TRUE(PixelsOf(masked, green).empty());
+    EXPECT_EQ(masked.GetPixel(3, 1), 0x808080u) << "the transparent colour leaves the target as it was";
+    EXPECT_EQ(masked.GetPixel(1, 1), kRed);
+
+    CHmiImageDC missing(6, 6);
+    EXPECT_FALSE(missing.DrawPictureFile(dir.Path("none.png"), {0, 0, 6, 6}, nullptr));
+    EXPECT_FALSE(missing.DrawPictureFile(dir.Write("bad.png", "not a picture"), {0, 0, 6, 6}, nullptr));
+    EXPECT_EQ(ColoursIn(missing), std::set<HmiColor>{kWhite});
+}
