@@ -1,9 +1,14 @@
 // kelvo-hmi: the editor's core on the command line, for people and scripts without a display.
 
 #include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/hmiimagedc.h"
 #include "widgets/core/tamlodoc.h"
+#include "widgets/core/windowpainter.h"
+
+#include <QGuiApplication>
 
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <span>
 #include <string>
@@ -17,7 +22,9 @@ struct Command {
     std::string_view name;
     std::string_view usage;
     std::string_view summary;
-    int argumentCount;
+    int minArguments;
+    int maxArguments;
+    bool draws; // needs a QGuiApplication (fonts, images)
     std::function<int(Arguments args)> run; // args after the command name
 };
 
@@ -50,10 +57,32 @@ int RoundTrip(Arguments args)
     return 0;
 }
 
+// render IN.xml OUT.png [--project DIR]
+int Render(Arguments args)
+{
+    if (args.size() == 3 || (args.size() == 4 && std::string_view(args[2]) != "--project")) {
+        std::fprintf(stderr, "Usage: kelvo-hmi render IN.xml OUT.png [--project DIR]\n");
+        return 2;
+    }
+    CTamloDoc document;
+    if (const FileResult loaded = document.Load(args[0]); !loaded)
+        return Fail(loaded.error);
+    if (args.size() == 4)
+        document.SetPictureFolder(args[3]);
+    const HmiRect window = document.GetWindowWidget()->GetWidgetRect().Normalized();
+    CHmiImageDC image(window.Width(), window.Height());
+    DrawWindow(document, image);
+    if (const FileResult saved = image.SavePng(args[1]); !saved)
+        return Fail(saved.error);
+    return 0;
+}
 
 const Command kCommands[] = {
-    {"list", "list WINDOW.xml", "one line per widget: name, class, left, top, right, bottom", 1, List},
-    {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, RoundTrip},
+    {"list", "list WINDOW.xml", "one line per widget: name, class, left, top, right, bottom", 1, 1, false, List},
+    {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, 2, false,
+     RoundTrip},
+    {"render", "render IN.xml OUT.png [--project DIR]",
+     "draw the window as the canvas does (pictures from DIR, else beside IN.xml)", 2, 4, true, Render},
 };
 
 void PrintUsage(std::FILE* out)
@@ -87,11 +116,18 @@ int main(int argc, char* argv[])
     for (const Command& command : kCommands) {
         if (command.name != first)
             continue;
-        if (int(args.size()) - 1 != command.argumentCount) {
+        const int count = int(args.size()) - 1;
+        if (count < command.minArguments || count > command.maxArguments) {
             std::fprintf(stderr, "Usage: kelvo-hmi %.*s\n", int(command.usage.size()), command.usage.data());
             return 2;
         }
         RegisterBuiltinWidgetClasses();
+        if (!command.draws)
+            return command.run(args.subspan(1));
+        // Drawing needs fonts, hence an application object; no display is needed.
+        if (!std::getenv("QT_QPA_PLATFORM"))
+            setenv("QT_QPA_PLATFORM", "offscreen", 0);
+        QGuiApplication application(argc, argv);
         return command.run(args.subspan(1));
     }
     std::fprintf(stderr, "kelvo-hmi: unknown command '%s'\n\n", argv[1]);

@@ -1,5 +1,6 @@
 #include "hmiwidgetwindow.h"
 
+#include "widgets/core/hmidraw.h"
 #include "widgets/core/numberparsers.h"
 #include "widgets/core/optiontree.h"
 
@@ -46,6 +47,12 @@ HmiWidgetPtr CHmiWidgetWindow::Clone() const
     copy->m_nSecurityMode = m_nSecurityMode;
     CopyTo(*copy);
     return HmiWidgetPtr(copy.release());
+}
+
+void CHmiWidgetWindow::Draw(CHmiDC& dc)
+{
+    HmiSelectedPenAndBrush selected(dc, {HmiPenStyle::Dot, 1, 0x000000}, {false, m_bkColor});
+    dc.Rectangle({0, 0, m_rect.Width(), m_rect.Height()});
 }
 
 std::string CHmiWidgetWindow::GetWidgetClassName() const

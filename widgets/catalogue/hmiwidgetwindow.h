@@ -11,6 +11,8 @@ public:
     CHmiWidgetWindow();
 
     HmiWidgetPtr Clone() const override;
+    // The window's background: its colour inside a dotted black frame, from the origin.
+    void Draw(CHmiDC& dc) override;
     std::string GetWidgetClassName() const override;
     // Reads "style" (the packed caption and centring flags), "bkcolor", "security_level" and
     // "security_mode", each decimal or hexadecimal.

@@ -129,6 +129,14 @@ FileResult CTamloDoc::Save(const std::string& path)
     return result;
 }
 
+std::string CTamloDoc::GetPictureFolder() const
+{
+    if (!m_strPictureFolder.empty())
+        return m_strPictureFolder.back() == '/' ? m_strPictureFolder : m_strPictureFolder + "/";
+    const std::size_t slash = m_strPathName.rfind('/');
+    return slash == std::string::npos ? std::string() : m_strPathName.substr(0, slash + 1);
+}
+
 void CTamloDoc::AddView(CHmiView* view)
 {
     if (std::find(m_views.begin(), m_views.end(), view) == m_views.end())

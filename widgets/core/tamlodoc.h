@@ -52,6 +52,10 @@ public:
     // The window file the document was last loaded from or saved to; empty for a new window.
     // Pictures are found in its folder.
     const std::string& GetPathName() const { return m_strPathName; }
+    // Where the window's pictures are: the folder of its window file (ending in "/"), unless
+    // another folder was set.
+    std::string GetPictureFolder() const;
+    void SetPictureFolder(std::string folder) { m_strPictureFolder = std::move(folder); }
     // The window file's bytes.
     std::string Serialize() const;
 
@@ -78,6 +82,7 @@ private:
     std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
     std::string m_strPathName;
+    std::string m_strPictureFolder;
     CWidgetNameList* m_pNameList = nullptr;
     bool m_bModified = false;
 };

@@ -1,5 +1,6 @@
 #include "ownproperties.h"
 #include "tests/support/memoryoptiontree.h"
+#include "tests/support/recordingdc.h"
 #include "widgets/catalogue/hmiwidgetwindow.h"
 
 #include <gtest/gtest.h>
@@ -96,4 +97,18 @@ TEST(HmiWidgetWindow, CloneWritesTheSameElement)
     window.Serialize(original);
     clone->Serialize(cloned);
     EXPECT_EQ(cloned, original);
+}
+
+TEST(HmiWidgetWindow, DrawsItsBackgroundFromTheOriginInADottedFrame)
+{
+    CHmiWidgetWindow window;
+    window.SetWidgetRect({10, 20, 330, 260});
+    window.m_bkColor = 0x00FF00;
+    RecordingDC dc;
+    window.Draw(dc);
+    ASSERT_EQ(dc.shapes.size(), 1u);
+    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{0, 0, 320, 240}));
+    EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Dot, 1, 0}));
+    EXPECT_EQ(dc.shapes[0].brush, (HmiBrush{false, 0x00FF00}));
+    EXPECT_EQ(dc.pen, HmiPen{}) << "the previous pen is selected back";
 }

@@ -255,6 +255,9 @@ TEST_F(TamloDocTest, ASaveReplacesTheFileWhole)
     doc.SetModifiedFlag();
     ASSERT_TRUE(doc.Save(path));
     EXPECT_EQ(doc.GetPathName(), path);
+    EXPECT_EQ(doc.GetPictureFolder(), dir.Path(""));
+    doc.SetPictureFolder("/pictures");
+    EXPECT_EQ(doc.GetPictureFolder(), "/pictures/");
     EXPECT_EQ(dir.Read("window.xml"), doc.Serialize());
     EXPECT_FALSE(doc.IsModified());
     struct stat info;

@@ -1,0 +1,77 @@
+// The command-line tool as scripts use it: its output, its files and its exit status.
+
+#include "tests/support/tempdir.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <sys/wait.h>
+
+namespace {
+
+struct ToolRun {
+    int status = -1;
+    std::string output;
+};
+
+// Runs the tool with the arguments (already quoted for the shell), capturing stdout.
+ToolRun RunTool(const std::string& arguments)
+{
+    ToolRun run;
+    const std::string command = std::string(KELVO_HMI_TOOL) + " " + arguments + " 2>/dev/null";
+    FILE* pipe = popen(command.c_str(), "r");
+    if (!pipe)
+        return run;
+    char buffer[4096];
+    for (std::size_t got; (got = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
+        run.output.append(buffer, got);
+    const int status = pclose(pipe);
+    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return run;
+}
+
+const char* kWindowFile = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
+                          "<widget name=\"window\" class=\"window\"><properties>"
+                          "<property name=\"right\" type=\"short\" value=\"40\"/>"
+                          "<property name=\"bottom\" type=\"short\" value=\"30\"/>"
+                          "<property name=\"bkcolor\" type=\"ulong\" value=\"255\"/>"
+                          "</properties></widget>\n"
+                          "<widget name=\"tick\" class=\"timer\"><properties>"
+                          "<property name=\"left\" type=\"short\" value=\"5\"/>"
+                          "<property name=\"right\" type=\"short\" value=\"9\"/>"
+                          "</properties></widget>\n</hmiwidget>\n";
+
+} // namespace
+
+TEST(CommandLine, ListsRoundTripsAndRendersAWindow)
+{
+    TempDir dir;
+    const std::string in = dir.Write("w.xml", kWindowFile);
+
+    const ToolRun list = RunTool("list '" + in + "'");
+    EXPECT_EQ(list.status, 0);
+    EXPECT_EQ(list.output, "tick\ttimer\t5\t0\t9\t0\nwindow\twindow\t0\t0\t40\t30\n");
+
+    EXPECT_EQ(RunTool("roundtrip '" + in + "' '" + dir.Path("out.xml") + "'").status, 0);
+    EXPECT_EQ(RunTool("list '" + dir.Path("out.xml") + "'").output, "window\twindow\t0\t0\t40\t30\n"
+                                                                    "tick\ttimer\t5\t0\t9\t0\n");
+
+    ASSERT_EQ(RunTool("render '" + in + "' '" + dir.Path("w.png") + "'").status, 0);
+    const QImage image(QString::fromStdString(dir.Path("w.png")));
+    EXPECT_EQ(image.size(), QSize(40, 30)) << "the image has the window's size";
+    EXPECT_EQ(image.pixel(20, 15), qRgb(255, 0, 0)) << "filled with the window's background colour";
+}
+
+TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
+{
+    TempDir dir;
+    EXPECT_EQ(RunTool("list '" + dir.Path("missing.xml") + "'").status, 1);
+    EXPECT_EQ(RunTool("render '" + dir.Path("missing.xml") + "' '" + dir.Path("x.png") + "'").status, 1);
+    EXPECT_EQ(RunTool("render '" + dir.Write("w.xml", kWindowFile) + "' '" + dir.Path("none/x.png") + "'").status, 1);
+    EXPECT_EQ(RunTool("list").status, 2);
+    EXPECT_EQ(RunTool("render a b --folder c").status, 2);
+    EXPECT_EQ(RunTool("frobnicate").status, 2);
+    EXPECT_EQ(RunTool("--version").status, 0);
+}

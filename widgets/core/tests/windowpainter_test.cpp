@@ -1,0 +1,42 @@
+#include "tests/support/recordingdc.h"
+#include "widgets/catalogue/hmiwidgetwindow.h"
+#include "widgets/core/tamlodoc.h"
+#include "widgets/core/windowpainter.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A widget that draws its rectangle, so the order of drawing shows in the recording.
+class BoxWidget : public CHmiWidget {
+public:
+    std::string GetWidgetClassName() const override { return "box"; }
+    void Draw(CHmiDC& dc) override { dc.Rectangle(GetWidgetRect()); }
+};
+
+HmiWidgetPtr MakeWidget(CHmiWidget* widget, const char* name, HmiRect rect)
+{
+    widget->SetWidgetName(name);
+    widget->SetWidgetRect(rect);
+    return HmiWidgetPtr(widget);
+}
+
+} // namespace
+
+TEST(WindowPainter, DrawsTheWindowFirstWhereverItStandsThenTheListInOrder)
+{
+    CTamloDoc doc;
+    doc.AddWidget(MakeWidget(new BoxWidget, "a", {1, 1, 2, 2}), true, false);
+    doc.AddWidget(MakeWidget(new CHmiWidgetWindow, "window", {0, 0, 40, 30}), true, false);
+    doc.AddWidget(MakeWidget(new BoxWidget, "b", {3, 3, 4, 4}), true, false);
+
+    RecordingDC dc;
+    DrawWindow(doc, dc);
+    std::vector<HmiRect> drawn;
+    for (const RecordingDC::Shape& shape : dc.ShapesOfKind("rectangle"))
+        drawn.push_back(shape.rect);
+    ASSERT_EQ(drawn.size(), 3u);
+    EXPECT_EQ(drawn[0], (HmiRect{0, 0, 40, 30}));
+    EXPECT_EQ(drawn[1], (HmiRect{1, 1, 2, 2}));
+    EXPECT_EQ(drawn[2], (HmiRect{3, 3, 4, 4}));
+}
