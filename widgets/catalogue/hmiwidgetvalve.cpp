@@ -1,5 +1,7 @@
 #include "hmiwidgetvalve.h"
 
+#include "gradientpainter.h"
+#include "widgets/core/hmidraw.h"
 #include "widgets/core/numberparsers.h"
 #include "widgets/core/optiontree.h"
 
@@ -17,6 +19,33 @@ HmiWidgetPtr CHmiWidgetValve::Clone() const
     copy->m_centerColor = m_centerColor;
     CopyTo(*copy);
     return HmiWidgetPtr(copy.release());
+}
+
+void CHmiWidgetValve::Draw(CHmiDC& dc)
+{
+    constexpr HmiColor kGrey = 0x007E7E7E;
+    const auto [left, top, right, bottom] = m_rect;
+    const std::int32_t w = right - left;
+    const std::int32_t h = bottom - top;
+    const std::int32_t hw = w / 2;
+    const std::int32_t hh = h / 2;
+    const std::int32_t ym = std::int16_t(top + hh);
+    const std::int32_t xm = std::int16_t(right - hw);
+    const std::int32_t axis = left + hw;
+
+    // The two halves of the body point at the centre, apex to apex, as a valve symbol does:
+    // the left half has its apex on its right side, the right half on its left side.
+    PaintTriangleGradient(dc, {left, ym, xm, bottom}, kGrey, kGrey, 3);
+    PaintTriangleGradient(dc, {axis, ym, right, bottom}, kGrey, kGrey, 4);
+    HmiDrawLine(&dc, axis, top, axis, top + 3 * h / 4, 2, 1, kGrey);
+    HmiDrawLine(&dc, left + w / 4, top, left + 3 * w / 4, top, 2, 1, kGrey);
+    {
+        const HmiBrush oldBrush = dc.SelectBrush({false, kGrey});
+        dc.Ellipse({axis - h / 4, ym, axis + h / 4, bottom});
+        dc.SelectBrush({false, m_centerColor});
+        dc.Ellipse({axis - h / 6, ym + h / 8, axis + h / 6, bottom - h / 8});
+        dc.SelectBrush(oldBrush);
+    }
 }
 
 std::string CHmiWidgetValve::GetWidgetClassName() const

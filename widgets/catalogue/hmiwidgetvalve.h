@@ -9,6 +9,9 @@ class CHmiWidgetValve : public CHmiWidget {
 public:
     HmiWidgetPtr Clone() const override;
     std::string GetWidgetClassName() const override;
+    // A grey bow-tie body of two gradient triangles, a stem with a hand wheel, and a grey disc
+    // with the centre colour inside.
+    void Draw(CHmiDC& dc) override;
     // Reads "centercolor", decimal or hexadecimal.
     int SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,
                           std::string_view length) override;

@@ -13,5 +13,6 @@ TEST(BuiltinWidgets, RegistersEachKeyInTableOrderForAClassThatWritesIt)
         EXPECT_EQ(entry.m_pRuntimeClass->CreateObject()->GetWidgetClassName(), entry.m_strClassKey);
     }
     CHmiWidget::RemoveAllRunTimeClass();
-    EXPECT_EQ(keys, (std::vector<std::string>{"timer", "window"}));
+    EXPECT_EQ(keys, (std::vector<std::string>{"ellipse", "line", "rectangle", "gradrectangle", "gradellipse", "gradtriangle",
+                                             "timer", "window"}));
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "shapewidget.h"
+
+// An ellipse filled with a colour gradient.
+class CHmiWidgetGradEllipse : public CHmiShapeWidget<CHmiWidgetGradEllipse> {
+    HMI_DECLARE_WIDGET_CLASS(CHmiWidgetGradEllipse)
+public:
+    static constexpr const char* kClassKey = "gradellipse";
+    static constexpr const char* kGroup = "Gradient ellipse";
+    static constexpr const char* kRootText = "Gradient ellipse properties";
+    static std::span<const ShapeProperty<CHmiWidgetGradEllipse>> Properties();
+
+    void Draw(CHmiDC& dc) override;
+
+    HmiColor m_startColor = 0x00FFFFFF; // white
+    HmiColor m_endColor = 0x00000000;   // black
+    std::int32_t m_nDirection = 0;
+};
