@@ -4,11 +4,19 @@
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetEllipse, CHmiWidget)
 
-std::span<const ShapeProperty<CHmiWidgetEllipse>> CHmiWidgetEllipse::Properties()
+std::span<const PropertySpec<CHmiWidgetEllipse>> CHmiWidgetEllipse::Properties()
 {
-    static const ShapeProperty<CHmiWidgetEllipse> properties[] = {
-        {"edgecolor", "Set the edge color of ellipse", PROP_COLOR, &CHmiWidgetEllipse::m_edgeColor},
-        {"fillcolor", "Set the fill color of ellipse", PROP_COLOR, &CHmiWidgetEllipse::m_fillColor},
+    static const PropertySpec<CHmiWidgetEllipse> properties[] = {
+        {.key = "edgecolor",
+         .label = "edgecolor",
+         .description = "Set the edge color of ellipse",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetEllipse::m_edgeColor},
+        {.key = "fillcolor",
+         .label = "fillcolor",
+         .description = "Set the fill color of ellipse",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetEllipse::m_fillColor},
     };
     return properties;
 }

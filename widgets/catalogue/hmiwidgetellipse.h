@@ -1,15 +1,15 @@
 #pragma once
 
-#include "shapewidget.h"
+#include "propertytable.h"
 
 // A filled ellipse inscribed in the widget's rectangle, with a one-pixel edge.
-class CHmiWidgetEllipse : public CHmiShapeWidget<CHmiWidgetEllipse> {
+class CHmiWidgetEllipse : public CHmiTableWidget<CHmiWidgetEllipse> {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetEllipse)
 public:
     static constexpr const char* kClassKey = "ellipse";
     static constexpr const char* kGroup = "Ellipse";
     static constexpr const char* kRootText = "Ellipse properties";
-    static std::span<const ShapeProperty<CHmiWidgetEllipse>> Properties();
+    static std::span<const PropertySpec<CHmiWidgetEllipse>> Properties();
 
     void Draw(CHmiDC& dc) override;
 

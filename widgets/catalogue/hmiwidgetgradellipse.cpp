@@ -14,13 +14,26 @@ constexpr const char* kEllipseDirections[] = {
 
 } // namespace
 
-std::span<const ShapeProperty<CHmiWidgetGradEllipse>> CHmiWidgetGradEllipse::Properties()
+std::span<const PropertySpec<CHmiWidgetGradEllipse>> CHmiWidgetGradEllipse::Properties()
 {
-    static const ShapeProperty<CHmiWidgetGradEllipse> properties[] = {
-        {"startcolor", "Set gradient start color", PROP_COLOR, &CHmiWidgetGradEllipse::m_startColor},
-        {"endcolor", "Set gradient end color", PROP_COLOR, &CHmiWidgetGradEllipse::m_endColor},
-        {"direction", "Set gradient direction", PROP_COMBO, nullptr, &CHmiWidgetGradEllipse::m_nDirection,
-         kEllipseDirections, 0},
+    static const PropertySpec<CHmiWidgetGradEllipse> properties[] = {
+        {.key = "startcolor",
+         .label = "startcolor",
+         .description = "Set gradient start color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetGradEllipse::m_startColor},
+        {.key = "endcolor",
+         .label = "endcolor",
+         .description = "Set gradient end color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetGradEllipse::m_endColor},
+        {.key = "direction",
+         .label = "direction",
+         .description = "Set gradient direction",
+         .itemType = PROP_COMBO,
+         .number = &CHmiWidgetGradEllipse::m_nDirection,
+         .choices = kEllipseDirections,
+         .codeOffset = 0},
     };
     return properties;
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "shapewidget.h"
+#include "propertytable.h"
 
 // An ellipse filled with a colour gradient.
-class CHmiWidgetGradEllipse : public CHmiShapeWidget<CHmiWidgetGradEllipse> {
+class CHmiWidgetGradEllipse : public CHmiTableWidget<CHmiWidgetGradEllipse> {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetGradEllipse)
 public:
     static constexpr const char* kClassKey = "gradellipse";
     static constexpr const char* kGroup = "Gradient ellipse";
     static constexpr const char* kRootText = "Gradient ellipse properties";
-    static std::span<const ShapeProperty<CHmiWidgetGradEllipse>> Properties();
+    static std::span<const PropertySpec<CHmiWidgetGradEllipse>> Properties();
 
     void Draw(CHmiDC& dc) override;
 

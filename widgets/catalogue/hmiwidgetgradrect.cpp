@@ -29,13 +29,26 @@ constexpr const char* kRectDirections[] = {
 
 } // namespace
 
-std::span<const ShapeProperty<CHmiWidgetGradRect>> CHmiWidgetGradRect::Properties()
+std::span<const PropertySpec<CHmiWidgetGradRect>> CHmiWidgetGradRect::Properties()
 {
-    static const ShapeProperty<CHmiWidgetGradRect> properties[] = {
-        {"startcolor", "Set gradient start color", PROP_COLOR, &CHmiWidgetGradRect::m_startColor},
-        {"endcolor", "Set gradient end color", PROP_COLOR, &CHmiWidgetGradRect::m_endColor},
-        {"direction", "Set gradient direction", PROP_COMBO, nullptr, &CHmiWidgetGradRect::m_nDirection,
-         kRectDirections, 32},
+    static const PropertySpec<CHmiWidgetGradRect> properties[] = {
+        {.key = "startcolor",
+         .label = "startcolor",
+         .description = "Set gradient start color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetGradRect::m_startColor},
+        {.key = "endcolor",
+         .label = "endcolor",
+         .description = "Set gradient end color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetGradRect::m_endColor},
+        {.key = "direction",
+         .label = "direction",
+         .description = "Set gradient direction",
+         .itemType = PROP_COMBO,
+         .number = &CHmiWidgetGradRect::m_nDirection,
+         .choices = kRectDirections,
+         .codeOffset = 32},
     };
     return properties;
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "shapewidget.h"
+#include "propertytable.h"
 
 // A rectangle filled with a colour gradient in one of sixteen directions.
-class CHmiWidgetGradRect : public CHmiShapeWidget<CHmiWidgetGradRect> {
+class CHmiWidgetGradRect : public CHmiTableWidget<CHmiWidgetGradRect> {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetGradRect)
 public:
     static constexpr const char* kClassKey = "gradrectangle";
     static constexpr const char* kGroup = "Gradient rectangle";
     static constexpr const char* kRootText = "Gradient ellipse properties";
-    static std::span<const ShapeProperty<CHmiWidgetGradRect>> Properties();
+    static std::span<const PropertySpec<CHmiWidgetGradRect>> Properties();
 
     void Draw(CHmiDC& dc) override;
 

@@ -15,13 +15,26 @@ constexpr const char* kTriangleDirections[] = {
 
 } // namespace
 
-std::span<const ShapeProperty<CHmiWidgetGradTriangle>> CHmiWidgetGradTriangle::Properties()
+std::span<const PropertySpec<CHmiWidgetGradTriangle>> CHmiWidgetGradTriangle::Properties()
 {
-    static const ShapeProperty<CHmiWidgetGradTriangle> properties[] = {
-        {"startcolor", "Set gradient start color", PROP_COLOR, &CHmiWidgetGradTriangle::m_startColor},
-        {"endcolor", "Set gradient end color", PROP_COLOR, &CHmiWidgetGradTriangle::m_endColor},
-        {"direction", "Set triangle direction", PROP_COMBO, nullptr, &CHmiWidgetGradTriangle::m_nDirection,
-         kTriangleDirections, 1},
+    static const PropertySpec<CHmiWidgetGradTriangle> properties[] = {
+        {.key = "startcolor",
+         .label = "startcolor",
+         .description = "Set gradient start color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetGradTriangle::m_startColor},
+        {.key = "endcolor",
+         .label = "endcolor",
+         .description = "Set gradient end color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetGradTriangle::m_endColor},
+        {.key = "direction",
+         .label = "direction",
+         .description = "Set triangle direction",
+         .itemType = PROP_COMBO,
+         .number = &CHmiWidgetGradTriangle::m_nDirection,
+         .choices = kTriangleDirections,
+         .codeOffset = 1},
     };
     return properties;
 }

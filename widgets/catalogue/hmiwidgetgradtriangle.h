@@ -1,15 +1,15 @@
 #pragma once
 
-#include "shapewidget.h"
+#include "propertytable.h"
 
 // A triangle of gradient lines fanning out from an apex on one side of the rectangle.
-class CHmiWidgetGradTriangle : public CHmiShapeWidget<CHmiWidgetGradTriangle> {
+class CHmiWidgetGradTriangle : public CHmiTableWidget<CHmiWidgetGradTriangle> {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetGradTriangle)
 public:
     static constexpr const char* kClassKey = "gradtriangle";
     static constexpr const char* kGroup = "Gradient triangle";
     static constexpr const char* kRootText = "Gradient triangle properties";
-    static std::span<const ShapeProperty<CHmiWidgetGradTriangle>> Properties();
+    static std::span<const PropertySpec<CHmiWidgetGradTriangle>> Properties();
 
     void Draw(CHmiDC& dc) override;
 

@@ -17,13 +17,32 @@ constexpr std::int32_t kThinLineExtent = 7;
 
 } // namespace
 
-std::span<const ShapeProperty<CHmiWidgetLine>> CHmiWidgetLine::Properties()
+std::span<const PropertySpec<CHmiWidgetLine>> CHmiWidgetLine::Properties()
 {
-    static const ShapeProperty<CHmiWidgetLine> properties[] = {
-        {"color", "Set line color", PROP_COLOR, &CHmiWidgetLine::m_color},
-        {"linewidth", "Set line width", PROP_EDIT, nullptr, &CHmiWidgetLine::m_nLineWidth},
-        {"direction", "Set line direction", PROP_COMBO, nullptr, &CHmiWidgetLine::m_nDirection, kDirectionChoices, 1},
-        {"style", "Set line style", PROP_COMBO, nullptr, &CHmiWidgetLine::m_nStyle, kStyleChoices, 1},
+    static const PropertySpec<CHmiWidgetLine> properties[] = {
+        {.key = "color",
+         .label = "color",
+         .description = "Set line color",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetLine::m_color},
+        {.key = "linewidth",
+         .label = "linewidth",
+         .description = "Set line width",
+         .number = &CHmiWidgetLine::m_nLineWidth},
+        {.key = "direction",
+         .label = "direction",
+         .description = "Set line direction",
+         .itemType = PROP_COMBO,
+         .number = &CHmiWidgetLine::m_nDirection,
+         .choices = kDirectionChoices,
+         .codeOffset = 1},
+        {.key = "style",
+         .label = "style",
+         .description = "Set line style",
+         .itemType = PROP_COMBO,
+         .number = &CHmiWidgetLine::m_nStyle,
+         .choices = kStyleChoices,
+         .codeOffset = 1},
     };
     return properties;
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "shapewidget.h"
+#include "propertytable.h"
 
 // A straight line from corner to corner of the widget's rectangle, which is its bounding box.
-class CHmiWidgetLine : public CHmiShapeWidget<CHmiWidgetLine> {
+class CHmiWidgetLine : public CHmiTableWidget<CHmiWidgetLine> {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetLine)
 public:
     static constexpr const char* kClassKey = "line";
     static constexpr const char* kGroup = "Line";
     static constexpr const char* kRootText = "Line properties";
-    static std::span<const ShapeProperty<CHmiWidgetLine>> Properties();
+    static std::span<const PropertySpec<CHmiWidgetLine>> Properties();
 
     static constexpr std::int32_t kLeftTopToRightBottom = 1;
 

@@ -4,11 +4,19 @@
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetRect, CHmiWidget)
 
-std::span<const ShapeProperty<CHmiWidgetRect>> CHmiWidgetRect::Properties()
+std::span<const PropertySpec<CHmiWidgetRect>> CHmiWidgetRect::Properties()
 {
-    static const ShapeProperty<CHmiWidgetRect> properties[] = {
-        {"edgecolor", "Set the edge color of rectangle", PROP_COLOR, &CHmiWidgetRect::m_edgeColor},
-        {"fillcolor", "Set the fill color of rectangle", PROP_COLOR, &CHmiWidgetRect::m_fillColor},
+    static const PropertySpec<CHmiWidgetRect> properties[] = {
+        {.key = "edgecolor",
+         .label = "edgecolor",
+         .description = "Set the edge color of rectangle",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetRect::m_edgeColor},
+        {.key = "fillcolor",
+         .label = "fillcolor",
+         .description = "Set the fill color of rectangle",
+         .itemType = PROP_COLOR,
+         .color = &CHmiWidgetRect::m_fillColor},
     };
     return properties;
 }

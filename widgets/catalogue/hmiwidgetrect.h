@@ -1,15 +1,15 @@
 #pragma once
 
-#include "shapewidget.h"
+#include "propertytable.h"
 
 // A filled rectangle with a one-pixel edge.
-class CHmiWidgetRect : public CHmiShapeWidget<CHmiWidgetRect> {
+class CHmiWidgetRect : public CHmiTableWidget<CHmiWidgetRect> {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetRect)
 public:
     static constexpr const char* kClassKey = "rectangle";
     static constexpr const char* kGroup = "Rectangle";
     static constexpr const char* kRootText = "Rectangle properties";
-    static std::span<const ShapeProperty<CHmiWidgetRect>> Properties();
+    static std::span<const PropertySpec<CHmiWidgetRect>> Properties();
 
     void Draw(CHmiDC& dc) override;
 
