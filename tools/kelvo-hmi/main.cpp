@@ -79,7 +79,7 @@ int Render(Arguments args)
 
 const Command kCommands[] = {
     {"list", "list WINDOW.xml", "one line per widget: name, class, left, top, right, bottom", 1, 1, false, List},
-    {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, 2, false,
+    {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, 2, true,
      RoundTrip},
     {"render", "render IN.xml OUT.png [--project DIR]",
      "draw the window as the canvas does (pictures from DIR, else beside IN.xml)", 2, 4, true, Render},

@@ -1,11 +1,17 @@
 #include "builtinwidgets.h"
 
+#include "hmiwidgetbmptext.h"
+#include "hmiwidgetbutton.h"
 #include "hmiwidgetellipse.h"
 #include "hmiwidgetgradellipse.h"
 #include "hmiwidgetgradrect.h"
 #include "hmiwidgetgradtriangle.h"
 #include "hmiwidgetline.h"
+#include "hmiwidgetnuminput.h"
+#include "hmiwidgetpic.h"
 #include "hmiwidgetrect.h"
+#include "hmiwidgettext.h"
+#include "hmiwidgettextinput.h"
 #include "hmiwidgettimer.h"
 #include "hmiwidgetwindow.h"
 
@@ -19,13 +25,19 @@ struct BuiltinWidgetClass {
 // The table's order is the registration order.
 constexpr BuiltinWidgetClass kBuiltinWidgetClasses[] = {
     {"ellipse", &CHmiWidgetEllipse::classCHmiWidgetEllipse},
+    {"text", &CHmiWidgetText::classCHmiWidgetText},
     {"line", &CHmiWidgetLine::classCHmiWidgetLine},
     {"rectangle", &CHmiWidgetRect::classCHmiWidgetRect},
     {"gradrectangle", &CHmiWidgetGradRect::classCHmiWidgetGradRect},
     {"gradellipse", &CHmiWidgetGradEllipse::classCHmiWidgetGradEllipse},
     {"gradtriangle", &CHmiWidgetGradTriangle::classCHmiWidgetGradTriangle},
+    {"picture", &CHmiWidgetPic::classCHmiWidgetPic},
+    {"button", &CHmiWidgetButton::classCHmiWidgetButton},
     {"timer", &CHmiWidgetTimer::classCHmiWidgetTimer},
     {"window", &CHmiWidgetWindow::classCHmiWidgetWindow},
+    {"numinput", &CHmiWidgetNumInput::classCHmiWidgetNumInput},
+    {"textinput", &CHmiWidgetTextInput::classCHmiWidgetTextInput},
+    {"bmptext", &CHmiWidgetBmpText::classCHmiWidgetBmpText},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "hmipainterdc.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -21,6 +22,11 @@ struct CHmiImageDC::Canvas {
 CHmiImageDC::CHmiImageDC(int width, int height) : m_canvas(std::make_unique<Canvas>(width, height)) {}
 
 CHmiImageDC::~CHmiImageDC() = default;
+
+bool CHmiImageDC::CanDrawText()
+{
+    return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+}
 
 int CHmiImageDC::Width() const
 {

@@ -13,6 +13,9 @@ public:
     CHmiImageDC(int width, int height);
     ~CHmiImageDC() override;
 
+    // Whether text can be drawn: fonts need a running QGuiApplication.
+    static bool CanDrawText();
+
     int Width() const;
     int Height() const;
     // The colour at a pixel as 0x00BBGGRR; white outside the image.

@@ -13,6 +13,7 @@ TEST(BuiltinWidgets, RegistersEachKeyInTableOrderForAClassThatWritesIt)
         EXPECT_EQ(entry.m_pRuntimeClass->CreateObject()->GetWidgetClassName(), entry.m_strClassKey);
     }
     CHmiWidget::RemoveAllRunTimeClass();
-    EXPECT_EQ(keys, (std::vector<std::string>{"ellipse", "line", "rectangle", "gradrectangle", "gradellipse", "gradtriangle",
-                                             "timer", "window"}));
+    EXPECT_EQ(keys, (std::vector<std::string>{"ellipse", "text", "line", "rectangle", "gradrectangle", "gradellipse",
+                                             "gradtriangle", "picture", "button", "timer", "window", "numinput",
+                                             "textinput", "bmptext"}));
 }
