@@ -1,0 +1,65 @@
+// The bitmap text's point list, from real rendered pixels.
+
+#include "ownproperties.h"
+#include "widgets/catalogue/hmiwidgetbmptext.h"
+#include "widgets/core/hmiimagedc.h"
+
+#include <gtest/gtest.h>
+
+TEST(BmpText, EncodesBlackPointsShortAndColouredPointsWithTheirColour)
+{
+    CHmiImageDC image(2, 2);
+    image.FillSolidRect({0, 0, 1, 1}, 0x000000);
+    image.FillSolidRect({1, 0, 2, 1}, 0x0000FF);
+    EXPECT_EQ(EncodeBitmapPoints(image), "000000" "801000" "0000FF");
+
+    CHmiImageDC columns(3, 20);
+    columns.FillSolidRect({2, 17, 3, 18}, 0x123456);
+    columns.FillSolidRect({0, 19, 1, 20}, 0);
+    EXPECT_EQ(EncodeBitmapPoints(columns), "000013" "802011123456") << "column by column, in hexadecimal";
+}
+
+TEST(BmpText, RendersItsTextIntoTheBitmapPropertyWhenSaved)
+{
+    CHmiWidgetBmpText widget;
+    widget.SetWidgetRect({100, 100, 160, 130});
+    widget.m_font = {"DejaVu Sans", -16, 700};
+    const std::string lines = OwnPropertyLines(widget);
+    const std::string bitmap = widget.m_strBitmap;
+    ASSERT_FALSE(bitmap.empty());
+    EXPECT_EQ(bitmap.size() % 6, 0u) << "black points only";
+    EXPECT_NE(lines.find("\t\t\t<property name=\"fontname\" type=\"string\" length=\"32\" value=\"DejaVu Sans\" />\n"
+                         "\t\t\t<property name=\"fontheight\" type=\"long\" value=\"-16\" />\n"
+                         "\t\t\t<property name=\"fontweight\" type=\"long\" value=\"700\" />\n"),
+              std::string::npos)
+        << lines;
+    EXPECT_NE(lines.find("<property name=\"bitmap\" type=\"string\" length=\"" + std::to_string(bitmap.size() + 1) +
+                         "\" value=\"" + bitmap + "\" />\n"),
+              std::string::npos);
+
+    widget.m_textColor = 0x0000FF;
+    OwnPropertyLines(widget);
+    EXPECT_EQ(widget.m_strBitmap.substr(6, 6), "0000FF") << "coloured points carry their colour";
+    EXPECT_GE(std::stoi(widget.m_strBitmap.substr(0, 3), nullptr, 16), 0x800);
+
+    widget.m_strText.clear();
+    EXPECT_NE(OwnPropertyLines(widget).find("<property name=\"bitmap\" type=\"string\" length=\"1\" value=\"\" />"),
+              std::string::npos)
+        << "an all-white picture";
+}
+
+TEST(BmpText, KeepsItsFontColourAndPointsThroughAFile)
+{
+    CHmiWidgetBmpText widget;
+    for (const auto& [name, value] : {std::pair{"fontname", "Serif"}, {"fontheight", "-20"}, {"fontweight", "400"},
+                                      {"fontitalic", "1"}, {"color", "0xFF"}, {"text", "Hi"}, {"align", "3"},
+                                      {"bitmap", "000000"}})
+        EXPECT_EQ(widget.SetWidgetProperty(name, "", value, ""), 1) << name;
+    EXPECT_EQ(widget.m_font.face, "Serif");
+    EXPECT_EQ(widget.m_font.height, -20);
+    EXPECT_EQ(widget.m_font.italic, 1);
+    EXPECT_EQ(widget.m_textColor, 0xFFu);
+    EXPECT_EQ(widget.m_nAlign, 3);
+    const HmiWidgetPtr copy = widget.Clone();
+    EXPECT_EQ(dynamic_cast<const CHmiWidgetBmpText&>(*copy).m_strBitmap, "000000");
+}

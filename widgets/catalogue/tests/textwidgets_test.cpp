@@ -1,0 +1,308 @@
+// The button, text and input widgets and the picture: their file lines, the reading rules and
+// their drawing steps.
+
+#include "ownproperties.h"
+#include "tests/support/memoryoptiontree.h"
+#include "tests/support/recordingdc.h"
+#include "tests/support/tempdir.h"
+#include "widgets/catalogue/hmiwidgetbutton.h"
+#include "widgets/catalogue/hmiwidgetnuminput.h"
+#include "widgets/catalogue/hmiwidgetpic.h"
+#include "widgets/catalogue/hmiwidgettext.h"
+#include "widgets/catalogue/hmiwidgettextinput.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace {
+
+std::string Line(const char* name, const char* type, const std::string& value, const char* length = nullptr)
+{
+    std::string line = std::string("\t\t\t<property name=\"") + name + "\" type=\"" + type + "\" ";
+    if (length)
+        line += std::string("length=\"") + length + "\" ";
+    return line + "value=\"" + value + "\" />\n";
+}
+
+} // namespace
+
+TEST(Button, WritesItsDefaultsWithTheCaptionLengthAndReadsHexColours)
+{
+    CHmiWidgetButton button;
+    EXPECT_EQ(button.GetWidgetClassName(), "button");
+    EXPECT_EQ(OwnPropertyLines(button),
+              Line("caption", "string", "", "16") + Line("font_color", "ulong", "0") +
+                  Line("font_size", "ulong", "0") + Line("edge_color", "ulong", "0") +
+                  Line("back_color", "ulong", "12632256") + Line("up_shadow_color", "ulong", "16777215") +
+                  Line("down_shadow_color", "ulong", "8421504") + Line("shadow_width", "ulong", "1") +
+                  Line("type", "ulong", "0") + Line("var_name", "string", "", "32") +
+                  Line("pic_name", "string", "", "32") + Line("security_level", "ushort", "0") +
+                  Line("security_mode", "uchar", "0"));
+    const auto rows = OwnPropertyRows(button);
+    EXPECT_EQ(rows[2], (PropertyRow{"caption_len", "Length", "Set caption bytes Length", 0, PROP_EDIT,
+                                    "System Button", {}}));
+    EXPECT_EQ(std::get<4>(rows[0]), PROP_TEXT);
+    EXPECT_EQ(std::get<4>(rows[10]), PROP_VARIABLE);
+
+    button.SetWidgetProperty("caption", "string", "Start", "24");
+    button.SetWidgetProperty("back_color", "ulong", "0x00FF00", "");
+    button.SetWidgetProperty("font_size", "ulong", "16", "");
+    button.SetWidgetProperty("type", "ulong", "5", "");
+    EXPECT_EQ(button.m_nCaptionLen, 24);
+    EXPECT_EQ(button.m_backColor, 0xFF00u);
+    EXPECT_EQ(button.m_nFontSize, 3);
+    const std::string lines = OwnPropertyLines(button);
+    EXPECT_NE(lines.find(Line("caption", "string", "Start", "24")), std::string::npos);
+    EXPECT_NE(lines.find(Line("font_size", "ulong", "16")), std::string::npos);
+
+    const HmiWidgetPtr copy = button.Clone();
+    const auto& clone = dynamic_cast<const CHmiWidgetButton&>(*copy);
+    EXPECT_EQ(clone.m_strCaption, "Start");
+    EXPECT_EQ(clone.m_nType, 5);
+}
+
+TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
+{
+    CHmiWidgetButton button;
+    button.SetWidgetRect({10, 10, 60, 30});
+    button.m_strCaption = "A&B";
+    button.m_nFontSize = 1; // 8 points: the bold 12-pixel serif
+    button.m_nShadowWidth = 2;
+    RecordingDC dc;
+    button.Draw(dc);
+    ASSERT_EQ(dc.ShapesOfKind("rectangle").size(), 1u);
+    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{9, 9, 62, 32}));
+    EXPECT_EQ(dc.shapes[0].brush.color, 0xC0C0C0u);
+    const auto polygons = dc.ShapesOfKind("polygon");
+    ASSERT_EQ(polygons.size(), 4u);
+    EXPECT_EQ(polygons[0].points, (std::vector<HmiPoint>{{10, 10}, {12, 12}, {12, 28}, {10, 30}}));
+    EXPECT_EQ(polygons[0].brush.color, 0xFFFFFFu);
+    EXPECT_EQ(polygons[3].points, (std::vector<HmiPoint>{{10, 30}, {12, 28}, {58, 28}, {60, 30}}));
+    EXPECT_EQ(polygons[3].pen.color, 0x808080u);
+    const auto text = dc.ShapesOfKind("text");
+    ASSERT_EQ(text.size(), 1u);
+    EXPECT_EQ(text[0].text, "A&B");
+    EXPECT_EQ(text[0].format, HMI_DT_CENTER | HMI_DT_VCENTER | HMI_DT_SINGLELINE | HMI_DT_NOPREFIX);
+    EXPECT_EQ(text[0].font.face, "MS Serif");
+    EXPECT_EQ(text[0].font.height, 12);
+    EXPECT_EQ(text[0].font.weight, 700);
+    EXPECT_EQ(text[0].bkMode, HmiBkMode::Transparent);
+    EXPECT_EQ(dc.font, HmiFont::DefaultGui()) << "the previous font is put back";
+
+    button.m_nFontSize = 9;
+    RecordingDC noFont;
+    button.Draw(noFont);
+    EXPECT_EQ(noFont.ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
+}
+
+TEST(Text, ReadsAlignAndFontSizeBackToKnownValues)
+{
+    CHmiWidgetText text;
+    EXPECT_EQ(OwnPropertyLines(text), Line("color", "ulong", "0") + Line("text", "string", "text", "16") +
+                                          Line("align", "ulong", "1") + Line("fontsize", "ulong", "0"));
+    EXPECT_EQ(std::get<6>(OwnPropertyRows(text)[4]), (std::vector<std::string>{"Defaule", "8", "12", "16", "24"}));
+
+    for (const char* value : {"0", "7"}) {
+        text.SetWidgetProperty("align", "ulong", value, "");
+        EXPECT_EQ(text.m_nAlign, 1) << value;
+    }
+    text.SetWidgetProperty("align", "ulong", "3", "");
+    EXPECT_EQ(text.m_nAlign, 3);
+    text.SetWidgetProperty("fontsize", "ulong", "10", "");
+    EXPECT_EQ(text.m_nFontSize, 0);
+    text.SetWidgetProperty("fontsize", "ulong", "16", "");
+    EXPECT_EQ(text.m_nFontSize, 3);
+    text.SetWidgetProperty("text", "string", "Boiler", "40");
+    EXPECT_EQ(text.m_nTextLength, 40);
+    EXPECT_EQ(OwnPropertyLines(text), Line("color", "ulong", "0") + Line("text", "string", "Boiler", "40") +
+                                          Line("align", "ulong", "3") + Line("fontsize", "ulong", "16"));
+
+    MemoryOptionTree tree;
+    text.CreateWidgetPropertyTree(tree);
+    MemoryOptionItem* align = tree.Find("align", "Text");
+    EXPECT_EQ(align->selection, 2) << "align 3 is the third entry";
+    align->SetCurSel(1);
+    text.UpdateWidgetPropByTree(align);
+    EXPECT_EQ(text.m_nAlign, 2);
+}
+
+TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
+{
+    CHmiWidgetText text;
+    text.SetWidgetRect({50, 40, 10, 20});
+    text.m_nAlign = 2;
+    text.m_nFontSize = 1;
+    text.m_color = 0xFF;
+    RecordingDC dc;
+    text.Draw(dc);
+    const auto drawn = dc.ShapesOfKind("text");
+    ASSERT_EQ(drawn.size(), 1u);
+    EXPECT_EQ(drawn[0].rect, (HmiRect{10, 20, 50, 40}));
+    EXPECT_EQ(drawn[0].format, HMI_DT_RIGHT | HMI_DT_WORDBREAK);
+    EXPECT_EQ(drawn[0].font.face, "MS Serif") << "8 points alone takes the serif face";
+    EXPECT_EQ(drawn[0].color, 0xFFu);
+    EXPECT_EQ(dc.textColor, 0u) << "the previous text colour is put back";
+
+    text.m_nFontSize = 0;
+    RecordingDC sans;
+    text.Draw(sans);
+    EXPECT_EQ(sans.ShapesOfKind("text")[0].font.face, "MS Sans Serif");
+
+    text.m_nAlign = 7;
+    RecordingDC none;
+    text.Draw(none);
+    EXPECT_TRUE(none.shapes.empty());
+}
+
+TEST(InputFields, WriteTheirPropertiesInTheirOwnOrder)
+{
+    CHmiWidgetNumInput number;
+    EXPECT_EQ(OwnPropertyLines(number),
+              Line("color", "ulong", "0") + Line("varname", "string", "", "32") +
+                  Line("prompt", "string", "Please input", "32") + Line("intwidth", "ulong", "0") +
+                  Line("precision", "ulong", "2") + Line("minvalue", "float", "0.000000") +
+                  Line("maxvalue", "float", "100.000000") + Line("align", "ulong", "1") +
+                  Line("fontsize", "ulong", "0") + Line("password", "uchar", "0") + Line("inttype", "ulong", "0") +
+                  Line("security_level", "ushort", "0") + Line("security_mode", "uchar", "0") +
+                  Line("transparent", "uchar", "1") + Line("edgecolor", "ulong", "0") +
+                  Line("backcolor", "ulong", "12632256") + Line("up_shadow_color", "ulong", "8421504") +
+                  Line("down_shadow_color", "ulong", "16777215") + Line("shadow_width", "ulong", "1"));
+    EXPECT_EQ(std::get<2>(OwnPropertyRows(number)[2]), "Set number integer number ");
+    EXPECT_EQ(std::get<1>(OwnPropertyRows(number)[7]), "input password");
+
+    CHmiWidgetTextInput text;
+    EXPECT_EQ(OwnPropertyLines(text),
+              Line("color", "ulong", "0") + Line("varname", "string", "", "32") +
+                  Line("prompt", "string", "Please input", "32") + Line("password", "uchar", "0") +
+                  Line("align", "ulong", "1") + Line("fontsize", "ulong", "0") +
+                  Line("security_level", "ushort", "0") + Line("security_mode", "uchar", "0") +
+                  Line("transparent", "uchar", "1") + Line("edgecolor", "ulong", "0") +
+                  Line("backcolor", "ulong", "12632256") + Line("up_shadow_color", "ulong", "8421504") +
+                  Line("down_shadow_color", "ulong", "16777215") + Line("shadow_width", "ulong", "1"));
+    const auto rows = OwnPropertyRows(text);
+    EXPECT_EQ(std::get<1>(rows[3]), "password");
+    EXPECT_EQ(std::get<3>(rows.back()), 0) << "the text input's shadow width is not bindable";
+}
+
+TEST(InputFields, ReadNumbersInEitherBaseAndFloatsAsTyped)
+{
+    CHmiWidgetNumInput number;
+    number.SetWidgetProperty("backcolor", "ulong", "0xFF", "");
+    number.SetWidgetProperty("intwidth", "ulong", "0x10", "");
+    number.SetWidgetProperty("minvalue", "float", "-12.5", "");
+    number.SetWidgetProperty("fontsize", "ulong", "16", "");
+    number.SetWidgetProperty("align", "ulong", "0", "");
+    number.SetWidgetProperty("password", "uchar", "1", "");
+    EXPECT_EQ(number.m_backColor, 0xFFu);
+    EXPECT_EQ(number.m_nIntWidth, 16);
+    EXPECT_FLOAT_EQ(number.m_fMinValue, -12.5f);
+    EXPECT_EQ(number.m_nFontSize, 3);
+    EXPECT_EQ(number.m_nAlign, 1);
+    EXPECT_EQ(number.m_bPassword, 1);
+
+    std::string shown;
+    number.GetWidgetPropValue(*number.FindProperty("minvalue"), shown);
+    EXPECT_EQ(shown, "-12.500000");
+
+    CHmiWidgetTextInput text;
+    text.SetWidgetProperty("align", "ulong", "3", "");
+    EXPECT_EQ(text.m_nAlign, 3);
+    text.SetWidgetProperty("align", "ulong", "4", "");
+    EXPECT_EQ(text.m_nAlign, 1);
+}
+
+TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
+{
+    CHmiWidgetNumInput number;
+    number.SetWidgetRect({0, 0, 80, 20});
+    number.m_nAlign = 3;
+    RecordingDC transparent;
+    number.Draw(transparent);
+    ASSERT_EQ(transparent.shapes.size(), 1u);
+    EXPECT_EQ(transparent.shapes[0].text, "##");
+    EXPECT_EQ(transparent.shapes[0].format, HMI_DT_LEFT | HMI_DT_VCENTER | HMI_DT_SINGLELINE)
+        << "every alignment shows on the left";
+    EXPECT_EQ(transparent.shapes[0].font.face, "MS Serif");
+
+    number.m_nTransparent = 0;
+    RecordingDC opaque;
+    number.Draw(opaque);
+    EXPECT_EQ(opaque.ShapesOfKind("rectangle").size(), 1u);
+    EXPECT_EQ(opaque.ShapesOfKind("polygon").size(), 4u);
+
+    CHmiWidgetTextInput text;
+    text.m_nFontSize = 0;
+    RecordingDC textDc;
+    text.Draw(textDc);
+    ASSERT_EQ(textDc.ShapesOfKind("text").size(), 1u);
+    EXPECT_EQ(textDc.shapes[0].text, "abc");
+    EXPECT_EQ(textDc.shapes[0].font.face, "MS SansSerif");
+    text.m_nAlign = 5;
+    RecordingDC nothing;
+    text.Draw(nothing);
+    EXPECT_TRUE(nothing.ShapesOfKind("text").empty());
+}
+
+TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
+{
+    CTamloDoc doc;
+    doc.SetPictureFolder("/project");
+    auto* picture = new CHmiWidgetPic;
+    picture->SetWidgetRect({1, 2, 30, 40});
+    doc.AddWidget(HmiWidgetPtr(picture), true, false);
+    EXPECT_EQ(OwnPropertyLines(*picture), Line("filename", "string", "", "32") + Line("load", "uchar", "1") +
+                                              Line("transparent", "uchar", "0") +
+                                              Line("transparentcolor", "ulong", "0"));
+
+    RecordingDC frame;
+    picture->Draw(frame);
+    ASSERT_EQ(frame.shapes.size(), 1u);
+    EXPECT_EQ(frame.shapes[0].kind, "rectangle");
+
+    picture->m_strFileName = "pump.png";
+    picture->m_nTransparent = 1;
+    picture->m_transparentColor = 0xFF00FF;
+    RecordingDC dc;
+    picture->Draw(dc);
+    ASSERT_EQ(dc.shapes.size(), 1u);
+    EXPECT_EQ(dc.shapes[0].text, "/project/pump.png");
+    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{1, 2, 30, 40}));
+    EXPECT_TRUE(dc.shapes[0].transparent);
+    EXPECT_EQ(dc.shapes[0].color, 0xFF00FFu);
+}
+
+TEST(Picture, ChosenFilesAreCopiedIntoTheProjectUnlessAlreadyThere)
+{
+    TempDir dir;
+    std::filesystem::create_directories(dir.Path("project"));
+    std::filesystem::create_directories(dir.Path("elsewhere"));
+    const std::string project = dir.Path("project/");
+    const std::string inside = dir.Write("project/logo.png", "project copy");
+    std::string name;
+    ASSERT_TRUE(ImportPictureFile(inside, project, name));
+    EXPECT_EQ(name, "logo.png");
+    EXPECT_EQ(dir.Read("project/logo.png"), "project copy");
+
+    const std::string outside = dir.Write("elsewhere/logo.png", "newer picture");
+    ASSERT_TRUE(ImportPictureFile(outside, project, name));
+    EXPECT_EQ(dir.Read("project/logo.png"), "newer picture") << "a file of the same name is replaced";
+
+    EXPECT_FALSE(ImportPictureFile(dir.Path("elsewhere/none.png"), project, name));
+
+    CTamloDoc doc;
+    doc.SetPictureFolder(project);
+    auto* picture = new CHmiWidgetPic;
+    doc.AddWidget(HmiWidgetPtr(picture), true, false);
+    MemoryOptionTree tree;
+    picture->CreateWidgetPropertyTree(tree);
+    MemoryOptionItem* file = tree.Find("filename", "Picture");
+    file->SetEditText(dir.Write("elsewhere/valve.png", "valve"));
+    picture->UpdateWidgetPropByTree(file);
+    EXPECT_EQ(picture->m_strFileName, "valve.png");
+    EXPECT_EQ(dir.Read("project/valve.png"), "valve");
+    file->SetEditText(dir.Path("elsewhere/missing.png"));
+    picture->UpdateWidgetPropByTree(file);
+    EXPECT_EQ(picture->m_strFileName, "valve.png") << "a file that cannot be copied changes nothing";
+}
