@@ -6,17 +6,21 @@
 #include <QImage>
 #include <QPainter>
 
+#include <optional>
+
 struct CHmiImageDC::Canvas {
     Canvas(int width, int height) : image(std::max(width, 0), std::max(height, 0), QImage::Format_RGB32)
     {
         image.fill(Qt::white);
-        if (!image.isNull())
-            painter.begin(&image);
+        // An empty image still gets an active painter, so that drawing on it is quietly lost.
+        painter.begin(image.isNull() ? &scratch : &image);
+        dc.emplace(painter);
     }
 
     QImage image;
+    QImage scratch{1, 1, QImage::Format_RGB32};
     QPainter painter;
-    CHmiPainterDC dc{painter};
+    std::optional<CHmiPainterDC> dc;
 };
 
 CHmiImageDC::CHmiImageDC(int width, int height) : m_canvas(std::make_unique<Canvas>(width, height)) {}
@@ -54,24 +58,24 @@ FileResult CHmiImageDC::SavePng(const std::string& path) const
 }
 
 // Everything else is the painter's, on the image.
-HmiPen CHmiImageDC::SelectPen(const HmiPen& pen) { return m_canvas->dc.SelectPen(pen); }
-HmiBrush CHmiImageDC::SelectBrush(const HmiBrush& brush) { return m_canvas->dc.SelectBrush(brush); }
-HmiFont CHmiImageDC::SelectFont(const HmiFont& font) { return m_canvas->dc.SelectFont(font); }
-HmiColor CHmiImageDC::SetTextColor(HmiColor color) { return m_canvas->dc.SetTextColor(color); }
-HmiColor CHmiImageDC::SetBkColor(HmiColor color) { return m_canvas->dc.SetBkColor(color); }
-HmiBkMode CHmiImageDC::SetBkMode(HmiBkMode mode) { return m_canvas->dc.SetBkMode(mode); }
-HmiPoint CHmiImageDC::MoveTo(HmiPoint point) { return m_canvas->dc.MoveTo(point); }
-void CHmiImageDC::LineTo(HmiPoint point) { m_canvas->dc.LineTo(point); }
-void CHmiImageDC::Rectangle(const HmiRect& rect) { m_canvas->dc.Rectangle(rect); }
-void CHmiImageDC::Ellipse(const HmiRect& rect) { m_canvas->dc.Ellipse(rect); }
-void CHmiImageDC::Polygon(std::span<const HmiPoint> points) { m_canvas->dc.Polygon(points); }
-void CHmiImageDC::FillSolidRect(const HmiRect& rect, HmiColor color) { m_canvas->dc.FillSolidRect(rect, color); }
+HmiPen CHmiImageDC::SelectPen(const HmiPen& pen) { return m_canvas->dc->SelectPen(pen); }
+HmiBrush CHmiImageDC::SelectBrush(const HmiBrush& brush) { return m_canvas->dc->SelectBrush(brush); }
+HmiFont CHmiImageDC::SelectFont(const HmiFont& font) { return m_canvas->dc->SelectFont(font); }
+HmiColor CHmiImageDC::SetTextColor(HmiColor color) { return m_canvas->dc->SetTextColor(color); }
+HmiColor CHmiImageDC::SetBkColor(HmiColor color) { return m_canvas->dc->SetBkColor(color); }
+HmiBkMode CHmiImageDC::SetBkMode(HmiBkMode mode) { return m_canvas->dc->SetBkMode(mode); }
+HmiPoint CHmiImageDC::MoveTo(HmiPoint point) { return m_canvas->dc->MoveTo(point); }
+void CHmiImageDC::LineTo(HmiPoint point) { m_canvas->dc->LineTo(point); }
+void CHmiImageDC::Rectangle(const HmiRect& rect) { m_canvas->dc->Rectangle(rect); }
+void CHmiImageDC::Ellipse(const HmiRect& rect) { m_canvas->dc->Ellipse(rect); }
+void CHmiImageDC::Polygon(std::span<const HmiPoint> points) { m_canvas->dc->Polygon(points); }
+void CHmiImageDC::FillSolidRect(const HmiRect& rect, HmiColor color) { m_canvas->dc->FillSolidRect(rect, color); }
 void CHmiImageDC::DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format)
 {
-    m_canvas->dc.DrawText(text, rect, format);
+    m_canvas->dc->DrawText(text, rect, format);
 }
-HmiPoint CHmiImageDC::GetTextExtent(std::string_view text) { return m_canvas->dc.GetTextExtent(text); }
+HmiPoint CHmiImageDC::GetTextExtent(std::string_view text) { return m_canvas->dc->GetTextExtent(text); }
 bool CHmiImageDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
-    return m_canvas->dc.DrawPictureFile(path, rect, transparent);
+    return m_canvas->dc->DrawPictureFile(path, rect, transparent);
 }
