@@ -1,0 +1,69 @@
+#include "project/namelists.h"
+#include "project/projectpath.h"
+#include "tests/support/tempdir.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Repeated(const char* element, int count)
+{
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        text += std::string("<") + element + " name=\"n" + std::to_string(i) + "\"/><skip/>";
+    return text;
+}
+
+struct NameListsTest : ::testing::Test {
+    void SetUp() override { SetProjectPath(dir.Path("")); }
+    void TearDown() override { SetProjectPath(""); }
+
+    TempDir dir;
+    std::string names[kMaxDataLogNames];
+    int count = -1;
+};
+
+} // namespace
+
+TEST_F(NameListsTest, WithoutAProjectNothingIsRead)
+{
+    SetProjectPath("");
+    EXPECT_EQ(GetHmiLognameDesp(names, count), 0);
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(GetHmiHistoryDbname(names, count), 0);
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(NameListsTest, DataLogNamesInFileOrderUpToTheLimit)
+{
+    dir.Write("datalog.xml", "<datalog>" + Repeated("log", 150) + "</datalog>");
+    EXPECT_EQ(GetHmiLognameDesp(names, count), 1);
+    EXPECT_EQ(count, 100);
+    EXPECT_EQ(names[0], "n0");
+    EXPECT_EQ(names[99], "n99");
+
+    dir.Write("datalog.xml", "<logs>" + Repeated("log", 3) + "</logs>");
+    EXPECT_EQ(GetHmiLognameDesp(names, count), 1);
+    EXPECT_EQ(count, 0) << "another root gives no names";
+}
+
+TEST_F(NameListsTest, HistoryNamesInBothForms)
+{
+    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
+    EXPECT_EQ(count, 0) << "no file";
+
+    dir.Write("history.xml", "<zqhistory>" + Repeated("historydb", 40) + "</zqhistory>");
+    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
+    EXPECT_EQ(count, 32);
+    EXPECT_EQ(names[31], "n31");
+
+    names[0] = "stale";
+    dir.Write("history.xml", "<history><historydb name=\"old\"/></history>");
+    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
+    EXPECT_EQ(count, 1);
+    EXPECT_EQ(names[0], "") << "the older form has one nameless database";
+
+    dir.Write("history.xml", "<zqhistory><historydb name=\"a\"/>");
+    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
+    EXPECT_EQ(count, 0) << "a broken file gives no names";
+}
