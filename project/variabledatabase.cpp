@@ -56,21 +56,25 @@ void ReadRealtimeRow(const XmlElement& element, VariableNode& folder)
 
 void ReadIoRow(const XmlElement& element, VariableNode& folder)
 {
-    if (element.Is("data"))
-        folder.rows.push_back({.kind = VariableRow::Kind::Io,
-                               .name = element.Attribute("name"),
-                               .dbname = element.Attribute("dbname"),
-                               .dataname = element.Attribute("dataname")});
+    if (!element.Is("data"))
+        return;
+    VariableRow& row = folder.rows.emplace_back();
+    row.kind = VariableRow::Kind::Io;
+    row.name = element.Attribute("name");
+    row.dbname = element.Attribute("dbname");
+    row.dataname = element.Attribute("dataname");
 }
 
 void ReadMemoryRow(const XmlElement& element, VariableNode& folder)
 {
-    if (element.Is("data"))
-        folder.rows.push_back({.kind = VariableRow::Kind::Memory,
-                               .name = element.Attribute("name"),
-                               .type = HmiTypeFullName(element.Attribute("type")),
-                               .length = element.Attribute("length"),
-                               .init = element.Attribute("init")});
+    if (!element.Is("data"))
+        return;
+    VariableRow& row = folder.rows.emplace_back();
+    row.kind = VariableRow::Kind::Memory;
+    row.name = element.Attribute("name");
+    row.type = HmiTypeFullName(element.Attribute("type"));
+    row.length = element.Attribute("length");
+    row.init = element.Attribute("init");
 }
 
 } // namespace
