@@ -1,5 +1,7 @@
 // kelvo-hmi: the editor's core on the command line, for people and scripts without a display.
 
+#include "project/projectpath.h"
+#include "project/variabledatabase.h"
 #include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/core/hmiimagedc.h"
 #include "widgets/core/tamlodoc.h"
@@ -9,6 +11,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <span>
 #include <string>
@@ -57,6 +60,20 @@ int RoundTrip(Arguments args)
     return 0;
 }
 
+// Every variable reference the project offers, as the variable picker gives them.
+int Vars(Arguments args)
+{
+    std::error_code error;
+    if (!std::filesystem::is_directory(args[0], error))
+        return Fail(std::string("Cannot open the project folder ") + args[0]);
+    SetProjectPath(args[0]);
+    CHmiVariableDatabase database;
+    database.LoadProject(GetProjectPath());
+    for (const std::string& text : database.AllReferenceTexts())
+        std::printf("%s\n", text.c_str());
+    return 0;
+}
+
 // render IN.xml OUT.png [--project DIR]
 int Render(Arguments args)
 {
@@ -81,6 +98,7 @@ const Command kCommands[] = {
     {"list", "list WINDOW.xml", "one line per widget: name, class, left, top, right, bottom", 1, 1, false, List},
     {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, 2, true,
      RoundTrip},
+    {"vars", "vars PROJECT", "every variable reference the project offers, one per line", 1, 1, false, Vars},
     {"render", "render IN.xml OUT.png [--project DIR]",
      "draw the window as the canvas does (pictures from DIR, else beside IN.xml)", 2, 4, true, Render},
 };

@@ -75,3 +75,13 @@ TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
     EXPECT_EQ(RunTool("frobnicate").status, 2);
     EXPECT_EQ(RunTool("--version").status, 0);
 }
+
+TEST(CommandLine, ListsTheVariablesOfTheDemoProject)
+{
+    const ToolRun vars = RunTool(std::string("vars '") + KELVO_DEMO_DIR + "'");
+    EXPECT_EQ(vars.status, 0);
+    for (const char* reference : {"$plc.temperature\n", "$plc.mode\n", "$plc.feed_pump\n", "$sim.tick\n",
+                                  "$pump1\n", "$setpoint\n", "$current_window\n"})
+        EXPECT_NE(vars.output.find(reference), std::string::npos) << reference;
+    EXPECT_EQ(RunTool("vars /nonexistent/project").status, 1);
+}
