@@ -5,6 +5,7 @@
 #include "widgets/core/optiontree.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -19,10 +20,21 @@ enum class FileNumber {
     Signed,   // HmiParseLong
 };
 
+// How a text property's length attribute is written.
+enum class TextLength {
+    Standard,      // 32, or the byte length plus one for longer texts
+    None,          // never
+    ShortVariable, // 32 for a text shorter than 32 bytes, none for a longer one
+};
+
+// Per-curve settings come in families of this many entries (key1 to key16).
+inline constexpr std::size_t kSeriesCount = 16;
+
 // One own property of a catalogue widget: its record in the property list, the member that
 // holds its value and how that value travels through the window file. Exactly one member
-// pointer is set. Tables are written with designated initialisers, so that each entry says
-// only what differs from the common case.
+// pointer is set; the series pointers name an array member and `series` the entry. Tables
+// are written with designated initialisers, so each entry says only what differs from the
+// common case.
 template <class Widget>
 struct PropertySpec {
     const char* key;
@@ -37,6 +49,10 @@ struct PropertySpec {
     std::uint8_t Widget::*flag = nullptr;
     float Widget::*real = nullptr;
     std::string Widget::*text = nullptr;
+    std::array<HmiColor, kSeriesCount> Widget::*colors = nullptr;
+    std::array<float, kSeriesCount> Widget::*reals = nullptr;
+    std::array<std::string, kSeriesCount> Widget::*texts = nullptr;
+    std::size_t series = 0;
 
     FileNumber read = FileNumber::Decimal;
     std::span<const char* const> choices = {};
@@ -46,10 +62,12 @@ struct PropertySpec {
     std::int32_t lastCode = 0;
     // A font size kept as its list index and written as the size at that index.
     std::span<const std::int32_t> sizes = {};
+    TextLength textLength = TextLength::Standard;
     // A text written with a length attribute taken from this member, which it also sets
     // when read back.
     std::int32_t Widget::*length = nullptr;
-    bool saved = true; // false: only in the property list
+    bool declared = true; // false: read and written, but no row in the property list
+    bool saved = true;    // false: only in the property list
 };
 
 // The catalogue's pattern for every widget whose properties are plain values: the records,
@@ -59,14 +77,19 @@ struct PropertySpec {
 //   static std::span<const PropertySpec<Widget>> Properties();
 // and, when it writes its properties in another order than it lists them,
 //   static std::span<const char* const> SaveOrder();
-template <class Widget>
-class CHmiTableWidget : public CHmiWidget {
+// A record goes under the root item of its group: kGroup unless the widget groups its
+// records itself with `static const char* GroupOfProperty(const PropertySpec<Widget>&)`.
+template <class Widget, class Base = CHmiWidget>
+class CHmiTableWidget : public Base {
 public:
     CHmiTableWidget()
     {
         for (const PropertySpec<Widget>& spec : Widget::Properties()) {
+            if (!spec.declared)
+                continue;
             CHmiWidgetProp& prop =
-                DeclareProperty(spec.key, spec.label, spec.description, spec.bindable, Widget::kGroup, spec.itemType);
+                this->DeclareProperty(spec.key, spec.label, spec.description, spec.bindable, RecordGroup(spec),
+                                      spec.itemType);
             if (!spec.choices.empty())
                 prop.SetComboList(spec.choices.data(), std::int32_t(spec.choices.size()));
         }
@@ -77,16 +100,16 @@ public:
     {
         auto copy = std::make_unique<Widget>();
         for (const PropertySpec<Widget>& spec : Widget::Properties()) {
-            if (spec.text)
-                copy.get()->*spec.text = Self().*spec.text;
-            else if (spec.real)
-                copy.get()->*spec.real = Self().*spec.real;
+            if (const std::string* text = TextOf(Self(), spec))
+                *TextOf(*copy, spec) = *text;
+            else if (const float* real = RealOf(Self(), spec))
+                *RealOf(*copy, spec) = *real;
             else
                 copy->SetNumber(spec, Number(spec));
         }
         if constexpr (requires { Self().CopyExtraState(*copy); })
             Self().CopyExtraState(*copy);
-        CopyTo(*copy);
+        this->CopyTo(*copy);
         return HmiWidgetPtr(copy.release());
     }
 
@@ -95,18 +118,17 @@ public:
     int SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,
                           std::string_view length) override
     {
-        if (CHmiWidget::SetWidgetProperty(name, type, value, length))
+        if (Base::SetWidgetProperty(name, type, value, length))
             return 1;
         const PropertySpec<Widget>* spec = Find(name);
         if (!spec)
             return 0;
-        Widget& self = Self();
-        if (spec->text) {
-            self.*spec->text = std::string(value);
+        if (std::string* text = TextOf(Self(), *spec)) {
+            *text = std::string(value);
             if (spec->length)
-                self.*spec->length = HmiDecimalToLong(length);
-        } else if (spec->real) {
-            self.*spec->real = float(std::atof(std::string(value).c_str()));
+                Self().*spec->length = HmiDecimalToLong(length);
+        } else if (float* real = RealOf(Self(), *spec)) {
+            *real = float(std::atof(std::string(value).c_str()));
         } else {
             std::int32_t number = ReadNumber(*spec, value);
             if (!spec->sizes.empty())
@@ -120,17 +142,16 @@ public:
 
     int GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text) const override
     {
-        if (CHmiWidget::GetWidgetPropValue(prop, text))
+        if (Base::GetWidgetPropValue(prop, text))
             return 1;
         const PropertySpec<Widget>* spec = Find(prop.m_strName);
         if (!spec)
             return 0;
-        const Widget& self = Self();
-        if (spec->text) {
-            text = self.*spec->text;
-        } else if (spec->real) {
+        if (const std::string* value = TextOf(Self(), *spec)) {
+            text = *value;
+        } else if (const float* real = RealOf(Self(), *spec)) {
             char buffer[64];
-            std::snprintf(buffer, sizeof buffer, "%f", double(self.*spec->real));
+            std::snprintf(buffer, sizeof buffer, "%f", double(*real));
             text = buffer;
         } else {
             text = std::to_string(Number(*spec) - spec->codeOffset);
@@ -138,26 +159,28 @@ public:
         return 1;
     }
 
+    // A widget with more root items than its group's adds them in `AddRootItems()`.
     void CreateWidgetRootItems(COptionTree& tree) override
     {
-        CHmiWidget::CreateWidgetRootItems(tree);
-        CreateNewRootItem(Widget::kGroup, Widget::kRootText)->Expand();
+        Base::CreateWidgetRootItems(tree);
+        this->CreateNewRootItem(Widget::kGroup, Widget::kRootText)->Expand();
+        if constexpr (requires { Self().AddRootItems(); })
+            Self().AddRootItems();
     }
 
     void UpdateWidgetPropByTree(COptionTreeItem* item) override
     {
-        CHmiWidget::UpdateWidgetPropByTree(item);
-        const CHmiWidgetProp* prop = GetWidgetPropByTreeItem(item);
+        Base::UpdateWidgetPropByTree(item);
+        const CHmiWidgetProp* prop = this->GetWidgetPropByTreeItem(item);
         const PropertySpec<Widget>* spec = prop ? Find(prop->m_strName) : nullptr;
         if (!spec)
             return;
-        Widget& self = Self();
-        if (spec->text)
-            self.*spec->text = item->GetEditText();
-        else if (spec->real)
-            self.*spec->real = float(std::atof(item->GetEditText().c_str()));
-        else if (spec->color)
-            self.*spec->color = item->GetColor();
+        if (std::string* text = TextOf(Self(), *spec))
+            *text = item->GetEditText();
+        else if (float* real = RealOf(Self(), *spec))
+            *real = float(std::atof(item->GetEditText().c_str()));
+        else if (spec->color || spec->colors)
+            SetNumber(*spec, std::int32_t(item->GetColor()));
         else if (spec->itemType == PROP_COMBO)
             SetNumber(*spec, item->GetCurSel() + spec->codeOffset);
         else if (spec->itemType == PROP_CHECKBOX)
@@ -168,7 +191,7 @@ public:
 
     void SaveWidgetProperties(std::string& archive) const override
     {
-        CHmiWidget::SaveWidgetProperties(archive);
+        Base::SaveWidgetProperties(archive);
         if constexpr (requires { Widget::SaveOrder(); }) {
             for (const char* key : Widget::SaveOrder())
                 SaveProperty(archive, *Find(key));
@@ -191,44 +214,84 @@ protected:
     // The value a number-like property holds (colour, number or flag).
     std::int32_t Number(const PropertySpec<Widget>& spec) const
     {
+        const Widget& self = Self();
         if (spec.color)
-            return std::int32_t(Self().*spec.color);
+            return std::int32_t(self.*spec.color);
+        if (spec.colors)
+            return std::int32_t(*((self.*spec.colors).data() + spec.series));
         if (spec.flag)
-            return Self().*spec.flag;
-        return Self().*spec.number;
+            return self.*spec.flag;
+        return self.*spec.number;
     }
 
     void SetNumber(const PropertySpec<Widget>& spec, std::int32_t value)
     {
+        Widget& self = Self();
         if (spec.color)
-            Self().*spec.color = HmiColor(value);
+            self.*spec.color = HmiColor(value);
+        else if (spec.colors)
+            *((self.*spec.colors).data() + spec.series) = HmiColor(value);
         else if (spec.flag)
-            Self().*spec.flag = std::uint8_t(value);
+            self.*spec.flag = std::uint8_t(value);
         else
-            Self().*spec.number = value;
+            self.*spec.number = value;
     }
 
     void SaveProperty(std::string& archive, const PropertySpec<Widget>& spec) const
     {
-        const Widget& self = Self();
-        if (spec.text) {
-            const std::string length = spec.length ? std::to_string(self.*spec.length) : std::string();
-            SaveWidgetProperty(archive, spec.key, spec.xmlType, spec.length ? length.c_str() : nullptr,
-                               self.*spec.text);
-        } else if (spec.real) {
-            SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, self.*spec.real);
-        } else if (!spec.sizes.empty()) {
-            const std::int32_t index = Number(spec);
-            const bool known = index >= 0 && std::size_t(index) < spec.sizes.size();
-            SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, known ? spec.sizes[std::size_t(index)] : 0);
-        } else {
-            SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, Number(spec));
-        }
+        if (const std::string* text = TextOf(Self(), spec))
+            SaveText(archive, spec, *text);
+        else if (const float* real = RealOf(Self(), spec))
+            this->SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, *real);
+        else if (!spec.sizes.empty())
+            this->SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, SizeAt(spec, Number(spec)));
+        else
+            this->SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, Number(spec));
     }
 
 private:
     Widget& Self() { return static_cast<Widget&>(*this); }
     const Widget& Self() const { return static_cast<const Widget&>(*this); }
+
+    static const char* RecordGroup(const PropertySpec<Widget>& spec)
+    {
+        if constexpr (requires { Widget::GroupOfProperty(spec); })
+            return Widget::GroupOfProperty(spec);
+        else
+            return Widget::kGroup;
+    }
+
+    template <class Object>
+    static auto TextOf(Object& self, const PropertySpec<Widget>& spec) -> decltype(&(self.*spec.text))
+    {
+        if (spec.text)
+            return &(self.*spec.text);
+        return spec.texts ? (self.*spec.texts).data() + spec.series : nullptr;
+    }
+
+    template <class Object>
+    static auto RealOf(Object& self, const PropertySpec<Widget>& spec) -> decltype(&(self.*spec.real))
+    {
+        if (spec.real)
+            return &(self.*spec.real);
+        return spec.reals ? (self.*spec.reals).data() + spec.series : nullptr;
+    }
+
+    void SaveText(std::string& archive, const PropertySpec<Widget>& spec, const std::string& text) const
+    {
+        constexpr std::size_t kShortText = 32;
+        if (spec.length) {
+            const std::string length = std::to_string(Self().*spec.length);
+            this->SaveWidgetProperty(archive, spec.key, spec.xmlType, length.c_str(), text);
+        } else if (spec.textLength == TextLength::None ||
+                   (spec.textLength == TextLength::ShortVariable && text.size() >= kShortText)) {
+            this->SaveWidgetPropertyWithoutLength(archive, spec.key, spec.xmlType, text);
+        } else if (spec.textLength == TextLength::ShortVariable) {
+            this->SaveWidgetProperty(archive, spec.key, spec.xmlType, "32", text);
+        } else {
+            this->SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, text);
+        }
+    }
 
     static std::int32_t ReadNumber(const PropertySpec<Widget>& spec, std::string_view value)
     {
@@ -247,5 +310,11 @@ private:
     {
         const auto found = std::find(spec.sizes.begin(), spec.sizes.end(), size);
         return found == spec.sizes.end() ? 0 : std::int32_t(found - spec.sizes.begin());
+    }
+
+    // The font size at a list index; 0 for an index outside the list.
+    static std::int32_t SizeAt(const PropertySpec<Widget>& spec, std::int32_t index)
+    {
+        return index >= 0 && std::size_t(index) < spec.sizes.size() ? spec.sizes[std::size_t(index)] : 0;
     }
 };

@@ -418,24 +418,44 @@ std::string CHmiWidget::ConvertExpToXMLFormat(std::string_view text)
     return out;
 }
 
-void CHmiWidget::SaveWidgetProperty(std::string& archive, const char* name, const char* type, const char* length,
-                                    std::string_view value)
+namespace {
+
+void AppendPropertyLine(std::string& archive, const char* name, const char* type, std::string_view length,
+                        std::string_view value)
 {
     archive += "\t\t\t<property name=\"";
     archive += name;
     archive += "\" type=\"";
     archive += type;
-    if (length) {
+    if (!length.empty()) {
         archive += "\" length=\"";
         archive += length;
-    } else if (std::string_view(type) == "string") {
-        constexpr std::size_t kMinimumStringLength = 32;
-        archive += "\" length=\"";
-        archive += std::to_string(value.size() < kMinimumStringLength ? kMinimumStringLength : value.size() + 1);
     }
     archive += "\" value=\"";
-    archive += ConvertExpToXMLFormat(value);
+    archive += CHmiWidget::ConvertExpToXMLFormat(value);
     archive += "\" />\n";
+}
+
+} // namespace
+
+void CHmiWidget::SaveWidgetProperty(std::string& archive, const char* name, const char* type, const char* length,
+                                    std::string_view value)
+{
+    if (length) {
+        AppendPropertyLine(archive, name, type, length, value);
+    } else if (std::string_view(type) == "string") {
+        constexpr std::size_t kMinimumStringLength = 32;
+        const std::size_t size = value.size() < kMinimumStringLength ? kMinimumStringLength : value.size() + 1;
+        AppendPropertyLine(archive, name, type, std::to_string(size), value);
+    } else {
+        AppendPropertyLine(archive, name, type, {}, value);
+    }
+}
+
+void CHmiWidget::SaveWidgetPropertyWithoutLength(std::string& archive, const char* name, const char* type,
+                                                 std::string_view value)
+{
+    AppendPropertyLine(archive, name, type, {}, value);
 }
 
 void CHmiWidget::SaveWidgetProperty(std::string& archive, const char* name, const char* type, const char* length,

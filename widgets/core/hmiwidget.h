@@ -145,6 +145,10 @@ public:
                                    const char* length, std::int32_t value);
     static void SaveWidgetProperty(std::string& archive, const char* name, const char* type,
                                    const char* length, const float& value);
+    // A `property` line without a length attribute, whatever the type: for the few strings
+    // the panel reads without one.
+    static void SaveWidgetPropertyWithoutLength(std::string& archive, const char* name, const char* type,
+                                                std::string_view value);
     // The XML escaping of property values and expressions.
     static std::string ConvertExpToXMLFormat(std::string_view text);
 
