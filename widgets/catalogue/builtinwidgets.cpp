@@ -1,11 +1,16 @@
 #include "builtinwidgets.h"
 
+#include "hmiwidgetalarmwnd.h"
 #include "hmiwidgetbmptext.h"
 #include "hmiwidgetbutton.h"
+#include "hmiwidgetcontrols.h"
+#include "hmiwidgetcurve.h"
 #include "hmiwidgetellipse.h"
 #include "hmiwidgetgradellipse.h"
 #include "hmiwidgetgradrect.h"
 #include "hmiwidgetgradtriangle.h"
+#include "hmiwidgethiscurve.h"
+#include "hmiwidgethislist.h"
 #include "hmiwidgetline.h"
 #include "hmiwidgetnuminput.h"
 #include "hmiwidgetpic.h"
@@ -33,11 +38,17 @@ constexpr BuiltinWidgetClass kBuiltinWidgetClasses[] = {
     {"gradtriangle", &CHmiWidgetGradTriangle::classCHmiWidgetGradTriangle},
     {"picture", &CHmiWidgetPic::classCHmiWidgetPic},
     {"button", &CHmiWidgetButton::classCHmiWidgetButton},
+    {"checkbox", &CHmiWidgetCheckbox::classCHmiWidgetCheckbox},
     {"timer", &CHmiWidgetTimer::classCHmiWidgetTimer},
+    {"combobox", &CHmiWidgetCombobox::classCHmiWidgetCombobox},
+    {"curve", &CHmiWidgetCurve::classCHmiWidgetCurve},
+    {"hiscurve", &CHmiWidgetHisCurve::classCHmiWidgetHisCurve},
     {"window", &CHmiWidgetWindow::classCHmiWidgetWindow},
     {"numinput", &CHmiWidgetNumInput::classCHmiWidgetNumInput},
     {"textinput", &CHmiWidgetTextInput::classCHmiWidgetTextInput},
+    {"alarmwnd", &CHmiWidgetAlarmWnd::classCHmiWidgetAlarmWnd},
     {"bmptext", &CHmiWidgetBmpText::classCHmiWidgetBmpText},
+    {"hislist", &CHmiWidgetHisList::classCHmiWidgetHisList},
 };
 
 } // namespace

@@ -66,8 +66,12 @@ struct PropertySpec {
     // A text written with a length attribute taken from this member, which it also sets
     // when read back.
     std::int32_t Widget::*length = nullptr;
+    // A value that travels as a text of the widget's own making, such as a name for an index.
+    std::string (*writeText)(const Widget&) = nullptr;
+    void (*readText)(Widget&, std::string_view) = nullptr;
     bool declared = true; // false: read and written, but no row in the property list
     bool saved = true;    // false: only in the property list
+    const char* group = nullptr; // the root item it goes under; the widget's kGroup when null
 };
 
 // The catalogue's pattern for every widget whose properties are plain values: the records,
@@ -77,8 +81,6 @@ struct PropertySpec {
 //   static std::span<const PropertySpec<Widget>> Properties();
 // and, when it writes its properties in another order than it lists them,
 //   static std::span<const char* const> SaveOrder();
-// A record goes under the root item of its group: kGroup unless the widget groups its
-// records itself with `static const char* GroupOfProperty(const PropertySpec<Widget>&)`.
 template <class Widget, class Base = CHmiWidget>
 class CHmiTableWidget : public Base {
 public:
@@ -123,7 +125,9 @@ public:
         const PropertySpec<Widget>* spec = Find(name);
         if (!spec)
             return 0;
-        if (std::string* text = TextOf(Self(), *spec)) {
+        if (spec->readText) {
+            spec->readText(Self(), value);
+        } else if (std::string* text = TextOf(Self(), *spec)) {
             *text = std::string(value);
             if (spec->length)
                 Self().*spec->length = HmiDecimalToLong(length);
@@ -239,7 +243,9 @@ protected:
 
     void SaveProperty(std::string& archive, const PropertySpec<Widget>& spec) const
     {
-        if (const std::string* text = TextOf(Self(), spec))
+        if (spec.writeText)
+            SaveText(archive, spec, spec.writeText(Self()));
+        else if (const std::string* text = TextOf(Self(), spec))
             SaveText(archive, spec, *text);
         else if (const float* real = RealOf(Self(), spec))
             this->SaveWidgetProperty(archive, spec.key, spec.xmlType, nullptr, *real);
@@ -255,10 +261,7 @@ private:
 
     static const char* RecordGroup(const PropertySpec<Widget>& spec)
     {
-        if constexpr (requires { Widget::GroupOfProperty(spec); })
-            return Widget::GroupOfProperty(spec);
-        else
-            return Widget::kGroup;
+        return spec.group ? spec.group : Widget::kGroup;
     }
 
     template <class Object>

@@ -14,6 +14,7 @@ TEST(BuiltinWidgets, RegistersEachKeyInTableOrderForAClassThatWritesIt)
     }
     CHmiWidget::RemoveAllRunTimeClass();
     EXPECT_EQ(keys, (std::vector<std::string>{"ellipse", "text", "line", "rectangle", "gradrectangle", "gradellipse",
-                                             "gradtriangle", "picture", "button", "timer", "window", "numinput",
-                                             "textinput", "bmptext"}));
+                                             "gradtriangle", "picture", "button", "checkbox", "timer", "combobox",
+                                             "curve", "hiscurve", "window", "numinput", "textinput", "alarmwnd",
+                                             "bmptext", "hislist"}));
 }

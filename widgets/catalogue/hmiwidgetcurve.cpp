@@ -1,0 +1,123 @@
+#include "hmiwidgetcurve.h"
+
+#include "project/namelists.h"
+
+HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetCurve, CHmiWidget)
+
+namespace {
+
+constexpr const char* kCurveGroup = "Curve properties";
+constexpr const char* kIndicatorGroup = "Curve indicator properties";
+constexpr const char* kDataSourceChoices[] = {"In Memory", "File"};
+constexpr const char* kFilePathChoices[] = {"Internal Flash", "CF card"};
+
+} // namespace
+
+std::span<const PropertySpec<CHmiWidgetCurve>> CHmiWidgetCurve::Properties()
+{
+    using W = CHmiWidgetCurve;
+    static const std::vector<PropertySpec<W>> properties = [] {
+        constexpr FileNumber kHex = FileNumber::Unsigned;
+        std::vector<PropertySpec<W>> specs = {
+            {.key = "minvalue", .label = "minimum value", .description = "Set minimal value of Y coordinate",
+             .xmlType = "float", .real = &W::m_fMinValue},
+            {.key = "maxvalue", .label = "maximal value", .description = "Set maximal value of Y coordinate",
+             .xmlType = "float", .real = &W::m_fMaxValue},
+            {.key = "xmaxpoints", .label = "xmaxpoints", .description = "Set the max points of X coordinate",
+             .bindable = 0, .xmlType = "ushort", .number = &W::m_nXMaxPoints, .read = kHex},
+            {.key = "xpoints", .label = "xpoints", .description = "Set the points of X coordinate",
+             .xmlType = "ushort", .number = &W::m_nXPoints, .read = kHex},
+            {.key = "hlines", .label = "hlines", .description = "Set the number of vertical lines",
+             .xmlType = "ushort", .number = &W::m_nHLines, .read = kHex},
+            {.key = "vlines", .label = "vlines", .description = "Set the number of horizontal lines",
+             .xmlType = "ushort", .number = &W::m_nVLines, .read = kHex},
+            {.key = "framehspace", .label = "framehspace", .description = "Set the horizontal space of draw area",
+             .xmlType = "ushort", .number = &W::m_nFrameHSpace, .read = kHex},
+            {.key = "framevspace", .label = "framevspace", .description = "Set the vertical space of draw area",
+             .xmlType = "ushort", .number = &W::m_nFrameVSpace, .read = kHex},
+            {.key = "bkcolor", .label = "backcolor", .description = "Set the background color",
+             .itemType = PROP_COLOR, .color = &W::m_bkColor, .read = kHex},
+            {.key = "framecolor", .label = "curve backcolor", .description = "Set the background color of curve",
+             .itemType = PROP_COLOR, .color = &W::m_frameColor, .read = kHex},
+            {.key = "hlinecolor", .label = "hlinecolor", .description = "Set the color of vertical lines",
+             .itemType = PROP_COLOR, .color = &W::m_hLineColor, .read = kHex},
+            {.key = "vlinecolor", .label = "vlinecolor", .description = "Set the color of horizontal lines",
+             .itemType = PROP_COLOR, .color = &W::m_vLineColor, .read = kHex},
+            {.key = "textcolor", .label = "textcolor", .description = "Set the color of text",
+             .itemType = PROP_COLOR, .color = &W::m_textColor, .read = kHex},
+            {.key = "curvenum", .label = "curvenum", .description = "Set the number of curves(<=16)", .bindable = 0,
+             .xmlType = "ushort", .number = &W::m_nCurveNum, .read = kHex},
+            {.key = "datasource", .label = "datasource", .description = "Set the data source",
+             .itemType = PROP_COMBO, .bindable = 0, .xmlType = "uchar", .flag = &W::m_nDataSource, .read = kHex,
+             .choices = kDataSourceChoices},
+            {.key = "lognamenum", .label = "logname", .description = "Set the log name of In memory data source",
+             .itemType = PROP_COMBO, .bindable = 0, .xmlType = "ushort", .number = &W::m_nLogNameNum,
+             .read = kHex},
+            {.key = "filepath", .label = "file path", .description = "Set the file path of file data source",
+             .itemType = PROP_COMBO, .xmlType = "char", .flag = &W::m_nFilePath, .read = kHex,
+             .choices = kFilePathChoices},
+            {.key = "filename", .label = "file name", .description = "Set file name", .xmlType = "string",
+             .text = &W::m_strFileName},
+            {.key = "startpoint", .label = "Start point", .description = "Set the start point of file",
+             .number = &W::m_nStartPoint, .read = kHex},
+        };
+        const CurveFamily names{"dataname", "Var", "Set the curve variable name", kCurveGroup};
+        const CurveFamily colours{"datacolor", "Color", "Set the curve color", kCurveGroup};
+        for (std::size_t n = 1; n <= kSeriesCount; ++n) {
+            specs.push_back(CurveVariable<W>(names, n, &CurveSettings::m_dataName));
+            specs.push_back(CurveColor<W>(colours, n));
+        }
+        specs.push_back({.key = "enableind", .label = "Enable indicator", .description = "If enable indicator",
+                         .itemType = PROP_CHECKBOX, .xmlType = "uchar", .flag = &W::m_bEnableInd, .read = kHex,
+                         .group = kIndicatorGroup});
+        specs.push_back({.key = "indcolor", .label = "Indicator color", .description = "Set indicator color",
+                         .itemType = PROP_COLOR, .color = &W::m_indColor, .read = kHex, .group = kIndicatorGroup});
+        specs.push_back({.key = "timevarname", .label = "Time variable",
+                         .description = "Set Variable of indicator time", .itemType = PROP_VARIABLE,
+                         .xmlType = "string", .text = &W::m_strTimeVarName, .group = kIndicatorGroup});
+        const CurveFamily values{"valuevarname", "Value", "Set variable of indicator variable", kIndicatorGroup};
+        for (std::size_t n = 1; n <= kSeriesCount; ++n)
+            specs.push_back(CurveVariable<W>(values, n, &CurveSettings::m_valueVarName));
+        for (std::size_t n = 1; n <= kSeriesCount; ++n)
+            specs.push_back(CurveAddData<W>(n));
+        specs.push_back({.key = "hmaxlines", .label = "", .description = "", .xmlType = "ushort",
+                         .number = &W::m_nHMaxLines, .read = kHex, .declared = false});
+        // The log's name goes to the file beside its index; reading takes the index alone.
+        specs.push_back({.key = "logname", .label = "", .description = "", .xmlType = "string",
+                         .writeText = [](const W& w) { return w.m_logNames.NameAt(w.m_nLogNameNum); },
+                         .readText = [](W&, std::string_view) {},
+                         .declared = false});
+        return specs;
+    }();
+    return properties;
+}
+
+std::span<const char* const> CHmiWidgetCurve::SaveOrder()
+{
+    static const std::vector<const char*> order = [] {
+        std::vector<const char*> keys = {
+            "bkcolor", "framecolor", "textcolor", "hlinecolor", "vlinecolor", "xmaxpoints", "xpoints", "hmaxlines",
+            "hlines", "vlines", "framehspace", "framevspace", "lognamenum", "logname", "curvenum", "minvalue",
+            "maxvalue", "datasource", "filepath", "filename", "startpoint", "timevarname", "enableind", "indcolor"};
+        const std::vector<const char*> series = CurveSeriesSaveOrder();
+        keys.insert(keys.end(), series.begin(), series.end());
+        return keys;
+    }();
+    return order;
+}
+
+CHmiWidgetCurve::CHmiWidgetCurve() : m_logNames(GetHmiLognameDesp, kMaxDataLogNames)
+{
+    m_logNames.ShowIn(*FindProperty("lognamenum"));
+}
+
+void CHmiWidgetCurve::AddRootItems()
+{
+    CreateNewRootItem(kCurveGroup, "Curve properties")->Expand();
+    CreateNewRootItem(kIndicatorGroup, "Curve indicator properties")->Expand();
+}
+
+void CHmiWidgetCurve::Draw(CHmiDC& dc)
+{
+    DrawPreview(dc, m_rect);
+}

@@ -1,0 +1,114 @@
+#include "hmiwidgethiscurve.h"
+
+#include "project/namelists.h"
+
+HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetHisCurve, CHmiWidget)
+
+namespace {
+
+constexpr const char* kCurveGroup = "History curve properties";
+constexpr const char* kIndicatorGroup = "History curve indicator properties";
+
+} // namespace
+
+std::span<const PropertySpec<CHmiWidgetHisCurve>> CHmiWidgetHisCurve::Properties()
+{
+    using W = CHmiWidgetHisCurve;
+    static const std::vector<PropertySpec<W>> properties = [] {
+        constexpr FileNumber kHex = FileNumber::Unsigned;
+        std::vector<PropertySpec<W>> specs = {
+            {.key = "minvalue", .label = "minvalue", .description = "Set minimal value of Y coordinate",
+             .xmlType = "float", .real = &W::m_fMinValue},
+            {.key = "maxvalue", .label = "maxvalue", .description = "Set maximal value of Y coordinate",
+             .xmlType = "float", .real = &W::m_fMaxValue},
+            {.key = "xpoints", .label = "xpoints", .description = "Set the points of X coordinate", .bindable = 0,
+             .xmlType = "ushort", .number = &W::m_nXPoints, .read = kHex},
+            {.key = "hlines", .label = "hlines", .description = "Set the number of vertical lines",
+             .xmlType = "ushort", .number = &W::m_nHLines, .read = kHex},
+            {.key = "vlines", .label = "vlines", .description = "Set the number of horizontal lines",
+             .xmlType = "ushort", .number = &W::m_nVLines, .read = kHex},
+            {.key = "framehspace", .label = "framehspace", .description = "Set the horizontal space of draw area",
+             .xmlType = "ushort", .number = &W::m_nFrameHSpace, .read = kHex},
+            {.key = "framevspace", .label = "framevspace", .description = "Set the vertical space of draw area",
+             .xmlType = "ushort", .number = &W::m_nFrameVSpace, .read = kHex},
+            {.key = "bkcolor", .label = "backcolor", .description = "Set the background color",
+             .itemType = PROP_COLOR, .color = &W::m_bkColor, .read = kHex},
+            {.key = "framecolor", .label = "curve backcolor", .description = "Set the background color of curve",
+             .itemType = PROP_COLOR, .color = &W::m_frameColor, .read = kHex},
+            {.key = "hlinecolor", .label = "hlinecolor", .description = "Set the color of vertical lines",
+             .itemType = PROP_COLOR, .color = &W::m_hLineColor, .read = kHex},
+            {.key = "vlinecolor", .label = "vlinecolor", .description = "Set the color of horizontal lines",
+             .itemType = PROP_COLOR, .color = &W::m_vLineColor, .read = kHex},
+            {.key = "textcolor", .label = "textcolor", .description = "Set the color of text",
+             .itemType = PROP_COLOR, .color = &W::m_textColor, .read = kHex},
+        };
+        AppendTimeRangeProperties(specs, "curve");
+        specs.push_back({.key = "historyname", .label = "historyname", .description = "Set history name",
+                         .itemType = PROP_COMBO, .bindable = 0, .xmlType = "string", .number = &W::m_nHistoryName,
+                         .writeText = [](const W& w) { return w.m_historyNames.NameAt(w.m_nHistoryName); },
+                         .readText = [](W& w, std::string_view name) {
+                             // A name the project no longer has keeps the current choice.
+                             const std::int32_t index = w.m_historyNames.IndexOf(std::string(name));
+                             if (index >= 0)
+                                 w.m_nHistoryName = index;
+                         }});
+        specs.push_back({.key = "redrawvar", .label = "redrawvar",
+                         .description = "Set redraw variable,redraw curve when variable is 1",
+                         .itemType = PROP_VARIABLE, .xmlType = "string", .text = &W::m_strRedrawVar});
+        specs.push_back({.key = "curvenum", .label = "curvenum", .description = "Set curve number(<=16)",
+                         .bindable = 0, .xmlType = "ushort", .number = &W::m_nCurveNum, .read = kHex});
+        const CurveFamily names{"dataname", "variable", "Set the variable name", kCurveGroup};
+        const CurveFamily colours{"datacolor", "color", "Set the curve color", kCurveGroup};
+        for (std::size_t n = 1; n <= kSeriesCount; ++n) {
+            specs.push_back(CurveVariable<W>(names, n, &CurveSettings::m_dataName));
+            specs.push_back(CurveColor<W>(colours, n));
+        }
+        specs.push_back({.key = "enableind", .label = "Enable Indicator", .description = "If enable indicator",
+                         .itemType = PROP_CHECKBOX, .xmlType = "uchar", .flag = &W::m_bEnableInd, .read = kHex,
+                         .group = kIndicatorGroup});
+        specs.push_back({.key = "indcolor", .label = "Indicator color", .description = "Set indicator color",
+                         .itemType = PROP_COLOR, .color = &W::m_indColor, .read = kHex, .group = kIndicatorGroup});
+        specs.push_back({.key = "timevarname", .label = "Time Variable",
+                         .description = "Set the related time variable of indicator", .itemType = PROP_VARIABLE,
+                         .xmlType = "string", .text = &W::m_strTimeVarName, .group = kIndicatorGroup});
+        const CurveFamily values{"valuevarname", "valuevarname", "Set the related value variable of indicator",
+                                 kIndicatorGroup};
+        for (std::size_t n = 1; n <= kSeriesCount; ++n)
+            specs.push_back(CurveVariable<W>(values, n, &CurveSettings::m_valueVarName));
+        for (std::size_t n = 1; n <= kSeriesCount; ++n)
+            specs.push_back(CurveAddData<W>(n));
+        return specs;
+    }();
+    return properties;
+}
+
+std::span<const char* const> CHmiWidgetHisCurve::SaveOrder()
+{
+    static const std::vector<const char*> order = [] {
+        std::vector<const char*> keys = {
+            "historyname", "bkcolor", "framecolor", "textcolor", "hlinecolor", "vlinecolor", "minvalue",
+            "maxvalue", "xpoints", "hlines", "vlines", "framehspace", "framevspace", "curvenum", "startyear",
+            "startmonth", "startday", "starthour", "startmin", "startsec", "endyear", "endmonth", "endday",
+            "endhour", "endmin", "endsec", "redrawvar", "timevarname", "enableind", "indcolor"};
+        const std::vector<const char*> series = CurveSeriesSaveOrder();
+        keys.insert(keys.end(), series.begin(), series.end());
+        return keys;
+    }();
+    return order;
+}
+
+CHmiWidgetHisCurve::CHmiWidgetHisCurve() : m_historyNames(GetHmiHistoryDbname, kMaxHistoryDbNames)
+{
+    m_historyNames.ShowIn(*FindProperty("historyname"));
+}
+
+void CHmiWidgetHisCurve::AddRootItems()
+{
+    CreateNewRootItem(kCurveGroup, "History curve propertie")->Expand();
+    CreateNewRootItem(kIndicatorGroup, "History curve propertie")->Expand();
+}
+
+void CHmiWidgetHisCurve::Draw(CHmiDC& dc)
+{
+    DrawPreview(dc, m_rect);
+}
