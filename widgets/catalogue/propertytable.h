@@ -102,6 +102,8 @@ public:
     {
         auto copy = std::make_unique<Widget>();
         for (const PropertySpec<Widget>& spec : Widget::Properties()) {
+            if (!HasMember(spec))
+                continue; // a value made from others at saving
             if (const std::string* text = TextOf(Self(), spec))
                 *TextOf(*copy, spec) = *text;
             else if (const float* real = RealOf(Self(), spec))
@@ -258,6 +260,12 @@ protected:
 private:
     Widget& Self() { return static_cast<Widget&>(*this); }
     const Widget& Self() const { return static_cast<const Widget&>(*this); }
+
+    static bool HasMember(const PropertySpec<Widget>& spec)
+    {
+        return spec.color || spec.number || spec.flag || spec.real || spec.text || spec.colors || spec.reals ||
+               spec.texts;
+    }
 
     static const char* RecordGroup(const PropertySpec<Widget>& spec)
     {

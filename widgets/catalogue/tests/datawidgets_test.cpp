@@ -1,0 +1,320 @@
+// The data widgets: control widgets, curves, alarm window and history list; their file blocks,
+// the name lists they offer, their columns and the curve preview.
+
+#include "ownproperties.h"
+#include "project/projectpath.h"
+#include "tests/support/memoryoptiontree.h"
+#include "tests/support/recordingdc.h"
+#include "tests/support/tempdir.h"
+#include "widgets/catalogue/hmiwidgetalarmwnd.h"
+#include "widgets/catalogue/hmiwidgetcontrols.h"
+#include "widgets/catalogue/hmiwidgetcurve.h"
+#include "widgets/catalogue/hmiwidgethiscurve.h"
+#include "widgets/catalogue/hmiwidgethislist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Line(const std::string& name, const char* type, const std::string& value, const char* length = nullptr)
+{
+    std::string line = "\t\t\t<property name=\"" + name + "\" type=\"" + type + "\" ";
+    if (length)
+        line += std::string("length=\"") + length + "\" ";
+    return line + "value=\"" + value + "\" />\n";
+}
+
+std::string SeriesLines()
+{
+    std::string lines;
+    for (int n = 1; n <= 16; ++n) {
+        const std::string number = std::to_string(n);
+        lines += Line("dataname" + number, "string", "", "32") + Line("datacolor" + number, "ulong", "255") +
+                 Line("adddata" + number, "float", "0.000000") + Line("valuevarname" + number, "string", "", "32");
+    }
+    return lines;
+}
+
+// A project with two history databases and two data logs.
+struct ProjectTest : ::testing::Test {
+    void SetUp() override
+    {
+        dir.Write("history.xml", "<zqhistory><historydb name=\"boiler\"/><historydb name=\"pumps\"/></zqhistory>");
+        dir.Write("datalog.xml", "<datalog><log name=\"fast\"/><log name=\"slow\"/></datalog>");
+        SetProjectPath(dir.Path(""));
+    }
+    void TearDown() override { SetProjectPath(""); }
+
+    TempDir dir;
+};
+
+// A fixed sequence of samples for the curve preview.
+struct FixedSamples {
+    explicit FixedSamples(std::vector<int> values) : saved(CurveSettings::RandomSample())
+    {
+        CurveSettings::RandomSample() = [values, next = std::size_t(0)]() mutable {
+            return values[next++ % values.size()];
+        };
+    }
+    ~FixedSamples() { CurveSettings::RandomSample() = saved; }
+
+    std::function<int()> saved;
+};
+
+} // namespace
+
+TEST(ControlWidgets, WriteVariablesWithTheShortLengthAndListsAsTyped)
+{
+    CHmiWidgetCheckbox checkbox;
+    checkbox.m_strCaption = "Run pump";
+    checkbox.m_strVariable = "$pump";
+    EXPECT_EQ(OwnPropertyLines(checkbox), Line("caption", "string", "Run pump") + Line("variable", "string", "$pump", "32"));
+    checkbox.m_strVariable = std::string(40, 'v');
+    EXPECT_EQ(OwnPropertyLines(checkbox), Line("caption", "string", "Run pump") +
+                                              Line("variable", "string", std::string(40, 'v')));
+
+    CHmiWidgetCombobox combobox;
+    ASSERT_EQ(combobox.SetWidgetProperty("list", "string", "a,b,,c", ""), 1);
+    EXPECT_EQ(OwnPropertyLines(combobox), Line("list", "string", "a,b,,c") + Line("variable", "string", "", "32") +
+                                              Line("itemheight", "ulong", "0"));
+    combobox.SetWidgetEventCode("selchange", "show();");
+    ASSERT_EQ(combobox.GetEvents().size(), 3u);
+    EXPECT_EQ(combobox.GetEvents()[2].label, "Select changed");
+    EXPECT_EQ(combobox.GetEvents()[2].code, "show();");
+
+    CHmiWidgetEdit edit;
+    EXPECT_EQ(edit.GetWidgetClassName(), "edit");
+    EXPECT_EQ(OwnPropertyRows(edit), (std::vector<PropertyRow>{{"variable", "variable", "set variable", 1,
+                                                                PROP_VARIABLE, "Edit", {}}}));
+    RecordingDC dc;
+    edit.Draw(dc);
+    EXPECT_TRUE(dc.shapes.empty()) << "without a live control nothing is drawn";
+}
+
+TEST_F(ProjectTest, RealtimeCurveWritesItsDefaultsWithTheLogName)
+{
+    CHmiWidgetCurve curve;
+    EXPECT_EQ(OwnPropertyLines(curve),
+              Line("bkcolor", "ulong", "12648447") + Line("framecolor", "ulong", "8421504") +
+                  Line("textcolor", "ulong", "0") + Line("hlinecolor", "ulong", "0") +
+                  Line("vlinecolor", "ulong", "0") + Line("xmaxpoints", "ushort", "50") +
+                  Line("xpoints", "ushort", "50") + Line("hmaxlines", "ushort", "5") + Line("hlines", "ushort", "5") +
+                  Line("vlines", "ushort", "3") + Line("framehspace", "ushort", "30") +
+                  Line("framevspace", "ushort", "15") + Line("lognamenum", "ushort", "0") +
+                  Line("logname", "string", "fast", "32") + Line("curvenum", "ushort", "2") +
+                  Line("minvalue", "float", "0.000000") + Line("maxvalue", "float", "100.000000") +
+                  Line("datasource", "uchar", "0") + Line("filepath", "char", "0") +
+                  Line("filename", "string", "", "32") + Line("startpoint", "ulong", "0") +
+                  Line("timevarname", "string", "", "32") + Line("enableind", "uchar", "0") +
+                  Line("indcolor", "ulong", "16711680") + SeriesLines());
+
+    curve.SetWidgetProperty("lognamenum", "ushort", "1", "");
+    curve.SetWidgetProperty("logname", "string", "ignored", "");
+    curve.SetWidgetProperty("datacolor16", "ulong", "0xFF00", "");
+    curve.SetWidgetProperty("adddata3", "float", "2.5", "");
+    curve.SetWidgetProperty("valuevarname1", "string", "$speed", "");
+    EXPECT_NE(OwnPropertyLines(curve).find(Line("logname", "string", "slow", "32")), std::string::npos);
+    EXPECT_EQ(curve.m_dataColor[15], 0xFF00u);
+    EXPECT_FLOAT_EQ(curve.m_addData[2], 2.5f);
+    EXPECT_EQ(curve.m_valueVarName[0], "$speed");
+
+    curve.SetWidgetProperty("lognamenum", "ushort", "250", "");
+    EXPECT_NE(OwnPropertyLines(curve).find(Line("logname", "string", "", "32")), std::string::npos)
+        << "an index past the list gives no name";
+}
+
+TEST_F(ProjectTest, RealtimeCurveRecordsAndRows)
+{
+    CHmiWidgetCurve curve;
+    const auto rows = OwnPropertyRows(curve);
+    ASSERT_EQ(rows.size(), 19u + 32u + 3u + 16u);
+    EXPECT_EQ(rows[15], (PropertyRow{"lognamenum", "logname", "Set the log name of In memory data source", 0,
+                                     PROP_COMBO, "Realtime curve basic properties", {"fast", "slow"}}));
+    EXPECT_EQ(rows[19], (PropertyRow{"dataname1", "Var1", "Set the curve variable name", 1, PROP_VARIABLE,
+                                     "Curve properties", {}}));
+    EXPECT_EQ(rows[20], (PropertyRow{"datacolor1", "Color1", "Set the curve color", 1, PROP_COLOR,
+                                     "Curve properties", {}}));
+    EXPECT_EQ(std::get<0>(rows.back()), "valuevarname16");
+    EXPECT_EQ(std::get<1>(rows.back()), "Value16");
+    EXPECT_EQ(std::get<5>(rows.back()), "Curve indicator properties");
+
+    MemoryOptionTree tree;
+    curve.CreateWidgetPropertyTree(tree);
+    EXPECT_EQ(tree.Find("Curve properties")->info, "Curve properties");
+    MemoryOptionItem* colour = tree.Find("Color2", "Curve properties");
+    ASSERT_NE(colour, nullptr);
+    colour->SetColor(0x00FF00);
+    curve.UpdateWidgetPropByTree(colour);
+    EXPECT_EQ(curve.m_dataColor[1], 0x00FF00u);
+    MemoryOptionItem* minimum = tree.Find("minimum value");
+    minimum->SetEditText("-5.5");
+    curve.UpdateWidgetPropByTree(minimum);
+    EXPECT_FLOAT_EQ(curve.m_fMinValue, -5.5f);
+
+    const HmiWidgetPtr copy = curve.Clone();
+    const auto& clone = dynamic_cast<const CHmiWidgetCurve&>(*copy);
+    EXPECT_EQ(clone.m_dataColor[1], 0x00FF00u);
+    EXPECT_FLOAT_EQ(clone.m_fMinValue, -5.5f);
+}
+
+TEST_F(ProjectTest, HistoryCurveWritesTheNameOfItsDatabaseAndFallsBackToTheFirst)
+{
+    CHmiWidgetHisCurve curve;
+    std::string expected = Line("historyname", "string", "boiler", "32") + Line("bkcolor", "ulong", "12648447") +
+                           Line("framecolor", "ulong", "8421504") + Line("textcolor", "ulong", "0") +
+                           Line("hlinecolor", "ulong", "0") + Line("vlinecolor", "ulong", "0") +
+                           Line("minvalue", "float", "0.000000") + Line("maxvalue", "float", "100.000000") +
+                           Line("xpoints", "ushort", "50") + Line("hlines", "ushort", "5") +
+                           Line("vlines", "ushort", "3") + Line("framehspace", "ushort", "30") +
+                           Line("framevspace", "ushort", "15") + Line("curvenum", "ushort", "2");
+    for (const char* key : {"startyear", "startmonth", "startday", "starthour", "startmin", "startsec", "endyear",
+                            "endmonth", "endday", "endhour", "endmin", "endsec"})
+        expected += Line(key, "ushort", "0");
+    expected += Line("redrawvar", "string", "", "32") + Line("timevarname", "string", "", "32") +
+                Line("enableind", "uchar", "0") + Line("indcolor", "ulong", "16711680") + SeriesLines();
+    EXPECT_EQ(OwnPropertyLines(curve), expected);
+
+    curve.SetWidgetProperty("historyname", "string", "pumps", "");
+    EXPECT_EQ(curve.m_nHistoryName, 1);
+    CHmiWidgetHisCurve unknown;
+    unknown.SetWidgetProperty("historyname", "string", "retired", "");
+    EXPECT_EQ(unknown.m_nHistoryName, 0);
+    EXPECT_NE(OwnPropertyLines(unknown).find(Line("historyname", "string", "boiler", "32")), std::string::npos);
+
+    const auto rows = OwnPropertyRows(curve);
+    EXPECT_EQ(std::get<3>(rows[2]), 0) << "the history curve's xpoints is not bindable";
+    EXPECT_EQ(std::get<2>(rows[12]), "Set the start year of curve");
+    EXPECT_EQ(std::get<1>(rows[27]), "variable1");
+    EXPECT_EQ(std::get<1>(rows.back()), "valuevarname16");
+}
+
+TEST(HistoryWidgets, AnEmptyHistoryConfigurationWritesAnEmptyName)
+{
+    CHmiWidgetHisList list;
+    EXPECT_EQ(list.HistoryNames().Count(), 0);
+    EXPECT_EQ(OwnPropertyLines(list).substr(0, Line("historyname", "string", "", "32").size()),
+              Line("historyname", "string", "", "32"));
+}
+
+TEST_F(ProjectTest, HistoryListKeepsItsColumnsWithoutAControl)
+{
+    CHmiWidgetHisList list;
+    EXPECT_EQ(list.m_columns, (std::vector<ListColumn>{{"DateTime", 150}}));
+    std::string expected = Line("historyname", "string", "boiler", "32") + Line("rows", "ushort", "20") +
+                           Line("itemheight", "ulong", "0") + Line("dispfields", "string", "DateTime", "32") +
+                           Line("fieldswidth", "string", "150,", "32") + Line("redrawvar", "string", "", "32");
+    for (const char* key : {"startyear", "startmonth", "startday", "starthour", "startmin", "startsec", "endyear",
+                            "endmonth", "endday", "endhour", "endmin", "endsec"})
+        expected += Line(key, "ushort", "0");
+    expected += Line("auto_update", "uchar", "1");
+    EXPECT_EQ(OwnPropertyLines(list), expected);
+
+    list.SetWidgetProperty("dispfields", "string", "DateTime,temperature,", "");
+    list.SetWidgetProperty("fieldswidth", "string", "120,60,", "");
+    EXPECT_EQ(list.m_columns, (std::vector<ListColumn>{{"DateTime", 120}, {"temperature", 60}}));
+    list.m_columns[1].width = 75; // dragged in the editor
+    EXPECT_NE(OwnPropertyLines(list).find(Line("fieldswidth", "string", "120,75,", "32")), std::string::npos);
+
+    list.SetWidgetEventCode("insertdata", "refresh();");
+    ASSERT_EQ(list.GetEvents().size(), 1u);
+    EXPECT_EQ(list.GetEvents()[0].description, "When Insert data to list widget, system triggle this event.");
+}
+
+TEST(AlarmWindow, SavesItsEightDefaultWidthsWithTrailingCommas)
+{
+    CHmiWidgetAlarmWnd alarm;
+    EXPECT_EQ(OwnPropertyLines(alarm),
+              Line("rows", "ushort", "20") + Line("confirmcolor", "ulong", "16711680") +
+                  Line("restorecolor", "ulong", "0") + Line("alarmcolor", "ulong", "255") +
+                  Line("dispfields", "string",
+                       "Time,Event Type,Variable Name,Alarm info,Alarm value,Restore value,Limit value,Alarm group",
+                       "91") +
+                  Line("itemheight", "ulong", "0") + Line("fieldswidth", "string", "150,80,80,80,80,80,80,80,", "32") +
+                  Line("disptype", "ulong", "0") + Line("highhighcolor", "ulong", "255") +
+                  Line("highcolor", "ulong", "255") + Line("lowlowcolor", "ulong", "255") +
+                  Line("lowcolor", "ulong", "255") + Line("opencolor", "ulong", "255") +
+                  Line("closecolor", "ulong", "255"));
+
+    CHmiWidgetAlarmWnd loaded;
+    loaded.SetWidgetProperty("dispfields", "string", "Time,Event Type,", "");
+    loaded.SetWidgetProperty("fieldswidth", "string", "150,80,80,", "");
+    EXPECT_TRUE(loaded.m_columns.empty()) << "two fields and three widths give no columns";
+    EXPECT_NE(OwnPropertyLines(loaded).find(Line("fieldswidth", "string", "", "32")), std::string::npos);
+
+    loaded.SetDisplayFields("Time,Alarm group,");
+    EXPECT_EQ(loaded.m_columns, (std::vector<ListColumn>{{"Time", 80}, {"Alarm group", 80}}));
+    loaded.SetDisplayFields("");
+    EXPECT_TRUE(loaded.m_columns.empty());
+}
+
+TEST(CurvePreview, DrawsTheGridLabelsAndScaledSamples)
+{
+    const FixedSamples samples({0, 32767, 16384});
+    CHmiWidgetCurve curve;
+    curve.SetWidgetRect({0, 0, 260, 130});
+    curve.m_nXPoints = 3;
+    curve.m_nCurveNum = 1;
+    RecordingDC dc;
+    curve.Draw(dc);
+
+    const auto rectangles = dc.ShapesOfKind("rectangle");
+    ASSERT_EQ(rectangles.size(), 2u);
+    EXPECT_EQ(rectangles[0].rect, (HmiRect{0, 0, 260, 130}));
+    EXPECT_EQ(rectangles[1].rect, (HmiRect{30, 15, 230, 115}));
+    const auto texts = dc.ShapesOfKind("text");
+    ASSERT_EQ(texts.size(), 5u) << "fewer points than lines leave the time labels out";
+    EXPECT_EQ(texts[0].text, "0.00");
+    EXPECT_EQ(texts[0].rect, (HmiRect{5, 110, 30, 135}));
+    EXPECT_EQ(texts[1].text, "25.00");
+    EXPECT_EQ(texts[4].text, "100.00");
+    EXPECT_EQ(texts[4].rect, (HmiRect{5, 10, 30, 35}));
+
+    const auto lines = dc.ShapesOfKind("line");
+    ASSERT_EQ(lines.size(), 5u + 3u + 3u);
+    EXPECT_EQ(lines[0].rect, (HmiRect{63, 15, 63, 115})) << "the first vertical line";
+    EXPECT_EQ(lines[5].rect, (HmiRect{30, 40, 230, 40})) << "the first horizontal line";
+    EXPECT_EQ(lines[8].rect, (HmiRect{30, 115, 30, 115})) << "the first sample at the bottom";
+    EXPECT_EQ(lines[9].rect, (HmiRect{30, 115, 130, 15})) << "the largest sample at the top";
+    EXPECT_EQ(lines[10].rect.right, 230);
+    EXPECT_EQ(lines[10].pen, (HmiPen{HmiPenStyle::Solid, 0, 0xFF}));
+    EXPECT_EQ(dc.pen, HmiPen{}) << "the curve pen is released";
+}
+
+TEST(CurvePreview, TimeLabelsStandUnderTheLeftEdgeAndEachVerticalLine)
+{
+    CHmiWidgetCurve curve;
+    curve.SetWidgetRect({0, 0, 260, 130});
+    RecordingDC dc;
+    curve.Draw(dc);
+    const auto texts = dc.ShapesOfKind("text");
+    ASSERT_EQ(texts.size(), 5u + 6u);
+    for (std::size_t t = 0; t < 6; ++t) {
+        const HmiRect& at = texts[5 + t].rect;
+        EXPECT_EQ(at, (HmiRect{30 + 200 * std::int32_t(t) / 6, 115, 130 + 200 * std::int32_t(t) / 6, 135}));
+        EXPECT_EQ(std::count(texts[5 + t].text.begin(), texts[5 + t].text.end(), ':'), 2);
+    }
+}
+
+TEST(CurvePreview, GuardsDivisionsAndCapsTheCurves)
+{
+    CHmiWidgetCurve curve;
+    curve.SetWidgetRect({0, 0, 100, 100});
+    curve.m_nCurveNum = 40;
+    RecordingDC many;
+    curve.Draw(many);
+    EXPECT_EQ(many.ShapesOfKind("line").size(), 5u + 3u + 16u * 50u) << "at most 16 curves";
+
+    for (auto spoil : std::vector<std::function<void(CHmiWidgetCurve&)>>{
+             [](CHmiWidgetCurve& c) { c.m_nXPoints = 1; },
+             [](CHmiWidgetCurve& c) { c.m_fMaxValue = c.m_fMinValue; },
+             [](CHmiWidgetCurve& c) { c.m_nVLines = -1; c.m_nHLines = -1; },
+             [](CHmiWidgetCurve& c) { c.m_nHLines = 80; },
+             [](CHmiWidgetCurve& c) { c.m_nCurveNum = -2; }}) {
+        CHmiWidgetCurve odd;
+        odd.SetWidgetRect({0, 0, 40, 20}); // narrower than its margins
+        spoil(odd);
+        RecordingDC dc;
+        odd.Draw(dc);
+        EXPECT_FALSE(dc.shapes.empty());
+    }
+}
