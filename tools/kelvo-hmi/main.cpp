@@ -31,6 +31,14 @@ struct Command {
     std::function<int(Arguments args)> run; // args after the command name
 };
 
+// A window file's project is the folder it lies in, unless one is named: the widgets read the
+// project's name lists (history databases, data logs) when they are made.
+void UseProjectOf(const std::string& windowFile)
+{
+    const std::filesystem::path folder = std::filesystem::path(windowFile).parent_path();
+    SetProjectPath(folder.empty() ? "./" : folder.string());
+}
+
 int Fail(const std::string& message)
 {
     std::fprintf(stderr, "kelvo-hmi: %s\n", message.c_str());
@@ -39,6 +47,7 @@ int Fail(const std::string& message)
 
 int List(Arguments args)
 {
+    UseProjectOf(args[0]);
     CTamloDoc document;
     if (const FileResult loaded = document.Load(args[0]); !loaded)
         return Fail(loaded.error);
@@ -52,6 +61,7 @@ int List(Arguments args)
 
 int RoundTrip(Arguments args)
 {
+    UseProjectOf(args[0]);
     CTamloDoc document;
     if (const FileResult loaded = document.Load(args[0]); !loaded)
         return Fail(loaded.error);
@@ -81,6 +91,10 @@ int Render(Arguments args)
         std::fprintf(stderr, "Usage: kelvo-hmi render IN.xml OUT.png [--project DIR]\n");
         return 2;
     }
+    if (args.size() == 4)
+        SetProjectPath(args[3]);
+    else
+        UseProjectOf(args[0]);
     CTamloDoc document;
     if (const FileResult loaded = document.Load(args[0]); !loaded)
         return Fail(loaded.error);
