@@ -69,7 +69,8 @@ FileResult ImportPictureFile(const std::string& chosenPath, const std::string& p
     std::error_code error;
     const bool alreadyThere = fs::exists(target, error) && fs::equivalent(chosen, target, error);
     if (!alreadyThere && !fs::copy_file(chosen, target, fs::copy_options::overwrite_existing, error))
-        return FileResult::Failure("Cannot copy " + chosen.string() + " to " + target.string() + ": " + error.message());
+        return FileResult::Failure("Cannot copy " + chosen.string() + " to " + target.string() + ": " +
+                                   error.message());
     name = Utf8ToGb2312OrKeep(chosen.filename().string());
     return FileResult::Success();
 }
