@@ -103,6 +103,32 @@ PropertySpec<Widget> CurveAddData(std::size_t n)
             .declared = false};
 }
 
+// The records of the grid, margins and colours, the same in both curves.
+template <class Widget>
+void AppendCurveGridProperties(std::vector<PropertySpec<Widget>>& specs)
+{
+    using W = Widget;
+    constexpr FileNumber kHex = FileNumber::Unsigned;
+    specs.push_back({.key = "hlines", .label = "hlines", .description = "Set the number of vertical lines",
+                     .xmlType = "ushort", .number = &W::m_nHLines, .read = kHex});
+    specs.push_back({.key = "vlines", .label = "vlines", .description = "Set the number of horizontal lines",
+                     .xmlType = "ushort", .number = &W::m_nVLines, .read = kHex});
+    specs.push_back({.key = "framehspace", .label = "framehspace",
+                     .description = "Set the horizontal space of draw area", .xmlType = "ushort", .number = &W::m_nFrameHSpace, .read = kHex});
+    specs.push_back({.key = "framevspace", .label = "framevspace",
+                     .description = "Set the vertical space of draw area", .xmlType = "ushort", .number = &W::m_nFrameVSpace, .read = kHex});
+    specs.push_back({.key = "bkcolor", .label = "backcolor", .description = "Set the background color",
+                     .itemType = PROP_COLOR, .color = &W::m_bkColor, .read = kHex});
+    specs.push_back({.key = "framecolor", .label = "curve backcolor",
+                     .description = "Set the background color of curve", .itemType = PROP_COLOR, .color = &W::m_frameColor, .read = kHex});
+    specs.push_back({.key = "hlinecolor", .label = "hlinecolor", .description = "Set the color of vertical lines",
+                     .itemType = PROP_COLOR, .color = &W::m_hLineColor, .read = kHex});
+    specs.push_back({.key = "vlinecolor", .label = "vlinecolor", .description = "Set the color of horizontal lines",
+                     .itemType = PROP_COLOR, .color = &W::m_vLineColor, .read = kHex});
+    specs.push_back({.key = "textcolor", .label = "textcolor", .description = "Set the color of text",
+                     .itemType = PROP_COLOR, .color = &W::m_textColor, .read = kHex});
+}
+
 // The keys of the per-curve values in the order the file has them: for each curve its name,
 // colour, added value and indicator variable.
 std::vector<const char*> CurveSeriesSaveOrder();

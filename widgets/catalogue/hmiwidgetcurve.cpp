@@ -27,24 +27,9 @@ std::span<const PropertySpec<CHmiWidgetCurve>> CHmiWidgetCurve::Properties()
              .bindable = 0, .xmlType = "ushort", .number = &W::m_nXMaxPoints, .read = kHex},
             {.key = "xpoints", .label = "xpoints", .description = "Set the points of X coordinate",
              .xmlType = "ushort", .number = &W::m_nXPoints, .read = kHex},
-            {.key = "hlines", .label = "hlines", .description = "Set the number of vertical lines",
-             .xmlType = "ushort", .number = &W::m_nHLines, .read = kHex},
-            {.key = "vlines", .label = "vlines", .description = "Set the number of horizontal lines",
-             .xmlType = "ushort", .number = &W::m_nVLines, .read = kHex},
-            {.key = "framehspace", .label = "framehspace", .description = "Set the horizontal space of draw area",
-             .xmlType = "ushort", .number = &W::m_nFrameHSpace, .read = kHex},
-            {.key = "framevspace", .label = "framevspace", .description = "Set the vertical space of draw area",
-             .xmlType = "ushort", .number = &W::m_nFrameVSpace, .read = kHex},
-            {.key = "bkcolor", .label = "backcolor", .description = "Set the background color",
-             .itemType = PROP_COLOR, .color = &W::m_bkColor, .read = kHex},
-            {.key = "framecolor", .label = "curve backcolor", .description = "Set the background color of curve",
-             .itemType = PROP_COLOR, .color = &W::m_frameColor, .read = kHex},
-            {.key = "hlinecolor", .label = "hlinecolor", .description = "Set the color of vertical lines",
-             .itemType = PROP_COLOR, .color = &W::m_hLineColor, .read = kHex},
-            {.key = "vlinecolor", .label = "vlinecolor", .description = "Set the color of horizontal lines",
-             .itemType = PROP_COLOR, .color = &W::m_vLineColor, .read = kHex},
-            {.key = "textcolor", .label = "textcolor", .description = "Set the color of text",
-             .itemType = PROP_COLOR, .color = &W::m_textColor, .read = kHex},
+        };
+        AppendCurveGridProperties(specs);
+        specs.insert(specs.end(), {
             {.key = "curvenum", .label = "curvenum", .description = "Set the number of curves(<=16)", .bindable = 0,
              .xmlType = "ushort", .number = &W::m_nCurveNum, .read = kHex},
             {.key = "datasource", .label = "datasource", .description = "Set the data source",
@@ -60,7 +45,7 @@ std::span<const PropertySpec<CHmiWidgetCurve>> CHmiWidgetCurve::Properties()
              .text = &W::m_strFileName},
             {.key = "startpoint", .label = "Start point", .description = "Set the start point of file",
              .number = &W::m_nStartPoint, .read = kHex},
-        };
+        });
         const CurveFamily names{"dataname", "Var", "Set the curve variable name", kCurveGroup};
         const CurveFamily colours{"datacolor", "Color", "Set the curve color", kCurveGroup};
         for (std::size_t n = 1; n <= kSeriesCount; ++n) {
