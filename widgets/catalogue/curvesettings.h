@@ -114,13 +114,16 @@ void AppendCurveGridProperties(std::vector<PropertySpec<Widget>>& specs)
     specs.push_back({.key = "vlines", .label = "vlines", .description = "Set the number of horizontal lines",
                      .xmlType = "ushort", .number = &W::m_nVLines, .read = kHex});
     specs.push_back({.key = "framehspace", .label = "framehspace",
-                     .description = "Set the horizontal space of draw area", .xmlType = "ushort", .number = &W::m_nFrameHSpace, .read = kHex});
+                     .description = "Set the horizontal space of draw area", .xmlType = "ushort",
+                     .number = &W::m_nFrameHSpace, .read = kHex});
     specs.push_back({.key = "framevspace", .label = "framevspace",
-                     .description = "Set the vertical space of draw area", .xmlType = "ushort", .number = &W::m_nFrameVSpace, .read = kHex});
+                     .description = "Set the vertical space of draw area", .xmlType = "ushort",
+                     .number = &W::m_nFrameVSpace, .read = kHex});
     specs.push_back({.key = "bkcolor", .label = "backcolor", .description = "Set the background color",
                      .itemType = PROP_COLOR, .color = &W::m_bkColor, .read = kHex});
     specs.push_back({.key = "framecolor", .label = "curve backcolor",
-                     .description = "Set the background color of curve", .itemType = PROP_COLOR, .color = &W::m_frameColor, .read = kHex});
+                     .description = "Set the background color of curve", .itemType = PROP_COLOR,
+                     .color = &W::m_frameColor, .read = kHex});
     specs.push_back({.key = "hlinecolor", .label = "hlinecolor", .description = "Set the color of vertical lines",
                      .itemType = PROP_COLOR, .color = &W::m_hLineColor, .read = kHex});
     specs.push_back({.key = "vlinecolor", .label = "vlinecolor", .description = "Set the color of horizontal lines",
