@@ -1,0 +1,100 @@
+// A save that fails at any step leaves the previous window file byte for byte as it was, no
+// temporary file behind, and the document still modified.
+
+#include "tests/support/tempdir.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr const char* kOldBytes = "<?xml version=\"1.0\"?>\n<hmiwidget>old window</hmiwidget>\n";
+
+struct SaveFaultTest : ::testing::Test {
+    void SetUp() override
+    {
+        RegisterBuiltinWidgetClasses();
+        path = dir.Write("window.xml", kOldBytes);
+        doc.OnNewDocument();
+        doc.SetModifiedFlag();
+    }
+    void TearDown() override { CHmiWidget::RemoveAllRunTimeClass(); }
+
+    void ExpectOldFileKept(const FileResult& result, const char* reason)
+    {
+        EXPECT_FALSE(result);
+        EXPECT_NE(result.error.find(reason), std::string::npos) << result.error;
+        EXPECT_EQ(dir.Read("window.xml"), kOldBytes);
+        EXPECT_TRUE(doc.IsModified());
+        EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"window.xml"})) << "no temporary file is left";
+    }
+
+    TempDir dir;
+    std::string path;
+    CTamloDoc doc;
+};
+
+// Makes every write beyond a few bytes fail as on a full disk, for its lifetime.
+class FullDiskScope {
+public:
+    FullDiskScope()
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_saved);
+        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit small = m_saved;
+        small.rlim_cur = 16;
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDiskScope()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_saved);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+
+private:
+    rlimit m_saved{};
+    void (*m_oldHandler)(int) = nullptr;
+};
+
+} // namespace
+
+TEST_F(SaveFaultTest, AFolderThatCannotTakeTheNewFile)
+{
+    ASSERT_EQ(::chmod(dir.Path("").c_str(), 0555), 0);
+    FileResult result;
+    {
+        UnprivilegedScope asUser;
+        result = doc.Save(path);
+    }
+    ::chmod(dir.Path("").c_str(), 0755);
+    ExpectOldFileKept(result, "Permission denied");
+}
+
+TEST_F(SaveFaultTest, ADiskThatFillsUpWhileWriting)
+{
+    FileResult result;
+    {
+        FullDiskScope full;
+        result = doc.Save(path);
+    }
+    ExpectOldFileKept(result, "File too large");
+}
+
+TEST_F(SaveFaultTest, AFileThatMayNotBeReplaced)
+{
+    // In a shared folder with the sticky bit, only a file's owner may replace it: the new file
+    // is written, but renaming it over the old one fails.
+    ASSERT_EQ(::chmod(dir.Path("").c_str(), 01777), 0);
+    FileResult result;
+    {
+        UnprivilegedScope asUser;
+        result = doc.Save(path);
+    }
+    ::chmod(dir.Path("").c_str(), 0755);
+    ExpectOldFileKept(result, "Operation not permitted");
+}
