@@ -1,0 +1,120 @@
+#include "fuzzentries.h"
+
+#include "project/namelists.h"
+#include "project/projectpath.h"
+#include "project/variabledatabase.h"
+#include "project/windowlist.h"
+#include "project/xmldocument.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/numberparsers.h"
+#include "widgets/core/tamlodoc.h"
+#include "widgets/core/widgetfilereader.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+std::string Text(const std::uint8_t* data, std::size_t size)
+{
+    return std::string(reinterpret_cast<const char*>(data), size);
+}
+
+// A folder of the process's own that stands in for the project, holding the file under test.
+const std::string& ScratchProject()
+{
+    static const std::string folder = [] {
+        char pattern[] = "/tmp/kelvo-fuzz-XXXXXX";
+        const char* made = ::mkdtemp(pattern);
+        return std::string(made ? made : "/tmp") + "/";
+    }();
+    return folder;
+}
+
+std::string WriteScratch(const char* name, const std::uint8_t* data, std::size_t size)
+{
+    const std::string path = ScratchProject() + name;
+    if (std::FILE* file = std::fopen(path.c_str(), "wb")) {
+        std::fwrite(data, 1, size, file);
+        std::fclose(file);
+    }
+    return path;
+}
+
+} // namespace
+
+void FuzzWindowFile(const std::uint8_t* data, std::size_t size)
+{
+    static const bool registered = [] {
+        RegisterBuiltinWidgetClasses();
+        return true;
+    }();
+    (void)registered;
+    CTamloDoc document;
+    ReadWindowDocument(XmlDocument::Parse(Text(data, size)),
+                       [&](HmiWidgetPtr widget) { document.AddWidget(std::move(widget), false, false); });
+    // Reading back what was written: it need not parse, since unknown widgets write their
+    // values back unescaped and scripts may hold "]]>", but it must not crash either.
+    CTamloDoc again;
+    ReadWindowDocument(XmlDocument::Parse(document.Serialize()),
+                       [&](HmiWidgetPtr widget) { again.AddWidget(std::move(widget), false, false); });
+}
+
+void FuzzNumberParsers(const std::uint8_t* data, std::size_t size)
+{
+    const std::string text = Text(data, size);
+    HmiParseLong(text);
+    HmiParseULong(text);
+    HmiDecimalToLong(text);
+}
+
+void FuzzProjectArgument(const std::uint8_t* data, std::size_t size)
+{
+    std::string argument = Text(data, size);
+    if (const auto folder = TakeProjectArgument(argument))
+        SetProjectPath(*folder);
+    SetProjectPath("");
+}
+
+void FuzzWindowList(const std::uint8_t* data, std::size_t size)
+{
+    ReadWindowList(WriteScratch("hmiwindow.xml", data, size), [](const HmiWindowEntry&) {});
+}
+
+void FuzzRealtimeDatabase(const std::uint8_t* data, std::size_t size)
+{
+    CHmiVariableDatabase database;
+    database.ReadRealtimeDatabase(WriteScratch("rtdb.xml", data, size));
+    database.AllReferenceTexts();
+}
+
+void FuzzHmiDatabase(const std::uint8_t* data, std::size_t size)
+{
+    CHmiVariableDatabase database;
+    database.ReadHmiDatabase(WriteScratch("hmidb.xml", data, size));
+    database.AllReferenceTexts();
+}
+
+void FuzzHistoryNames(const std::uint8_t* data, std::size_t size)
+{
+    WriteScratch("history.xml", data, size);
+    SetProjectPath(ScratchProject());
+    std::string names[kMaxHistoryDbNames];
+    int count = 0;
+    GetHmiHistoryDbname(names, count);
+    if (count < 0 || count > kMaxHistoryDbNames)
+        std::abort();
+}
+
+void FuzzDataLogNames(const std::uint8_t* data, std::size_t size)
+{
+    WriteScratch("datalog.xml", data, size);
+    SetProjectPath(ScratchProject());
+    std::string names[kMaxDataLogNames];
+    int count = 0;
+    GetHmiLognameDesp(names, count);
+    if (count < 0 || count > kMaxDataLogNames)
+        std::abort();
+}
