@@ -129,4 +129,25 @@ TEST(VariableDatabase, HostileNestingGivesADefinedResult)
     db.ReadRealtimeDatabase(dir.Write("deep.xml", deep));
     // The parser refuses such depth; whatever it lets through is walked without recursion.
     EXPECT_LE(db.RealtimeRoot().children.size(), 1u);
+
+    std::string deepHmi = "<hmidb><datagroup name=\"memory\">";
+    for (int i = 0; i < kDepth; ++i)
+        deepHmi += "<datagroup name=\"g\">";
+    for (int i = 0; i < kDepth; ++i)
+        deepHmi += "</datagroup>";
+    deepHmi += "</datagroup></hmidb>";
+    db.ReadHmiDatabase(dir.Write("deephmi.xml", deepHmi));
+    EXPECT_EQ(db.AllReferenceTexts().size(), 0u);
+
+    // Within the parser's depth, groups nest as deep as the file has them.
+    std::string nested = "<hmidb><datagroup name=\"memory\">";
+    for (int i = 0; i < 200; ++i)
+        nested += "<datagroup name=\"g\">";
+    nested += "<data name=\"bottom\"/>";
+    for (int i = 0; i < 200; ++i)
+        nested += "</datagroup>";
+    nested += "</datagroup></hmidb>";
+    CHmiVariableDatabase walked;
+    ASSERT_EQ(walked.ReadHmiDatabase(dir.Write("nested.xml", nested)), 1);
+    EXPECT_EQ(walked.AllReferenceTexts(), std::vector<std::string>{"$bottom"});
 }

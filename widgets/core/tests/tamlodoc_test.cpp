@@ -264,3 +264,33 @@ TEST_F(TamloDocTest, ASaveReplacesTheFileWhole)
     ::stat(path.c_str(), &info);
     EXPECT_EQ(info.st_mode & 0777, 0640u) << "the file keeps its permissions";
 }
+
+TEST_F(TamloDocTest, HugeFilesLoadWithoutExhaustingTheMachine)
+{
+    constexpr int kWidgets = 200000;
+    std::string file = "<hmiwidget>";
+    file.reserve(std::size_t(kWidgets) * 40);
+    for (int i = 0; i < kWidgets; ++i)
+        file += "<widget name=\"w" + std::to_string(i) + "\" class=\"timer\"/>";
+    file += "</hmiwidget>";
+    CTamloDoc doc;
+    const FileResult loaded = doc.Load(dir.Write("many.xml", file));
+    ASSERT_TRUE(loaded) << loaded.error;
+    EXPECT_EQ(doc.Widgets().size(), std::size_t(kWidgets) + 1) << "every widget and the window";
+}
+
+TEST_F(TamloDocTest, LongValuesLoadUpToTheParsersLimit)
+{
+    auto fileWithValueOf = [](std::size_t length) {
+        return "<hmiwidget><widget name=\"long\" class=\"gauge\"><properties><property name=\"text\" "
+               "type=\"string\" value=\"" +
+               std::string(length, 'x') + "\"/></properties></widget></hmiwidget>";
+    };
+    CTamloDoc doc;
+    ASSERT_TRUE(doc.Load(dir.Write("long.xml", fileWithValueOf(4 << 20))));
+    EXPECT_EQ(doc.Widgets().size(), 2u);
+    // Beyond ten million bytes the parser refuses the file: the document is then just a window.
+    const FileResult refused = doc.Load(dir.Write("longer.xml", fileWithValueOf(11000000)));
+    EXPECT_FALSE(refused);
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window"}));
+}
