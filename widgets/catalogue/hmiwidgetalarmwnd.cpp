@@ -1,5 +1,7 @@
 #include "hmiwidgetalarmwnd.h"
 
+#include "controlpictures.h"
+
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetAlarmWnd, CHmiCtrlWidget)
 
 namespace {
@@ -65,4 +67,9 @@ void CHmiWidgetAlarmWnd::SaveWidgetProperties(std::string& archive) const
 {
     UpdateWidthsText();
     CHmiTableWidget::SaveWidgetProperties(archive);
+}
+
+void CHmiWidgetAlarmWnd::DrawWithoutControl(CHmiDC& dc)
+{
+    DrawListPicture(dc, m_rect, m_columns);
 }

@@ -35,4 +35,7 @@ public:
     HmiColor m_closeColor = 0x000000FF;
     std::int32_t m_nItemHeight = 0;
     std::int32_t m_nDispType = 0;
+
+protected:
+    void DrawWithoutControl(CHmiDC& dc) override;
 };

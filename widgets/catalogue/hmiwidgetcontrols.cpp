@@ -1,5 +1,7 @@
 #include "hmiwidgetcontrols.h"
 
+#include "controlpictures.h"
+
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetCheckbox, CHmiCtrlWidget)
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetCombobox, CHmiCtrlWidget)
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetEdit, CHmiCtrlWidget)
@@ -48,4 +50,19 @@ std::span<const PropertySpec<CHmiWidgetEdit>> CHmiWidgetEdit::Properties()
          .xmlType = "string", .text = &W::m_strVariable, .textLength = TextLength::ShortVariable},
     };
     return properties;
+}
+
+void CHmiWidgetCheckbox::DrawWithoutControl(CHmiDC& dc)
+{
+    DrawCheckboxPicture(dc, m_rect, m_strCaption);
+}
+
+void CHmiWidgetCombobox::DrawWithoutControl(CHmiDC& dc)
+{
+    DrawComboPicture(dc, m_rect, std::string_view(m_strList).substr(0, m_strList.find(',')));
+}
+
+void CHmiWidgetEdit::DrawWithoutControl(CHmiDC& dc)
+{
+    DrawEditPicture(dc, m_rect);
 }

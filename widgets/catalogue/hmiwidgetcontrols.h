@@ -17,6 +17,9 @@ public:
 
     std::string m_strCaption;
     std::string m_strVariable;
+
+protected:
+    void DrawWithoutControl(CHmiDC& dc) override;
 };
 
 class CHmiWidgetCombobox : public CHmiTableWidget<CHmiWidgetCombobox, CHmiCtrlWidget> {
@@ -33,6 +36,9 @@ public:
     std::string m_strList; // the items, separated by commas
     std::string m_strVariable;
     std::int32_t m_nItemHeight = 0;
+
+protected:
+    void DrawWithoutControl(CHmiDC& dc) override;
 };
 
 class CHmiWidgetEdit : public CHmiTableWidget<CHmiWidgetEdit, CHmiCtrlWidget> {
@@ -44,4 +50,7 @@ public:
     static std::span<const PropertySpec<CHmiWidgetEdit>> Properties();
 
     std::string m_strVariable;
+
+protected:
+    void DrawWithoutControl(CHmiDC& dc) override;
 };

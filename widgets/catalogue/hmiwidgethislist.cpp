@@ -1,5 +1,7 @@
 #include "hmiwidgethislist.h"
 
+#include "controlpictures.h"
+
 #include "project/namelists.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetHisList, CHmiCtrlWidget)
@@ -73,4 +75,9 @@ void CHmiWidgetHisList::SaveWidgetProperties(std::string& archive) const
 void CHmiWidgetHisList::CreateEventItems()
 {
     DeclareEvent("insertdata", "When Insert data", "When Insert data to list widget, system triggle this event.");
+}
+
+void CHmiWidgetHisList::DrawWithoutControl(CHmiDC& dc)
+{
+    DrawListPicture(dc, m_rect, m_columns);
 }

@@ -35,6 +35,9 @@ public:
     std::int32_t m_nHistoryName = 0; // index into HistoryNames()
     std::uint8_t m_bAutoUpdate = 1;
 
+protected:
+    void DrawWithoutControl(CHmiDC& dc) override;
+
 private:
     ProjectNameChoice m_historyNames;
 };

@@ -7,10 +7,12 @@ HMI_IMPLEMENT_WIDGET_CLASS(CHmiCtrlWidget, CHmiWidget)
 CHmiCtrlWidget::CHmiCtrlWidget() = default;
 CHmiCtrlWidget::~CHmiCtrlWidget() = default;
 
-void CHmiCtrlWidget::Draw(CHmiDC&)
+void CHmiCtrlWidget::Draw(CHmiDC& dc)
 {
-    if (!m_pControl)
+    if (!m_pControl) {
+        DrawWithoutControl(dc);
         return;
+    }
     HmiRect wanted = m_rect;
     if (m_pView) {
         const HmiPoint topLeft = m_pView->DocToClient({m_rect.left, m_rect.top});
@@ -23,6 +25,8 @@ void CHmiCtrlWidget::Draw(CHmiDC&)
     if (m_pView)
         m_pView->InvalidateView();
 }
+
+void CHmiCtrlWidget::DrawWithoutControl(CHmiDC&) {}
 
 void CHmiCtrlWidget::SetCtrlWndProc(std::unique_ptr<CHmiControl> control)
 {

@@ -19,20 +19,26 @@ public:
 };
 
 // The base of widgets shown as live controls. It works without a control too (saving,
-// command-line use): then it draws nothing.
+// command-line use): then it draws a still picture of the control instead.
 class CHmiCtrlWidget : public CHmiWidget {
     HMI_DECLARE_WIDGET_CLASS(CHmiCtrlWidget)
 public:
     CHmiCtrlWidget();
     ~CHmiCtrlWidget() override;
 
-    // Keeps the widget's control in step with the widget's rectangle.
+    // Keeps the widget's control in step with the widget's rectangle, or draws the still
+    // picture when there is no control.
     void Draw(CHmiDC& dc) override;
 
     // Hands the widget the control created for it; the widget owns it from then on.
     void SetCtrlWndProc(std::unique_ptr<CHmiControl> control);
     CHmiControl* GetControl() const { return m_pControl.get(); }
     void Hide();
+
+protected:
+    // What the control looks like, for targets that have no live control (rendering to an
+    // image); the base draws nothing.
+    virtual void DrawWithoutControl(CHmiDC& dc);
 
 private:
     std::unique_ptr<CHmiControl> m_pControl;

@@ -86,9 +86,17 @@ TEST(ControlWidgets, WriteVariablesWithTheShortLengthAndListsAsTyped)
     EXPECT_EQ(edit.GetWidgetClassName(), "edit");
     EXPECT_EQ(OwnPropertyRows(edit), (std::vector<PropertyRow>{{"variable", "variable", "set variable", 1,
                                                                 PROP_VARIABLE, "Edit", {}}}));
+    edit.SetWidgetRect({10, 10, 110, 30});
     RecordingDC dc;
     edit.Draw(dc);
-    EXPECT_TRUE(dc.shapes.empty()) << "without a live control nothing is drawn";
+    ASSERT_EQ(dc.shapes.size(), 1u) << "without a live control, a still picture of the box";
+    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{10, 10, 110, 30}));
+
+    combobox.SetWidgetRect({0, 0, 100, 20});
+    RecordingDC combo;
+    combobox.Draw(combo);
+    ASSERT_EQ(combo.ShapesOfKind("text").size(), 1u);
+    EXPECT_EQ(combo.ShapesOfKind("text")[0].text, "a") << "the first item shows";
 }
 
 TEST_F(ProjectTest, RealtimeCurveWritesItsDefaultsWithTheLogName)
@@ -243,6 +251,13 @@ TEST(AlarmWindow, SavesItsEightDefaultWidthsWithTrailingCommas)
 
     loaded.SetDisplayFields("Time,Alarm group,");
     EXPECT_EQ(loaded.m_columns, (std::vector<ListColumn>{{"Time", 80}, {"Alarm group", 80}}));
+    loaded.SetWidgetRect({0, 0, 120, 100});
+    RecordingDC dc;
+    loaded.Draw(dc);
+    const auto headings = dc.ShapesOfKind("text");
+    ASSERT_EQ(headings.size(), 2u) << "without a live control, the headings at their widths";
+    EXPECT_EQ(headings[0].text, "Time");
+    EXPECT_EQ(dc.ShapesOfKind("rectangle")[2].rect, (HmiRect{80, 0, 120, 20})) << "cut at the list's edge";
     loaded.SetDisplayFields("");
     EXPECT_TRUE(loaded.m_columns.empty());
 }
