@@ -11,6 +11,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -159,6 +161,12 @@ int main(int argc, char* argv[])
         // Drawing needs fonts, hence an application object; no display is needed.
         if (!std::getenv("QT_QPA_PLATFORM"))
             setenv("QT_QPA_PLATFORM", "offscreen", 0);
+        if (!std::getenv("XDG_RUNTIME_DIR")) {
+            // The folder Qt would fall back to, made private as it wants, so that it says nothing.
+            const std::string runtime = "/tmp/runtime-" + std::to_string(::getuid());
+            ::mkdir(runtime.c_str(), 0700);
+            setenv("XDG_RUNTIME_DIR", runtime.c_str(), 0);
+        }
         QGuiApplication application(argc, argv);
         return command.run(args.subspan(1));
     }
