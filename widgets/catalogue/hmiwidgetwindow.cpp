@@ -1,5 +1,7 @@
 #include "hmiwidgetwindow.h"
 
+#include "widgetchoices.h"
+
 #include "widgets/core/hmidraw.h"
 #include "widgets/core/numberparsers.h"
 #include "widgets/core/optiontree.h"
@@ -19,7 +21,6 @@ constexpr std::uint32_t kStyleCenter = 0x4;
 
 constexpr const char* kCaptionChoices[] = {"No caption", "Has caption"};
 constexpr const char* kCenterChoices[] = {"Not align center", "Align center"};
-constexpr const char* kSecurityModeChoices[] = {"no prompt", "prompt no permission", "prompt password window"};
 
 } // namespace
 
