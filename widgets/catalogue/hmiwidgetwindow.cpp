@@ -1,7 +1,6 @@
 #include "hmiwidgetwindow.h"
 
 #include "widgetchoices.h"
-
 #include "widgets/core/hmidraw.h"
 #include "widgets/core/numberparsers.h"
 #include "widgets/core/optiontree.h"
