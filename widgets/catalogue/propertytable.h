@@ -179,7 +179,8 @@ public:
         Base::UpdateWidgetPropByTree(item);
         const CHmiWidgetProp* prop = this->GetWidgetPropByTreeItem(item);
         const PropertySpec<Widget>* spec = prop ? Find(prop->m_strName) : nullptr;
-        if (!spec)
+        // A static row only shows its value; its own dialog changes it.
+        if (!spec || spec->itemType == PROP_STATIC)
             return;
         if (std::string* text = TextOf(Self(), *spec))
             *text = item->GetEditText();
