@@ -7,7 +7,7 @@ bash scripts/install-deps.sh
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
 cmake --build build -j2
 # Until the desktop editor is built, the command-line tool shows the demo windows' widgets.
-for window in examples/demo/main.xml examples/demo/pumps.xml; do
+for window in examples/demo/main.xml examples/demo/pumps.xml examples/demo/trends.xml; do
     echo "== $window"
     build/bin/kelvo-hmi list "$window"
 done
