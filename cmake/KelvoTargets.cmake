@@ -36,3 +36,29 @@ function(kelvo_add_test name)
     endif()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
 endfunction()
+
+# kelvo_add_static_library(NAME SOURCES ... LIBS ...): one area of the editor, linked into the
+# editor program and its tests.
+function(kelvo_add_static_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LIBS})
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+endfunction()
+
+# kelvo_add_qt_test(NAME SOURCES ... LIBS ...): a QtTest program run by ctest on the offscreen
+# platform, so that it needs no display.
+function(kelvo_add_qt_test name)
+    if(NOT KELVO_BUILD_TESTS)
+        return()
+    endif()
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LIBS} Qt6::Test)
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
+endfunction()
