@@ -38,7 +38,8 @@ public:
     virtual void SetStaticText(const std::string& text) = 0; // static and font items
 };
 
-enum class OptionItemKind { Root, Edit, Color, Combo, CheckBox, File, Variable, Static };
+// Font rows show the font as read-only text; a button asks the editor for its font dialog.
+enum class OptionItemKind { Root, Edit, Color, Combo, CheckBox, File, Variable, Static, Font };
 
 class COptionTree {
 public:

@@ -25,7 +25,7 @@ std::optional<OptionItemKind> ItemKindOf(PropItemType type)
     case PROP_CHECKBOX: return OptionItemKind::CheckBox;
     case PROP_FILE: return OptionItemKind::File;
     case PROP_VARIABLE: return OptionItemKind::Variable;
-    case PROP_FONT:
+    case PROP_FONT: return OptionItemKind::Font;
     case PROP_STATIC: return OptionItemKind::Static;
     }
     return std::nullopt;
@@ -40,7 +40,8 @@ void ShowValue(COptionTreeItem& item, const CHmiWidgetProp& prop, const std::str
         item.SetCurSel(prop.m_nComboCount >= 1 ? HmiDecimalToLong(text) : -1);
         break;
     case OptionItemKind::CheckBox: item.SetCheck(HmiDecimalToLong(text) != 0); break;
-    case OptionItemKind::Static: item.SetStaticText(text); break;
+    case OptionItemKind::Static:
+    case OptionItemKind::Font: item.SetStaticText(text); break;
     default: item.SetEditText(text); break;
     }
 }

@@ -16,6 +16,7 @@ public:
         DeclareProperty("scale", "Scale", "Scale kind", 0, "Gauge", PROP_COMBO).SetComboList(kScales, 2);
         DeclareProperty("empty", "Empty", "A list without entries", 0, "Gauge", PROP_COMBO);
         DeclareProperty("odd", "Odd", "An item type nobody builds", 0, "Gauge", PropItemType(42));
+        DeclareProperty("face", "Face", "Font of the scale", 0, "Gauge", PROP_FONT);
     }
     void CreateWidgetRootItems(COptionTree& tree) override
     {
@@ -30,6 +31,8 @@ public:
             text = std::to_string(0x00FF8000);
         else if (prop.m_strName == "scale" || prop.m_strName == "empty")
             text = std::to_string(scale);
+        else if (prop.m_strName == "face")
+            text = "Serif, 16";
         else
             return 0;
         return 1;
@@ -94,12 +97,14 @@ TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
 
     MemoryOptionItem* gauge = tree.Find("Gauge");
     const auto gaugeRows = tree.ChildrenOf(gauge);
-    ASSERT_EQ(gaugeRows.size(), 3u) << "an unknown item type builds no row";
+    ASSERT_EQ(gaugeRows.size(), 4u) << "an unknown item type builds no row";
     EXPECT_EQ(gaugeRows[0]->color, 0x00FF8000u);
     EXPECT_EQ(gaugeRows[1]->choices, (std::vector<std::string>{"Linear", "Logarithmic"}));
     EXPECT_EQ(gaugeRows[1]->selection, 1);
     EXPECT_TRUE(gaugeRows[2]->choices.empty());
     EXPECT_EQ(gaugeRows[2]->selection, -1) << "an empty list selects nothing";
+    EXPECT_EQ(gaugeRows[3]->kind, OptionItemKind::Font);
+    EXPECT_EQ(gaugeRows[3]->staticText, "Serif, 16") << "a font row shows its text read-only";
 
     const auto eventRows = tree.ChildrenOf(events);
     ASSERT_EQ(eventRows.size(), 2u) << "the events are created for the list";
