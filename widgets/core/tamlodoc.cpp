@@ -1,10 +1,12 @@
 #include "tamlodoc.h"
 
+#include "hmictrlwidget.h"
 #include "hmiview.h"
 #include "widgetfilereader.h"
 #include "widgets/catalogue/hmiwidgetwindow.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -24,6 +26,10 @@ void CTamloDoc::DeleteContents()
         for (const HmiWidgetPtr& widget : m_widgets)
             m_pNameList->RemoveWidgetName(widget->GetWidgetName());
     }
+    m_undoStep.clear();
+    for (const HmiWidgetPtr& widget : m_widgets)
+        for (CHmiView* view : m_views)
+            view->WidgetRemoved(widget.get());
     m_widgets.clear();
 }
 
@@ -74,8 +80,109 @@ void CTamloDoc::RemoveWidget(CHmiWidget* widget)
     if (m_pNameList)
         m_pNameList->RemoveWidgetName(widget->GetWidgetName());
     widget->Invalidate();
+    for (CHmiView* view : m_views)
+        view->WidgetRemoved(widget);
+    std::erase_if(m_undoStep, [widget](const HmiUndoEntry& entry) { return entry.widget == widget; });
     m_widgets.erase(found);
     m_bModified = true;
+}
+
+void CTamloDoc::DestroyDeletedWidgets()
+{
+    std::vector<CHmiWidget*> deleted;
+    for (const HmiUndoEntry& entry : m_undoStep)
+        if (entry.operation == UndoOperation::Deleted)
+            deleted.push_back(entry.widget);
+    m_undoStep.clear();
+    // Their names left the name list when they were deleted.
+    CWidgetNameList* nameList = std::exchange(m_pNameList, nullptr);
+    for (CHmiWidget* widget : deleted)
+        RemoveWidget(widget);
+    m_pNameList = nameList;
+}
+
+void CTamloDoc::BeginUndoStep()
+{
+    DestroyDeletedWidgets();
+    m_bUndoStepOpen = true;
+}
+
+void CTamloDoc::RecordUndo(UndoOperation operation, CHmiWidget* widget)
+{
+    if (!m_bUndoStepOpen || !widget)
+        return;
+    m_undoStep.push_back({operation, widget->GetWidgetRect(), widget});
+    if (operation == UndoOperation::Deleted) {
+        if (m_pNameList)
+            m_pNameList->RemoveWidgetName(widget->GetWidgetName());
+        if (auto* control = dynamic_cast<CHmiCtrlWidget*>(widget))
+            control->Hide();
+        widget->Invalidate();
+        m_bModified = true;
+    }
+}
+
+bool CTamloDoc::IsWidgetDeleted(const CHmiWidget* widget) const
+{
+    return std::any_of(m_undoStep.begin(), m_undoStep.end(), [widget](const HmiUndoEntry& entry) {
+        return entry.widget == widget && entry.operation == UndoOperation::Deleted;
+    });
+}
+
+void CTamloDoc::Undo()
+{
+    m_bUndoStepOpen = false;
+    const std::vector<HmiUndoEntry> step = std::exchange(m_undoStep, {});
+    if (step.empty())
+        return;
+    for (auto entry = step.rbegin(); entry != step.rend(); ++entry) {
+        CHmiWidget* widget = entry->widget;
+        switch (entry->operation) {
+        case UndoOperation::Changed:
+            widget->Invalidate();
+            widget->SetWidgetRect(entry->rectBefore);
+            widget->Invalidate();
+            break;
+        case UndoOperation::Deleted:
+            if (m_pNameList)
+                m_pNameList->AddWidgetName(widget->GetWidgetName(), false);
+            widget->Invalidate();
+            break;
+        case UndoOperation::Added:
+            RemoveWidget(widget);
+            break;
+        }
+    }
+    m_bModified = true;
+}
+
+CHmiWidget* CTamloDoc::DocumentHitTest(HmiPoint point) const
+{
+    const CHmiWidget* window = GetWindowWidget();
+    for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget) {
+        if (widget->get() != window && !IsWidgetDeleted(widget->get()) && (*widget)->Intersects(point))
+            return widget->get();
+    }
+    return nullptr;
+}
+
+CHmiWidget* CTamloDoc::FindWindowWidget() const
+{
+    CHmiWidget* window = GetWindowWidget();
+    return window && !IsWidgetDeleted(window) ? window : nullptr;
+}
+
+bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
+{
+    const auto found = std::find_if(m_widgets.begin(), m_widgets.end(),
+                                    [widget](const HmiWidgetPtr& w) { return w.get() == widget; });
+    if (found == m_widgets.end())
+        return false;
+    HmiWidgetPtr moved = std::move(*found);
+    m_widgets.erase(found);
+    m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
+    m_bModified = true;
+    return true;
 }
 
 bool CTamloDoc::HasWidgetName(std::string_view name) const
@@ -114,7 +221,8 @@ std::string CTamloDoc::Serialize() const
 {
     std::string archive = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
     for (const HmiWidgetPtr& widget : m_widgets)
-        widget->Serialize(archive);
+        if (!IsWidgetDeleted(widget.get()))
+            widget->Serialize(archive);
     archive += "</hmiwidget>\n";
     return archive;
 }
@@ -152,4 +260,19 @@ void CTamloDoc::UpdateAllViews(const HmiRect& area) const
 {
     for (CHmiView* view : m_views)
         view->InvalidateDocRect(area);
+}
+
+CUndoStepGuard::CUndoStepGuard(CTamloDoc& document) : m_document(document)
+{
+    m_document.BeginUndoStep();
+}
+
+CUndoStepGuard::~CUndoStepGuard()
+{
+    m_document.EndUndoStep();
+}
+
+void CUndoStepGuard::Record(UndoOperation operation, CHmiWidget* widget)
+{
+    m_document.RecordUndo(operation, widget);
 }

@@ -3,6 +3,7 @@
 #include "hmitypes.h"
 #include "hmiwidget.h"
 #include "project/fileio.h"
+#include "undostep.h"
 
 #include <deque>
 #include <string>
@@ -38,6 +39,9 @@ public:
     bool AddWidget(HmiWidgetPtr widget, bool atTail, bool select);
     // Takes the widget out of the list and destroys it.
     void RemoveWidget(CHmiWidget* widget);
+    // Takes the widget out of the list and puts it back at an index of the shortened list (the
+    // end at most). False when the widget is not in the list.
+    bool MoveWidget(CHmiWidget* widget, std::size_t index);
     bool HasWidgetName(std::string_view name) const;
     const std::deque<HmiWidgetPtr>& Widgets() const { return m_widgets; }
     // The first widget whose class key is "window", or null.
@@ -72,11 +76,31 @@ public:
     void SetWidgetNameList(CWidgetNameList* list) { m_pNameList = list; }
     CWidgetNameList* GetWidgetNameList() const { return m_pNameList; }
 
+    // The one-step undo record. Beginning a step discards the previous one, destroying for good
+    // the widgets it deleted. A deleted widget stays in the list until then, so that Undo can
+    // bring it back, but it is neither drawn, hit nor saved.
+    void BeginUndoStep();
+    void RecordUndo(UndoOperation operation, CHmiWidget* widget);
+    void EndUndoStep() { m_bUndoStepOpen = false; }
+    // Puts back the rectangles the step changed, brings back the widgets it deleted and removes
+    // the widgets it added; then the step is empty, so a second Undo does nothing.
+    void Undo();
+    bool CanUndo() const { return !m_undoStep.empty(); }
+    bool IsWidgetDeleted(const CHmiWidget* widget) const;
+    const std::vector<HmiUndoEntry>& UndoStep() const { return m_undoStep; }
+
+    // The topmost widget under a point, skipping deleted ones and the window widget, which is
+    // the background of the canvas.
+    CHmiWidget* DocumentHitTest(HmiPoint point) const;
+    // The window widget unless it is deleted.
+    CHmiWidget* FindWindowWidget() const;
+
     // The counter that numbers new widget names, shared by all documents; starts at 1.
     static int& WidgetNameCounter();
 
 private:
     void DeleteContents();
+    void DestroyDeletedWidgets();
     void AddWindowWidget(bool atTail, bool select);
 
     std::deque<HmiWidgetPtr> m_widgets;
@@ -85,4 +109,6 @@ private:
     std::string m_strPictureFolder;
     CWidgetNameList* m_pNameList = nullptr;
     bool m_bModified = false;
+    std::vector<HmiUndoEntry> m_undoStep;
+    bool m_bUndoStepOpen = false;
 };

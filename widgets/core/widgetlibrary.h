@@ -29,6 +29,7 @@
 
 #include "hmiwidget.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -49,3 +50,7 @@ const std::vector<CWidgetLibRecord>& RegisteredWidgetLibs();
 
 // Forgets every registered library; for shutdown and tests.
 void ClearRegisteredWidgetLibs();
+
+// Forgets the libraries registered after the first `count`: the loader takes back the record of
+// a library that registered and then declined, since the record points into its unloaded code.
+void TruncateRegisteredWidgetLibs(std::size_t count);

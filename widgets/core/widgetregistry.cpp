@@ -57,3 +57,9 @@ void ClearRegisteredWidgetLibs()
 {
     WidgetLibs().clear();
 }
+
+void TruncateRegisteredWidgetLibs(std::size_t count)
+{
+    if (count < WidgetLibs().size())
+        WidgetLibs().resize(count);
+}

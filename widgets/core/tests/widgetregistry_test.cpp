@@ -107,3 +107,17 @@ TEST_F(RegistryTest, LaterLibrariesCannotReplaceAKey)
     EXPECT_EQ(RegisteredWidgetLibs().size(), 2u);
     EXPECT_EQ(CHmiWidget::GetWidgetClass("gauge"), &FirstWidget::classFirstWidget);
 }
+
+TEST_F(RegistryTest, TruncatingForgetsOnlyTheLaterLibraries)
+{
+    const CWidgetRunTimeClass entries[] = {{"first", &FirstWidget::classFirstWidget}};
+    RegisterWidgetsLib("a", 1, entries);
+    RegisterWidgetsLib("b", 1, entries);
+
+    TruncateRegisteredWidgetLibs(5);
+    EXPECT_EQ(RegisteredWidgetLibs().size(), 2u) << "a count beyond the list changes nothing";
+    TruncateRegisteredWidgetLibs(1);
+    ASSERT_EQ(RegisteredWidgetLibs().size(), 1u);
+    EXPECT_EQ(RegisteredWidgetLibs()[0].m_strName, "a");
+    EXPECT_EQ(CHmiWidget::WidgetClassList.size(), 2u) << "class records are the caller's to take back";
+}

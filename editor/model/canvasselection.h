@@ -1,0 +1,44 @@
+#pragma once
+
+#include "widgets/core/hmitypes.h"
+
+#include <functional>
+#include <vector>
+
+class CHmiView;
+class CHmiWidget;
+class CTamloDoc;
+
+// The widgets selected on one canvas, in the order in which they were selected: the last one is
+// the reference of the format commands. Selecting nothing selects the window widget, so the
+// property pane always shows something; the window widget never stays selected with others.
+class CCanvasSelection {
+public:
+    CCanvasSelection(CTamloDoc& document, CHmiView& view);
+
+    // Called when a widget joins the selection: the editor shows it in the property pane and
+    // the name list and gives the canvas the focus.
+    void SetOnSelected(std::function<void(CHmiWidget*)> onSelected) { m_onSelected = std::move(onSelected); }
+
+    // Adds the widget (null: the window widget); without add the selection is emptied first.
+    void Select(CHmiWidget* widget, bool add);
+    void Deselect(CHmiWidget* widget);
+    // Selects every widget that lies wholly inside a rectangle given in client coordinates.
+    void SelectInRect(const HmiRect& clientRect, bool add);
+    bool IsSelected(const CHmiWidget* widget) const;
+    // Forgets a widget that is about to be destroyed.
+    void Forget(const CHmiWidget* widget);
+
+    const std::vector<CHmiWidget*>& Widgets() const { return m_widgets; }
+    bool IsEmpty() const { return m_widgets.empty(); }
+    CTamloDoc& Document() const { return m_document; }
+    CHmiView& View() const { return m_view; }
+
+private:
+    void InvalidateWidget(const CHmiWidget& widget) const;
+
+    CTamloDoc& m_document;
+    CHmiView& m_view;
+    std::vector<CHmiWidget*> m_widgets;
+    std::function<void(CHmiWidget*)> m_onSelected;
+};

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "editor/model/canvasselection.h"
+#include "editor/model/canvastools.h"
+#include "tests/support/fakeview.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/catalogue/hmiwidgetrect.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <gtest/gtest.h>
+
+// A view that lets the selection forget widgets the document destroys, as the canvas does.
+struct ForgettingView : FakeView {
+    using FakeView::FakeView;
+    void WidgetRemoved(CHmiWidget* widget) override
+    {
+        if (selection)
+            selection->Forget(widget);
+    }
+    CCanvasSelection* selection = nullptr;
+};
+
+// A canvas without a display: a document with its window widget, a view scrolled by an
+// offset, a selection and a tool host that records what the tools asked of it.
+struct CanvasFixture : ::testing::Test, CCanvasToolHost {
+    CanvasFixture() : view({5, 7}), selection(document, view)
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        RegisterBuiltinWidgetClasses();
+        view.selection = &selection;
+        document.AddView(&view);
+        document.OnNewDocument();
+        selection.Select(nullptr, false);
+        CCanvasTools::Instance().Cancel(*this);
+    }
+    ~CanvasFixture() override
+    {
+        CCanvasTools::Instance().Cancel(*this);
+        CHmiWidget::CurWidgetClass = nullptr;
+        CHmiWidget::RemoveAllRunTimeClass();
+    }
+
+    CCanvasSelection& Selection() override { return selection; }
+    bool IsLocked() const override { return locked; }
+    void SetMouseCapture(bool capture) override { captured = capture; }
+    void SetCanvasCursor(CanvasCursor value) override { cursor = value; }
+    void ShowDragFeedback(std::vector<HmiRect> rects) override { feedback = std::move(rects); }
+
+    CHmiWidget* AddRect(const HmiRect& rect)
+    {
+        HmiWidgetPtr widget(new CHmiWidgetRect);
+        widget->SetWidgetRect(rect);
+        CHmiWidget* added = widget.get();
+        document.AddWidget(std::move(widget), true, false);
+        return added;
+    }
+    CHmiWidget* Window() const { return document.GetWindowWidget(); }
+
+    // Client points for window coordinates.
+    HmiPoint Client(int x, int y) const { return view.DocToClient({x, y}); }
+    void Press(int x, int y, MouseFlags flags = {}) { CCanvasTools::Instance().ButtonDown(*this, Client(x, y), flags); }
+    void Move(int x, int y) { CCanvasTools::Instance().MouseMove(*this, Client(x, y)); }
+    void Release(int x, int y) { CCanvasTools::Instance().ButtonUp(*this, Client(x, y)); }
+    void Drag(int x0, int y0, int x1, int y1, MouseFlags flags = {})
+    {
+        Press(x0, y0, flags);
+        Move(x1, y1);
+        Release(x1, y1);
+    }
+    void Click(int x, int y, MouseFlags flags = {}) { Drag(x, y, x, y, flags); }
+
+    std::vector<CHmiWidget*> Selected() const { return selection.Widgets(); }
+
+    CTamloDoc document;
+    ForgettingView view;
+    CCanvasSelection selection;
+    bool locked = false;
+    bool captured = false;
+    CanvasCursor cursor = CanvasCursor::Arrow;
+    std::vector<HmiRect> feedback;
+};

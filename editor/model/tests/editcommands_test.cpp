@@ -1,0 +1,73 @@
+#include "canvasfixture.h"
+#include "editor/model/editcommands.h"
+#include "editor/model/formatcommands.h"
+#include "tests/support/recordingnamelist.h"
+
+namespace {
+
+struct EditCommandsTest : CanvasFixture {
+    EditCommandsTest() { document.SetWidgetNameList(&names); }
+    RecordingNameList names;
+};
+
+TEST_F(EditCommandsTest, DeletedWidgetsStayUntilTheUndoStepIsReplaced)
+{
+    CHmiWidget* a = AddRect({10, 10, 50, 50});
+    CHmiWidget* b = AddRect({60, 10, 90, 50});
+    const std::size_t count = document.Widgets().size();
+    const std::string name = a->GetWidgetName();
+
+    EXPECT_TRUE(DeleteWidgets(document, {a, Window()}));
+    EXPECT_TRUE(document.IsWidgetDeleted(a));
+    EXPECT_FALSE(document.IsWidgetDeleted(Window())) << "the window is never deleted";
+    EXPECT_EQ(document.Widgets().size(), count);
+    EXPECT_EQ(document.Serialize().find("name=\"" + name + "\""), std::string::npos) << "not saved";
+    EXPECT_EQ(names.log.back(), "remove " + name);
+
+    document.Undo();
+    EXPECT_FALSE(document.IsWidgetDeleted(a));
+    EXPECT_EQ(names.log.back(), "add " + name);
+
+    DeleteWidgets(document, {a});
+    NudgeWidgets(document, {b}, NudgeKey::Up, false); // replaces the step
+    EXPECT_EQ(document.Widgets().size(), count - 1);
+    EXPECT_FALSE(DeleteWidgets(document, {Window()}));
+}
+
+TEST_F(EditCommandsTest, PasteOffsetsTheCopiesAndNamesThemUniquely)
+{
+    CHmiWidget* a = AddRect({10, 10, 50, 50});
+    a->SetWidgetName("pump");
+    const std::string text = CopyWidgets({a, Window()});
+    EXPECT_EQ(text.find("class=\"window\""), std::string::npos);
+
+    const std::vector<CHmiWidget*> pasted = PasteWidgets(document, text);
+    ASSERT_EQ(pasted.size(), 1u);
+    EXPECT_EQ(pasted[0]->GetWidgetRect(), (HmiRect{20, 20, 60, 60}));
+    EXPECT_NE(pasted[0]->GetWidgetName(), "pump");
+    EXPECT_EQ(pasted[0]->GetWidgetName().rfind("rectangle", 0), 0u);
+    EXPECT_EQ(document.Widgets().back().get(), pasted[0]);
+    ASSERT_EQ(document.UndoStep().size(), 1u);
+    EXPECT_EQ(document.UndoStep()[0].operation, UndoOperation::Added);
+
+    CTamloDoc other;
+    other.OnNewDocument();
+    const std::vector<CHmiWidget*> intoOther = PasteWidgets(other, text);
+    ASSERT_EQ(intoOther.size(), 1u);
+    EXPECT_EQ(intoOther[0]->GetWidgetName(), "pump") << "a free name is kept";
+
+    const std::size_t count = document.Widgets().size();
+    document.Undo();
+    EXPECT_EQ(document.Widgets().size(), count - 1) << "Undo of a paste removes it";
+}
+
+TEST_F(EditCommandsTest, PastingTextWithoutWidgetsDoesNothing)
+{
+    NudgeWidgets(document, {Window()}, NudgeKey::Up, false);
+    EXPECT_TRUE(PasteWidgets(document, "not xml").empty());
+    EXPECT_TRUE(PasteWidgets(document, "").empty());
+    EXPECT_TRUE(CopyWidgets({Window()}).empty());
+    EXPECT_TRUE(document.CanUndo()) << "a paste of nothing keeps the undo step";
+}
+
+} // namespace

@@ -1,0 +1,180 @@
+#include "editor/startup/singleinstance.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocalSocket>
+#include <QSignalSpy>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+// A name of this run's own, so that test programs running side by side do not meet.
+QString UniqueName()
+{
+    static int counter = 0;
+    const qint64 pid = QCoreApplication::applicationPid();
+    return CInstanceGuard::ServerName(QStringLiteral("kelvo-instance-test-%1-%2").arg(pid).arg(++counter));
+}
+
+QByteArray Header(quint32 identifier, quint32 length)
+{
+    QByteArray header(8, Qt::Uninitialized);
+    qToLittleEndian(identifier, header.data());
+    qToLittleEndian(length, header.data() + 4);
+    return header;
+}
+
+// Leaves a socket file at path that nobody listens on, as an editor that crashed does.
+bool MakeStaleSocket(const QByteArray& path)
+{
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    if (std::size_t(path.size()) >= sizeof address.sun_path)
+        return false;
+    std::copy(path.begin(), path.end(), address.sun_path);
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    const bool bound = fd >= 0 && ::bind(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    if (fd >= 0)
+        ::close(fd);
+    return bound;
+}
+
+// Records the guard's signals in the order they come.
+struct SignalLog {
+    explicit SignalLog(CInstanceGuard& guard)
+    {
+        QObject::connect(&guard, &CInstanceGuard::openFileRequested,
+                         [this](const QString& path) { events << QStringLiteral("open ") + path; });
+        QObject::connect(&guard, &CInstanceGuard::raiseRequested, [this] { events << QStringLiteral("raise"); });
+        QObject::connect(&guard, &CInstanceGuard::beepRequested, [this] { events << QStringLiteral("beep"); });
+    }
+    QStringList events;
+};
+
+} // namespace
+
+class SingleInstanceTest : public QObject {
+    Q_OBJECT
+private slots:
+    void handOverOpensExactlyThatPathThenRaises_data()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QStringList>("expected");
+        const QString path = QStringLiteral("/home/op/Pläne/window 1.xml");
+        QTest::newRow("path") << path.toUtf8() << QStringList{QStringLiteral("open ") + path, QStringLiteral("raise")};
+        QTest::newRow("no path") << QByteArray() << QStringList{QStringLiteral("raise")};
+    }
+    void handOverOpensExactlyThatPathThenRaises()
+    {
+        QFETCH(QByteArray, path);
+        QFETCH(QStringList, expected);
+        CInstanceGuard guard(UniqueName());
+        QVERIFY(guard.Listen());
+        SignalLog log(guard);
+        QSignalSpy raised(&guard, &CInstanceGuard::raiseRequested);
+
+        QVERIFY(CInstanceGuard::HandOver(guard.Name(), path));
+        QVERIFY(raised.wait());
+        QCOMPARE(log.events, expected);
+    }
+
+    void otherIdentifiersOnlyBeep()
+    {
+        CInstanceGuard guard(UniqueName());
+        QVERIFY(guard.Listen());
+        SignalLog log(guard);
+        QSignalSpy beeped(&guard, &CInstanceGuard::beepRequested);
+
+        QVERIFY(CInstanceGuard::SendRecord(guard.Name(), 7, "/home/op/window.xml"));
+        QVERIFY(beeped.wait());
+        QCOMPARE(log.events, QStringList{QStringLiteral("beep")});
+    }
+
+    void malformedRecordsAreIgnored_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("listenerCloses");
+        QTest::newRow("no terminating zero") << Header(1, 4) + "abcd" << true;
+        QTest::newRow("zero inside the text") << Header(7, 5) + QByteArray("ab\0c\0", 5) << true;
+        QTest::newRow("zero length") << Header(1, 0) << true;
+        QTest::newRow("huge length") << Header(1, 0xFFFFFFFFu) + "garbage" << true;
+        QTest::newRow("short header") << QByteArray("\1\0\0\0\4", 5) << false;
+        QTest::newRow("short text") << Header(1, 10) + "abc" << false;
+    }
+    void malformedRecordsAreIgnored()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, listenerCloses);
+        CInstanceGuard guard(UniqueName());
+        QVERIFY(guard.Listen());
+        SignalLog log(guard);
+
+        {
+            QLocalSocket raw;
+            raw.connectToServer(guard.Name());
+            QVERIFY(raw.waitForConnected());
+            QSignalSpy closed(&raw, &QLocalSocket::disconnected);
+            raw.write(bytes);
+            QVERIFY(raw.waitForBytesWritten());
+            // A record the listener can judge ends the connection from its side; an unfinished
+            // one ends when the sender goes.
+            if (listenerCloses)
+                QVERIFY(closed.wait());
+        }
+
+        // The listener still serves the next editor start.
+        QSignalSpy raised(&guard, &CInstanceGuard::raiseRequested);
+        QVERIFY(CInstanceGuard::HandOver(guard.Name(), "/home/op/next.xml"));
+        QVERIFY(raised.wait());
+        QCOMPARE(log.events, (QStringList{QStringLiteral("open /home/op/next.xml"), QStringLiteral("raise")}));
+    }
+
+    void handOverFailsWhenNoEditorListens()
+    {
+        const QString name = UniqueName();
+        QVERIFY(!CInstanceGuard::HandOver(name, "/home/op/window.xml"));
+        {
+            CInstanceGuard guard(name);
+            QVERIFY(guard.Listen());
+        }
+        QVERIFY(!CInstanceGuard::HandOver(name, "/home/op/window.xml"));
+    }
+
+    void aSecondGuardLeavesTheRunningEditorAlone()
+    {
+        CInstanceGuard running(UniqueName());
+        QVERIFY(running.Listen());
+        CInstanceGuard second(running.Name());
+        QVERIFY(!second.Listen());
+
+        QSignalSpy opened(&running, &CInstanceGuard::openFileRequested);
+        QVERIFY(CInstanceGuard::HandOver(running.Name(), "/home/op/window.xml"));
+        QVERIFY(opened.wait());
+    }
+
+    void aStaleSocketFileDoesNotStopListening()
+    {
+        const QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        const QString name = dir.filePath(QStringLiteral("editor"));
+        QVERIFY(MakeStaleSocket(QFile::encodeName(name)));
+        QVERIFY(QFile::exists(name));
+        QVERIFY(!CInstanceGuard::HandOver(name, "/home/op/window.xml"));
+
+        CInstanceGuard guard(name);
+        QVERIFY(guard.Listen());
+        QSignalSpy opened(&guard, &CInstanceGuard::openFileRequested);
+        QVERIFY(CInstanceGuard::HandOver(name, "/home/op/window.xml"));
+        QVERIFY(opened.wait());
+    }
+};
+
+QTEST_GUILESS_MAIN(SingleInstanceTest)
+#include "singleinstance_test.moc"
