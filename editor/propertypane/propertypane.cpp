@@ -1,0 +1,128 @@
+#include "propertypane.h"
+
+#include "propertypaneitem.h"
+
+#include "project/textcodec.h"
+
+#include <QColorDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kExtraColumnWidth = 14;
+constexpr int kCaptionColumnWidth = 130;
+
+} // namespace
+
+CPropertyPane::CPropertyPane(QWidget* parent)
+    : QWidget(parent)
+    , m_tree(new QTreeWidget(this))
+    , m_description(new QLabel(this))
+    , m_chooseColor([](const QColor& initial, QWidget* owner) { return QColorDialog::getColor(initial, owner); })
+{
+    m_tree->setColumnCount(3);
+    m_tree->setHeaderHidden(true);
+    m_tree->setRootIsDecorated(true);
+    m_tree->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    QHeaderView* header = m_tree->header();
+    header->setStretchLastSection(false);
+    header->setMinimumSectionSize(kExtraColumnWidth);
+    header->setSectionResizeMode(CaptionColumn, QHeaderView::Interactive);
+    header->setSectionResizeMode(ValueColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(ExtraColumn, QHeaderView::Fixed);
+    header->resizeSection(CaptionColumn, kCaptionColumnWidth);
+    header->resizeSection(ExtraColumn, kExtraColumnWidth);
+
+    m_description->setWordWrap(true);
+    m_description->setFrameShape(QFrame::StyledPanel);
+    m_description->setMinimumHeight(3 * m_description->fontMetrics().height());
+    m_description->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_description);
+
+    connect(m_tree, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* current) { ShowDescription(current); });
+    connect(this, &CPropertyPane::itemChanged, this, &CPropertyPane::ApplyToWidget);
+}
+
+// Out of line: the items are complete only here.
+CPropertyPane::~CPropertyPane() = default;
+
+COptionTreeItem* CPropertyPane::CreateNewRootItem(const std::string& caption, const std::string& info)
+{
+    return AddItem(OptionItemKind::Root, nullptr, caption, info);
+}
+
+COptionTreeItem* CPropertyPane::CreateNewItem(OptionItemKind kind, COptionTreeItem* parent,
+                                              const std::string& caption, const std::string& info)
+{
+    // Every item this pane hands out is one of its own.
+    return AddItem(kind, static_cast<CPropertyPaneItem*>(parent), caption, info);
+}
+
+CPropertyPaneItem* CPropertyPane::AddItem(OptionItemKind kind, CPropertyPaneItem* parent, const std::string& caption,
+                                          const std::string& info)
+{
+    auto* row = parent ? new QTreeWidgetItem(parent->Row()) : new QTreeWidgetItem(m_tree);
+    const QString infoText = QString::fromStdString(Gb2312ToUtf8OrKeep(info));
+    row->setText(CaptionColumn, QString::fromStdString(Gb2312ToUtf8OrKeep(caption)));
+    row->setToolTip(CaptionColumn, infoText);
+    row->setToolTip(ValueColumn, infoText);
+    m_items.push_back(std::make_unique<CPropertyPaneItem>(*this, kind, parent, row, caption));
+    return m_items.back().get();
+}
+
+void CPropertyPane::Clear()
+{
+    // Items go first, so that editors hidden by the clearing find nobody to commit to.
+    m_items.clear();
+    m_tree->clear();
+    m_description->clear();
+    m_widget = nullptr;
+}
+
+void CPropertyPane::ShowWidget(CHmiWidget* widget)
+{
+    Clear();
+    m_widget = widget;
+    if (widget)
+        widget->CreateWidgetPropertyTree(*this);
+}
+
+void CPropertyPane::ApplyToWidget(COptionTreeItem* item)
+{
+    if (!m_widget)
+        return;
+    CHmiWidget* widget = m_widget;
+    widget->UpdateWidgetPropByTree(item);
+    emit widgetEdited(widget);
+}
+
+CPropertyPaneItem* CPropertyPane::FindItem(const std::string& caption, const std::string& rootCaption) const
+{
+    for (const auto& item : m_items) {
+        if (item->GetLabelText() != caption)
+            continue;
+        const COptionTreeItem* parent = item->GetParent();
+        if (rootCaption.empty() || (parent && parent->GetLabelText() == rootCaption))
+            return item.get();
+    }
+    return nullptr;
+}
+
+QString CPropertyPane::DescriptionText() const
+{
+    return m_description->text();
+}
+
+void CPropertyPane::ShowDescription(QTreeWidgetItem* row)
+{
+    m_description->setText(row ? row->toolTip(CaptionColumn) : QString());
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "widgets/core/hmiwidget.h"
+#include "widgets/core/optiontree.h"
+
+#include <QColor>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class CPropertyPaneItem;
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+// The editor's property pane: the active widget's properties as a three-column tree (caption,
+// value editor, and a narrow column that shows whether the property is bound to an expression),
+// with the current row's help text underneath.
+class CPropertyPane : public QWidget, public COptionTree {
+    Q_OBJECT
+public:
+    enum Column { CaptionColumn, ValueColumn, ExtraColumn };
+    // Asks the user for a colour; an invalid colour means the choice was cancelled.
+    using ColorChooser = std::function<QColor(const QColor& initial, QWidget* parent)>;
+
+    explicit CPropertyPane(QWidget* parent = nullptr);
+    ~CPropertyPane() override;
+
+    COptionTreeItem* CreateNewRootItem(const std::string& caption, const std::string& info) override;
+    COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
+                                   const std::string& info) override;
+
+    // Removes every row and forgets the shown widget.
+    void Clear();
+    // Rebuilds the pane for a widget (null: leaves it empty); the user's edits then go to it.
+    void ShowWidget(CHmiWidget* widget);
+    CHmiWidget* CurrentWidget() const { return m_widget; }
+    // Replaces the colour dialog that colour rows open.
+    void SetColorChooser(ColorChooser chooser) { m_chooseColor = std::move(chooser); }
+    QColor ChooseColor(const QColor& initial) { return m_chooseColor(initial, this); }
+
+    QTreeWidget* Tree() const { return m_tree; }
+    // The first row with this caption, under a root of rootCaption when one is given.
+    CPropertyPaneItem* FindItem(const std::string& caption, const std::string& rootCaption = {}) const;
+    QString DescriptionText() const;
+
+signals:
+    // The user committed a new value in the row (never sent for values the program sets).
+    void itemChanged(COptionTreeItem* item);
+    void dynPropEditRequested(COptionTreeItem* item);
+    void selectItemRequested(COptionTreeItem* item);
+    void fileRequested(COptionTreeItem* item);
+    void fontRequested(COptionTreeItem* item);
+    void eventEditRequested(COptionTreeItem* item);
+    // The shown widget took an edit and needs redrawing.
+    void widgetEdited(CHmiWidget* widget);
+
+private:
+    CPropertyPaneItem* AddItem(OptionItemKind kind, CPropertyPaneItem* parent, const std::string& caption,
+                               const std::string& info);
+    void ShowDescription(QTreeWidgetItem* row);
+    void ApplyToWidget(COptionTreeItem* item);
+
+    QTreeWidget* m_tree;
+    QLabel* m_description;
+    std::vector<std::unique_ptr<CPropertyPaneItem>> m_items; // in creation order
+    CHmiWidget* m_widget = nullptr;
+    ColorChooser m_chooseColor;
+};

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "widgets/core/optiontree.h"
+
+#include <QObject>
+
+#include <string>
+
+class CPropertyPane;
+class QCheckBox;
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+class QTreeWidgetItem;
+
+// One row of the property pane: a group row or a property with its editor in the value column.
+// The committed value is kept here in model form (GB2312 bytes), so a row the user never
+// touched hands back exactly the bytes it was given. The editors' signals are connected to
+// this object and die with it, which keeps editors that Qt deletes later from reaching a
+// cleared pane.
+class CPropertyPaneItem : public QObject, public COptionTreeItem {
+public:
+    CPropertyPaneItem(CPropertyPane& pane, OptionItemKind kind, CPropertyPaneItem* parent, QTreeWidgetItem* row,
+                      std::string caption);
+
+    COptionTreeItem* GetParent() const override { return m_parent; }
+    std::string GetLabelText() const override { return m_caption; }
+    void Expand() override;
+    void SetAdtColumnBkColor(HmiColor color) override;
+    void SetBindable(bool bindable) override;
+    std::string GetEditText() const override;
+    void SetEditText(const std::string& text) override;
+    HmiColor GetColor() const override { return m_color; }
+    void SetColor(HmiColor color) override;
+    bool GetCheck() const override;
+    void SetCheck(bool checked) override;
+    void AddString(const std::string& text) override;
+    int GetCurSel() const override { return m_selection; }
+    void SetCurSel(int index) override;
+    void SetStaticText(const std::string& text) override;
+
+    OptionItemKind Kind() const { return m_kind; }
+    QTreeWidgetItem* Row() const { return m_row; }
+    // The value editor: line edit, combo box, check box, colour swatch or label; null on group rows.
+    QWidget* Editor() const;
+    // The "..." of file, variable, font and event rows; null on other rows.
+    QToolButton* BrowseButton() const { return m_browse; }
+    // The "..." of a bindable row; null unless the row is bindable.
+    QToolButton* BindButton() const { return m_bind; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildEditor(const QString& info);
+    QToolButton* AddButton(void (CPropertyPane::*request)(COptionTreeItem*), const QString& toolTip);
+    void CommitText();
+    void ChooseColor();
+    void ShowColor();
+
+    CPropertyPane& m_pane;
+    const OptionItemKind m_kind;
+    CPropertyPaneItem* const m_parent;
+    QTreeWidgetItem* const m_row; // owned by the tree
+    const std::string m_caption;
+
+    std::string m_text; // edit, file, variable, static and font rows
+    HmiColor m_color = 0;
+    int m_selection = -1;
+
+    // Editors live in the value cell, which the tree owns.
+    QWidget* m_cell = nullptr;
+    QHBoxLayout* m_layout = nullptr;
+    QLineEdit* m_edit = nullptr;
+    QComboBox* m_combo = nullptr;
+    QCheckBox* m_check = nullptr;
+    QPushButton* m_swatch = nullptr;
+    QLabel* m_label = nullptr;
+    QToolButton* m_browse = nullptr;
+    QToolButton* m_bind = nullptr;
+};
