@@ -190,8 +190,11 @@ void CHmiWidget::RefreshPropItem(const CHmiWidgetProp& prop) const
 
 void CHmiWidget::UpdateTreeByWidgetProp()
 {
-    for (const auto& prop : m_properties)
+    // The binding mark too, so that a binding made or deleted in a dialog shows at once.
+    for (const auto& prop : m_properties) {
         RefreshPropItem(*prop);
+        SetWidgetDynPropBkColor(*prop);
+    }
 }
 
 CHmiWidgetProp* CHmiWidget::GetWidgetPropByTreeItem(const COptionTreeItem* item) const

@@ -112,6 +112,17 @@ TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
     EXPECT_EQ(eventRows[0]->info, "trigger this event when mouse button down");
 }
 
+TEST_F(PropertyListTest, RefreshingShowsBindingsMadeOrDeletedSinceTheListWasBuilt)
+{
+    widget.AddWidgetDynProp("top", "$db.y");
+    widget.CreateWidgetPropertyTree(tree);
+    widget.AddWidgetDynProp("left", "$db.x");
+    widget.AddWidgetDynProp("top", "");
+    widget.UpdateTreeByWidgetProp();
+    EXPECT_EQ(tree.Find("Left")->extraColumnColor, kHmiColorBound);
+    EXPECT_EQ(tree.Find("Top")->extraColumnColor, kHmiColor3DFace);
+}
+
 TEST_F(PropertyListTest, ComboSelectionOutsideTheListShowsNone)
 {
     widget.scale = 5;
