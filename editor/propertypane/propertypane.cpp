@@ -7,13 +7,28 @@
 #include <QColorDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int kExtraColumnWidth = 14;
 constexpr int kCaptionColumnWidth = 130;
+
+// Paints the extra column in the row's binding colour only, so that the mark of a bound
+// property stays visible on the current row instead of disappearing under the highlight.
+class CBindingMarkDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        painter->fillRect(option.rect, index.data(Qt::BackgroundRole).value<QBrush>());
+    }
+};
 
 } // namespace
 
@@ -36,6 +51,7 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     header->setSectionResizeMode(ExtraColumn, QHeaderView::Fixed);
     header->resizeSection(CaptionColumn, kCaptionColumnWidth);
     header->resizeSection(ExtraColumn, kExtraColumnWidth);
+    m_tree->setItemDelegateForColumn(ExtraColumn, new CBindingMarkDelegate(m_tree));
 
     m_description->setWordWrap(true);
     m_description->setFrameShape(QFrame::StyledPanel);
@@ -105,6 +121,22 @@ void CPropertyPane::ApplyToWidget(COptionTreeItem* item)
     emit widgetEdited(widget);
 }
 
+void CPropertyPane::CommitItem(COptionTreeItem* item)
+{
+    const bool ownItem = std::any_of(m_items.begin(), m_items.end(),
+                                     [item](const auto& own) { return own.get() == item; });
+    if (ownItem)
+        emit itemChanged(item);
+}
+
+void CPropertyPane::RefreshWidget()
+{
+    if (!m_widget)
+        return;
+    m_widget->UpdateTreeByWidgetProp();
+    emit widgetEdited(m_widget);
+}
+
 CPropertyPaneItem* CPropertyPane::FindItem(const std::string& caption, const std::string& rootCaption) const
 {
     for (const auto& item : m_items) {
@@ -125,4 +157,9 @@ QString CPropertyPane::DescriptionText() const
 void CPropertyPane::ShowDescription(QTreeWidgetItem* row)
 {
     m_description->setText(row ? row->toolTip(CaptionColumn) : QString());
+}
+
+void CPropertyPane::ShowRefusal(const QString& reason)
+{
+    m_description->setText(reason);
 }

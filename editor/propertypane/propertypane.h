@@ -33,7 +33,7 @@ public:
     COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
                                    const std::string& info) override;
 
-    // Removes every row and forgets the shown widget.
+    // Removes every row and forgets the shown widget; call it before the shown widget is destroyed.
     void Clear();
     // Rebuilds the pane for a widget (null: leaves it empty); the user's edits then go to it.
     void ShowWidget(CHmiWidget* widget);
@@ -46,10 +46,22 @@ public:
     // The first row with this caption, under a root of rootCaption when one is given.
     CPropertyPaneItem* FindItem(const std::string& caption, const std::string& rootCaption = {}) const;
     QString DescriptionText() const;
+    // Says in the description area why an edit was refused.
+    void ShowRefusal(const QString& reason);
+
+public slots:
+    // Applies a row that a dialog opened from its button has changed, as if the user had edited
+    // it in place (a chosen file or variable). Rows of other panes or of cleared ones are ignored.
+    void CommitItem(COptionTreeItem* item);
+    // Shows the widget's values and bindings again after a dialog changed the widget itself
+    // (a binding, a font), and reports it as edited.
+    void RefreshWidget();
 
 signals:
     // The user committed a new value in the row (never sent for values the program sets).
     void itemChanged(COptionTreeItem* item);
+    // The "..." button of a row was pressed: of a bindable row (the dynamic-property dialogs),
+    // a variable row (the variable chooser), a file row, a font row or an event row.
     void dynPropEditRequested(COptionTreeItem* item);
     void selectItemRequested(COptionTreeItem* item);
     void fileRequested(COptionTreeItem* item);

@@ -189,7 +189,15 @@ void CPropertyPaneItem::CommitText()
     const QString shown = m_edit->text();
     if (shown == ToQt(m_text))
         return; // focus left without a change, or Return pressed twice
-    m_text = Utf8ToGb2312OrKeep(shown.toStdString());
+    std::string text;
+    if (!Utf8ToGb2312(shown.toStdString(), text)) {
+        // The window file and the panel know GB2312 only; keeping other bytes would corrupt the file.
+        SetEditText(m_text);
+        m_pane.ShowRefusal(QObject::tr("\"%1\" was not taken: the panel shows only characters of the GB2312 set.")
+                               .arg(shown));
+        return;
+    }
+    m_text = std::move(text);
     emit m_pane.itemChanged(this);
 }
 
