@@ -1,13 +1,21 @@
-// The property pane with real catalogue widgets, driven through its editors as a user would.
+// The property pane with catalogue widgets of a real document, driven through its editors as a
+// user would: typing, clicking, choosing and pressing row buttons.
 
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
-#include "widgets/catalogue/hmiwidgetline.h"
+#include "tests/support/recordingnamelist.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/catalogue/hmiwidgetbmptext.h"
+#include "widgets/catalogue/hmiwidgetbutton.h"
+#include "widgets/catalogue/hmiwidgetpic.h"
 #include "widgets/catalogue/hmiwidgetrect.h"
+#include "widgets/catalogue/hmiwidgettext.h"
+#include "widgets/core/tamlodoc.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -24,14 +32,34 @@ namespace {
 const std::string kGbTest = "\xB2\xE2\xCA\xD4";
 const std::string kGbPump = "\xB1\xC3";
 
+const QColor kBoundColor(255, 0, 0);
+const QColor kFaceColor(0xF0, 0xF0, 0xF0);
+
+QString RectText(const HmiRect& r)
+{
+    return QStringLiteral("%1,%2,%3,%4").arg(r.left).arg(r.top).arg(r.right).arg(r.bottom);
+}
+
 } // namespace
 
 class PropertyPaneTest : public QObject {
     Q_OBJECT
 
 private:
+    RecordingNameList names;
+    std::unique_ptr<CTamloDoc> doc;
     std::unique_ptr<CPropertyPane> pane;
-    std::unique_ptr<CHmiWidgetRect> rect;
+
+    // A widget of the class registered under key, added to the document with a rectangle.
+    template <class Widget>
+    Widget* Add(const char* key, const HmiRect& rect = {10, 10, 50, 50})
+    {
+        HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(key)->CreateObject();
+        widget->SetWidgetRect(rect);
+        auto* added = dynamic_cast<Widget*>(widget.get());
+        doc->AddWidget(std::move(widget), true, false);
+        return added;
+    }
 
     // Shows the pane for a widget and lets the tree place the editors.
     void Show(CHmiWidget* widget)
@@ -42,131 +70,220 @@ private:
         QCoreApplication::processEvents();
     }
 
-    CPropertyPaneItem* Row(const char* caption, const char* root = "")
-    {
-        return pane->FindItem(caption, root);
-    }
+    CPropertyPaneItem* Row(const char* caption, const char* root = "") { return pane->FindItem(caption, root); }
 
     template <class Editor>
-    Editor* EditorOf(const char* caption, const char* root = "")
+    Editor* EditorOf(const char* caption)
     {
-        CPropertyPaneItem* item = Row(caption, root);
+        CPropertyPaneItem* item = Row(caption);
         return item ? qobject_cast<Editor*>(item->Editor()) : nullptr;
     }
 
-    // Replaces a line edit's text as typed and confirms it with Return. Characters go as key
-    // events carrying their text, which keyClicks cannot do beyond Latin-1.
+    // Replaces a line edit's text by typing and confirms it with Return.
     static void Type(QLineEdit* edit, const QString& text)
     {
+        QVERIFY(edit);
+        QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(edit, text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+
+    // Like Type, for characters beyond Latin-1, which keyClicks cannot carry.
+    static void TypeUnicode(QLineEdit* edit, const QString& text)
+    {
+        QVERIFY(edit);
         QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
         for (const QChar c : text)
             QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c), Qt::NoModifier);
         QTest::keyClick(edit, Qt::Key_Return);
     }
 
+    // The colour the screen shows in the extra column of a row.
+    QColor ExtraColumnPixel(const char* caption)
+    {
+        QTreeWidget* tree = pane->Tree();
+        const QRect row = tree->visualItemRect(Row(caption)->Row());
+        const int x = tree->header()->sectionPosition(CPropertyPane::ExtraColumn) + 2;
+        return tree->viewport()->grab().toImage().pixelColor(x, row.center().y());
+    }
+
 private slots:
+    void initTestCase()
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        RegisterBuiltinWidgetClasses();
+    }
+
+    void cleanupTestCase() { CHmiWidget::RemoveAllRunTimeClass(); }
+
     void init()
     {
+        names.log.clear();
+        doc = std::make_unique<CTamloDoc>();
+        doc->SetWidgetNameList(&names);
+        doc->OnNewDocument();
         pane = std::make_unique<CPropertyPane>();
         pane->resize(420, 1000); // every row in view, so every editor is placed
-        rect = std::make_unique<CHmiWidgetRect>();
-        rect->SetWidgetName("rect1");
-        rect->SetWidgetRect({10, 10, 50, 50});
     }
 
     void cleanup()
     {
         pane.reset();
-        rect.reset();
+        doc.reset();
     }
 
-    void showsGroupsRowsAndValuesOfTheWidget()
+    void eachKindOfRowHasItsEditorAndButtons()
     {
-        rect->AddWidgetDynProp("left", "$a.b");
-        Show(rect.get());
-        QCOMPARE(pane->CurrentWidget(), rect.get());
+        auto* button = Add<CHmiWidgetButton>("button");
+        button->m_strCaption = "Start";
+        Show(button);
+        QCOMPARE(pane->CurrentWidget(), button);
 
         QTreeWidget* tree = pane->Tree();
         QStringList roots;
         for (int i = 0; i < tree->topLevelItemCount(); ++i) {
             QTreeWidgetItem* root = tree->topLevelItem(i);
             roots << root->text(CPropertyPane::CaptionColumn);
-            QVERIFY(root->font(CPropertyPane::CaptionColumn).bold());
-            QVERIFY(root->isFirstColumnSpanned());
             QVERIFY(root->isExpanded());
         }
-        QCOMPARE(roots, (QStringList{"Basic properties", "Event", "Rectangle"}));
+        QCOMPARE(roots, (QStringList{"Basic properties", "Event", "System Button"}));
+        QCOMPARE(tree->columnCount(), 3);
 
-        QCOMPARE(Row("Left", "Basic properties")->Kind(), OptionItemKind::Edit);
-        QCOMPARE(EditorOf<QLineEdit>("Name")->text(), QString("rect1"));
         QCOMPARE(EditorOf<QLineEdit>("Left")->text(), QString("10"));
-        QCOMPARE(EditorOf<QLineEdit>("Width")->text(), QString("40"));
+        QCOMPARE(EditorOf<QLineEdit>("Caption")->text(), QString("Start"));
         QVERIFY(EditorOf<QCheckBox>("Visible")->isChecked());
-        QCOMPARE(Row("fillcolor", "Rectangle")->Kind(), OptionItemKind::Color);
-        QCOMPARE(Row("fillcolor")->GetColor(), 0x00FFFFFFu);
-        QVERIFY(EditorOf<QPushButton>("fillcolor")->styleSheet().contains("#ffffff"));
-        QCOMPARE(Row("edgecolor")->GetColor(), 0x00000000u);
+        QCOMPARE(EditorOf<QComboBox>("Type")->currentText(), QString("Normal"));
+        QVERIFY(EditorOf<QPushButton>("Backcolor")->styleSheet().contains("#c0c0c0"));
+        QVERIFY(EditorOf<QLineEdit>("Var Name"));
+        QVERIFY(EditorOf<QLabel>("Button Down"));
 
-        // The extra column tells bound from unbound; only bindable rows get the binding button.
-        const auto extra = [&](const char* caption) {
-            return Row(caption)->Row()->background(CPropertyPane::ExtraColumn).color();
-        };
-        QCOMPARE(extra("Left"), QColor(255, 0, 0));
-        QCOMPARE(extra("Top"), QColor(0xF0, 0xF0, 0xF0));
-        QVERIFY(Row("Left")->BindButton());
+        // Only bindable rows have the binding button; plain edit rows have no other.
         QVERIFY(!Row("Name")->BindButton());
-        QCOMPARE(pane->Tree()->header()->sectionSize(CPropertyPane::ExtraColumn), 14);
-
-        // Events are read-only rows with a button of their own.
-        CPropertyPaneItem* buttonDown = Row("Button Down", "Event");
-        QVERIFY(buttonDown);
-        QCOMPARE(buttonDown->Kind(), OptionItemKind::Static);
-        QVERIFY(qobject_cast<QLabel*>(buttonDown->Editor()));
-        QVERIFY(buttonDown->BrowseButton());
         QVERIFY(!Row("Left")->BrowseButton());
 
-        // Help text: tooltip of the row, and the description while the row is current.
-        QCOMPARE(Row("Left")->Row()->toolTip(CPropertyPane::CaptionColumn), QString("Left position"));
-        QVERIFY(pane->DescriptionText().isEmpty());
-        QTest::mouseClick(EditorOf<QLineEdit>("Left"), Qt::LeftButton);
-        QCOMPARE(pane->DescriptionText(), QString("Left position"));
+        Show(Add<CHmiWidgetPic>("picture"));
+        QVERIFY(EditorOf<QLineEdit>("filename"));
+        QVERIFY(Row("filename")->BrowseButton());
+
+        auto* bmpText = Add<CHmiWidgetBmpText>("bmptext");
+        Show(bmpText);
+        QCOMPARE(Row("Font")->Kind(), OptionItemKind::Font);
+        QVERIFY(EditorOf<QLabel>("Font")->text().startsWith(QString::fromStdString(bmpText->m_font.face)));
+        QVERIFY(Row("Font")->BrowseButton());
     }
 
-    void textEditsAreCommittedOnReturnAndApplied()
+    void boundPropertiesAreMarkedRedInTheExtraColumn()
     {
-        Show(rect.get());
+        auto* rect = Add<CHmiWidgetRect>("rectangle");
+        rect->AddWidgetDynProp("left", "$db.level");
+        Show(rect);
+        QCOMPARE(pane->Tree()->header()->sectionSize(CPropertyPane::ExtraColumn), 14);
+        QCOMPARE(ExtraColumnPixel("Left"), kBoundColor);
+        QCOMPARE(ExtraColumnPixel("Top"), kFaceColor);
+
+        // The mark stays visible on the current row.
+        QTest::mouseClick(EditorOf<QLineEdit>("Left"), Qt::LeftButton);
+        QCOMPARE(pane->Tree()->currentItem(), Row("Left")->Row());
+        QCOMPARE(ExtraColumnPixel("Left"), kBoundColor);
+
+        // A binding made in a dialog shows once the main frame asks for a refresh.
+        QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
+        rect->AddWidgetDynProp("top", "$db.y");
+        rect->AddWidgetDynProp("left", "");
+        pane->RefreshWidget();
+        QCOMPARE(ExtraColumnPixel("Top"), kBoundColor);
+        QCOMPARE(ExtraColumnPixel("Left"), kFaceColor);
+        QCOMPARE(edited.count(), 1);
+    }
+
+    void descriptionFollowsTheCurrentRow()
+    {
+        Show(Add<CHmiWidgetRect>("rectangle"));
+        QTest::mouseClick(EditorOf<QLineEdit>("Left"), Qt::LeftButton);
+        QCOMPARE(pane->DescriptionText(), QString("Left position"));
+        QTest::mouseClick(EditorOf<QCheckBox>("Visible"), Qt::LeftButton);
+        QCOMPARE(pane->DescriptionText(), QString("Is widget visible"));
+        QTest::mouseClick(EditorOf<QLineEdit>("Width"), Qt::LeftButton);
+        QTest::keyClick(EditorOf<QLineEdit>("Width"), Qt::Key_Tab); // focus moves on to the Height row
+        QCOMPARE(pane->DescriptionText(), QString("Height"));
+    }
+
+    void renamingGoesThroughTheDocumentsNameList()
+    {
+        auto* rect = Add<CHmiWidgetRect>("rectangle");
+        const std::string oldName = rect->GetWidgetName();
+        Show(rect);
+        names.log.clear();
+
+        // Take the name the document would give the next rectangle: the document must skip it.
+        const std::string taken = "rectangle" + std::to_string(CTamloDoc::WidgetNameCounter());
+        Type(EditorOf<QLineEdit>("Name"), QString::fromStdString(taken));
+        QCOMPARE(rect->GetWidgetName(), taken);
+        QCOMPARE(names.log, (std::vector<std::string>{"remove " + oldName, "add " + taken + " selected"}));
+        QVERIFY(doc->HasWidgetName(taken));
+        QVERIFY(!doc->HasWidgetName(oldName));
+        QVERIFY(doc->IsModified());
+
+        auto* next = Add<CHmiWidgetRect>("rectangle");
+        QVERIFY(next->GetWidgetName() != taken);
+    }
+
+    void geometryEditsChangeTheRectangle_data()
+    {
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("rect");
+        QTest::addColumn<QString>("width");
+        QTest::newRow("left moves") << "Left" << "30" << "30,10,70,60" << "40";
+        QTest::newRow("top moves") << "Top" << "-5" << "10,-5,50,45" << "40";
+        QTest::newRow("right resizes") << "Right" << "80" << "10,10,80,60" << "70";
+        QTest::newRow("bottom resizes") << "Bottom" << "90" << "10,10,50,90" << "40";
+        QTest::newRow("width resizes") << "Width" << "5" << "10,10,15,60" << "5";
+        QTest::newRow("height resizes") << "Height" << "7" << "10,10,50,17" << "40";
+        QTest::newRow("negative width kept") << "Width" << "-20" << "10,10,-10,60" << "-20";
+        QTest::newRow("right on left refused") << "Right" << "10" << "10,10,50,60" << "40";
+        QTest::newRow("bottom above top refused") << "Bottom" << "3" << "10,10,50,60" << "40";
+        QTest::newRow("text read as number") << "Left" << "12px" << "12,10,52,60" << "40";
+    }
+
+    void geometryEditsChangeTheRectangle()
+    {
+        QFETCH(QString, caption);
+        QFETCH(QString, typed);
+        auto* rect = Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60});
+        Show(rect);
         QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
         QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
 
-        QLineEdit* left = EditorOf<QLineEdit>("Left");
-        QTest::keyClick(left, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(left, "30");
+        QLineEdit* edit = EditorOf<QLineEdit>(caption.toUtf8().constData());
+        QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(edit, typed);
         QCOMPARE(changed.count(), 0); // typing alone commits nothing
-        QTest::keyClick(left, Qt::Key_Return);
+        QTest::keyClick(edit, Qt::Key_Return);
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.first().first().value<COptionTreeItem*>(), static_cast<COptionTreeItem*>(Row("Left")));
+        QCOMPARE(changed.first().first().value<COptionTreeItem*>(),
+                 static_cast<COptionTreeItem*>(pane->FindItem(caption.toStdString())));
         QCOMPARE(edited.count(), 1);
-        QCOMPARE(edited.first().first().value<CHmiWidget*>(), static_cast<CHmiWidget*>(rect.get()));
-        QCOMPARE(rect->GetWidgetRect(), (HmiRect{30, 10, 70, 50}));
-        QCOMPARE(EditorOf<QLineEdit>("Width")->text(), QString("40"));
-        QCOMPARE(EditorOf<QLineEdit>("Right")->text(), QString("70"));
 
-        QTest::keyClick(left, Qt::Key_Return);
+        QTEST(RectText(rect->GetWidgetRect()), "rect");
+        // Every row shows the widget again: derived rows follow, refused values are put back.
+        QTEST(EditorOf<QLineEdit>("Width")->text(), "width");
+        QCOMPARE(EditorOf<QLineEdit>("Right")->text(), QString::number(rect->GetWidgetRect().right));
+        QCOMPARE(EditorOf<QLineEdit>("Bottom")->text(), QString::number(rect->GetWidgetRect().bottom));
+
+        QTest::keyClick(edit, Qt::Key_Return);
         QCOMPARE(changed.count(), 1); // an unchanged text is no edit
-
-        // A right edge that is not beyond the left one is refused and the row shows the old value.
-        Type(EditorOf<QLineEdit>("Right"), "30");
-        QCOMPARE(rect->GetWidgetRect(), (HmiRect{30, 10, 70, 50}));
-        QCOMPARE(EditorOf<QLineEdit>("Right")->text(), QString("70"));
     }
 
-    void checkBoxesColoursAndCombosCommitTheUsersChoice()
+    void checkBoxesCombosAndColoursCommitTheUsersChoice()
     {
-        Show(rect.get());
+        auto* rect = Add<CHmiWidgetRect>("rectangle");
+        Show(rect);
         QCheckBox* visible = EditorOf<QCheckBox>("Visible");
         QTest::mouseClick(visible, Qt::LeftButton);
         QCOMPARE(rect->m_bVisible, std::uint8_t(0));
-        QVERIFY(!visible->isChecked());
+        QTest::mouseClick(visible, Qt::LeftButton);
+        QCOMPARE(rect->m_bVisible, std::uint8_t(1));
 
         QColor offered;
         pane->SetColorChooser([&](const QColor& initial, QWidget*) {
@@ -184,62 +301,52 @@ private slots:
         QCOMPARE(changed.count(), 0); // a cancelled dialog changes nothing
         QCOMPARE(rect->m_fillColor, 0x00FF8000u);
 
-        CHmiWidgetLine line;
-        Show(&line);
-        QComboBox* style = EditorOf<QComboBox>("style", "Line");
-        QVERIFY(style);
-        QCOMPARE(style->currentText(), QString("Solid"));
-        style->setFocus();
-        QTest::keyClick(style, Qt::Key_End);
-        QCOMPARE(style->currentText(), QString("Dash"));
-        QCOMPARE(Row("style")->GetCurSel(), 2);
-        QCOMPARE(line.m_nStyle, 3);
+        // The alignment's codes start at 1.
+        auto* text = Add<CHmiWidgetText>("text");
+        Show(text);
+        QComboBox* align = EditorOf<QComboBox>("align");
+        QCOMPARE(align->currentText(), QString("Align left"));
+        align->setFocus();
+        QTest::keyClick(align, Qt::Key_End);
+        QCOMPARE(align->currentText(), QString("Align center"));
+        QCOMPARE(text->m_nAlign, 3);
         QCOMPARE(changed.count(), 1);
     }
 
-    void valuesSetByTheProgramAreNotReportedAsEdits()
+    void textCrossesThePaneAsGb2312()
     {
-        CHmiWidgetLine line;
-        Show(&line);
+        auto* text = Add<CHmiWidgetText>("text");
+        text->SetWidgetName(kGbTest);
+        Show(text);
         QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
+        QCOMPARE(EditorOf<QLineEdit>("Name")->text(), QString::fromUtf8("测试"));
 
-        Row("Left")->SetEditText("99");
-        Row("Visible")->SetCheck(false);
-        Row("color")->SetColor(0x00123456);
-        Row("Button Down")->SetStaticText("a = 1;");
-        CPropertyPaneItem* style = Row("style");
-        style->SetCurSel(1);
-        line.UpdateTreeByWidgetProp();
+        // Text the panel cannot show is refused and the row shows the widget's text again.
+        QLineEdit* edit = EditorOf<QLineEdit>("text");
+        TypeUnicode(edit, QString::fromUtf8("t\u00e9st \u2603"));
         QCOMPARE(changed.count(), 0);
+        QCOMPARE(text->m_strText, std::string("text"));
+        QCOMPARE(edit->text(), QString("text"));
+        QVERIFY(pane->DescriptionText().contains("GB2312"));
 
-        QCOMPARE(EditorOf<QLabel>("Button Down")->text(), QString("a = 1;"));
-        // Refreshing from the widget shows its own values again.
-        QVERIFY(EditorOf<QCheckBox>("Visible")->isChecked());
-        QCOMPARE(EditorOf<QLineEdit>("Left")->text(), QString::number(line.GetWidgetRect().left));
-        QCOMPARE(style->GetCurSel(), 0);
-        style->SetCurSel(3);
-        QCOMPARE(style->GetCurSel(), -1);
-        QCOMPARE(EditorOf<QComboBox>("style")->currentIndex(), -1);
-        style->SetCurSel(-7);
-        QCOMPARE(style->GetCurSel(), -1);
+        TypeUnicode(edit, QString::fromUtf8("泵1"));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(text->m_strText, kGbPump + "1");
 
-        // A combo filled by the program selects nothing until told to.
-        auto* root = pane->CreateNewRootItem("Extra", "");
-        COptionTreeItem* combo = pane->CreateNewItem(OptionItemKind::Combo, root, "Choice", "");
-        combo->AddString("One");
-        combo->AddString("Two");
-        QCOMPARE(combo->GetCurSel(), -1);
-        QCOMPARE(EditorOf<QComboBox>("Choice")->currentIndex(), -1);
-        QCOMPARE(changed.count(), 0);
+        // Passing through a row without changing it is no edit.
+        QTest::mouseClick(EditorOf<QLineEdit>("Name"), Qt::LeftButton);
+        QTest::mouseClick(edit, Qt::LeftButton);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(text->GetWidgetName(), kGbTest);
     }
 
-    void buttonsRequestTheirDialogsForTheirRow()
+    void rowButtonsAskForTheirDialogs()
     {
-        rect->AddWidgetDynProp("left", "$a.b");
-        Show(rect.get());
+        auto* button = Add<CHmiWidgetButton>("button");
+        Show(button);
         auto* root = pane->CreateNewRootItem("Extra", "");
+        root->Expand();
         pane->CreateNewItem(OptionItemKind::File, root, "Picture", "");
-        pane->CreateNewItem(OptionItemKind::Variable, root, "Tag", "");
         pane->CreateNewItem(OptionItemKind::Font, root, "Face", "")->SetStaticText("Serif, 12");
         QCoreApplication::processEvents();
 
@@ -250,70 +357,88 @@ private slots:
         } cases[] = {
             {"Left", &CPropertyPane::dynPropEditRequested, &CPropertyPaneItem::BindButton},
             {"Button Down", &CPropertyPane::eventEditRequested, &CPropertyPaneItem::BrowseButton},
+            {"Var Name", &CPropertyPane::selectItemRequested, &CPropertyPaneItem::BrowseButton},
             {"Picture", &CPropertyPane::fileRequested, &CPropertyPaneItem::BrowseButton},
-            {"Tag", &CPropertyPane::selectItemRequested, &CPropertyPaneItem::BrowseButton},
             {"Face", &CPropertyPane::fontRequested, &CPropertyPaneItem::BrowseButton},
         };
+        QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
         for (const auto& c : cases) {
             QSignalSpy requested(pane.get(), c.signal);
-            QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
             CPropertyPaneItem* item = Row(c.caption);
-            QToolButton* button = (item->*c.button)();
-            QVERIFY2(button, c.caption);
-            QTest::mouseClick(button, Qt::LeftButton);
+            QToolButton* rowButton = (item->*c.button)();
+            QVERIFY2(rowButton, c.caption);
+            QTest::mouseClick(rowButton, Qt::LeftButton);
             QVERIFY2(requested.count() == 1, c.caption);
             QCOMPARE(requested.first().first().value<COptionTreeItem*>(), static_cast<COptionTreeItem*>(item));
-            QCOMPARE(changed.count(), 0);
         }
-        QCOMPARE(EditorOf<QLabel>("Face")->text(), QString("Serif, 12"));
+        QCOMPARE(changed.count(), 0); // a button only asks; nothing is changed yet
 
-        // A file row's text is committed like any edit.
-        QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
-        Type(EditorOf<QLineEdit>("Picture"), "a.bmp");
+        // The variable chooser answered: the main frame puts the name in the row and commits it.
+        connect(pane.get(), &CPropertyPane::selectItemRequested, pane.get(), [this](COptionTreeItem* item) {
+            item->SetEditText("$rtdb.pump1");
+            pane->CommitItem(item);
+        });
+        QTest::mouseClick(Row("Var Name")->BrowseButton(), Qt::LeftButton);
+        QCOMPARE(button->m_strVarName, std::string("$rtdb.pump1"));
+        QCOMPARE(EditorOf<QLineEdit>("Var Name")->text(), QString("$rtdb.pump1"));
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(Row("Picture")->GetEditText(), std::string("a.bmp"));
+
+        // A row of a pane that has since been rebuilt is no longer applied.
+        COptionTreeItem* stale = Row("Var Name");
+        Show(button);
+        pane->CommitItem(stale);
+        QCOMPARE(changed.count(), 1);
     }
 
-    void gb2312TextCrossesThePaneUnchanged()
+    void valuesSetByTheProgramAreNotReportedAsEdits()
     {
-        rect->SetWidgetName(kGbTest);
-        Show(rect.get());
-        QLineEdit* name = EditorOf<QLineEdit>("Name");
-        QCOMPARE(name->text(), QString::fromUtf8("测试"));
-
-        Type(EditorOf<QLineEdit>("Left"), "20");
-        QCOMPARE(Row("Name")->GetEditText(), kGbTest);
-        QCOMPARE(rect->GetWidgetName(), kGbTest);
-
-        Type(name, QString::fromUtf8("泵1"));
-        QCOMPARE(rect->GetWidgetName(), kGbPump + "1");
-        QCOMPARE(name->text(), QString::fromUtf8("泵1"));
-    }
-
-    void clearingEmptiesThePaneAndDropsTheWidget()
-    {
-        Show(rect.get());
-        QTest::mouseClick(EditorOf<QLineEdit>("Left"), Qt::LeftButton);
-        QVERIFY(!pane->DescriptionText().isEmpty());
+        auto* text = Add<CHmiWidgetText>("text");
+        Show(text);
         QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
 
-        pane->ShowWidget(nullptr);
-        QCoreApplication::processEvents(); // editors removed with their rows are deleted later
-        QCOMPARE(pane->Tree()->topLevelItemCount(), 0);
-        QCOMPARE(pane->CurrentWidget(), nullptr);
-        QVERIFY(!pane->FindItem("Left"));
-        QVERIFY(pane->DescriptionText().isEmpty());
+        Row("Left")->SetEditText("99");
+        Row("Visible")->SetCheck(false);
+        Row("color")->SetColor(0x00123456);
+        Row("align")->SetCurSel(2);
+        Row("Button Down")->SetStaticText("a = 1;\nb = 2;");
+        QCOMPARE(EditorOf<QLabel>("Button Down")->text(), QString("a = 1; b = 2;"));
+        text->UpdateTreeByWidgetProp();
         QCOMPARE(changed.count(), 0);
 
-        // Rebuilding for another widget leaves no rows of the first one behind.
-        CHmiWidgetLine line;
-        Show(rect.get());
-        Show(&line);
-        QCOMPARE(pane->Tree()->topLevelItemCount(), 3);
-        QVERIFY(!pane->FindItem("fillcolor"));
+        // The refresh shows the widget's own values again.
+        QCOMPARE(EditorOf<QLineEdit>("Left")->text(), QString("10"));
+        QVERIFY(EditorOf<QCheckBox>("Visible")->isChecked());
+        QCOMPARE(Row("align")->GetCurSel(), 0);
+        Row("align")->SetCurSel(3);
+        QCOMPARE(EditorOf<QComboBox>("align")->currentIndex(), -1); // beyond the list: no selection
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void clearingWhileAnEditorHasFocusIsSafe()
+    {
+        auto* rect = Add<CHmiWidgetRect>("rectangle");
+        Show(rect);
+        QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
+        QLineEdit* left = EditorOf<QLineEdit>("Left");
+        QTest::mouseClick(left, Qt::LeftButton);
+        QTest::keyClicks(left, "77"); // typed but not committed
+
+        pane->Clear();
+        QCoreApplication::processEvents(); // the editors of removed rows are deleted later
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(pane->Tree()->topLevelItemCount(), 0);
+        QCOMPARE(pane->CurrentWidget(), nullptr);
+        QVERIFY(pane->DescriptionText().isEmpty());
+        QCOMPARE(RectText(rect->GetWidgetRect()), QString("10,10,50,50"));
+
+        // A main frame that rebuilds the pane whenever the widget was edited.
+        connect(pane.get(), &CPropertyPane::widgetEdited, pane.get(),
+                [this](CHmiWidget* widget) { pane->ShowWidget(widget); });
+        Show(rect);
         Type(EditorOf<QLineEdit>("Top"), "0");
-        QCOMPARE(line.GetWidgetRect().top, 0);
-        QCOMPARE(rect->GetWidgetRect(), (HmiRect{10, 10, 50, 50}));
+        QCoreApplication::processEvents();
+        QCOMPARE(RectText(rect->GetWidgetRect()), QString("10,0,50,40"));
+        QCOMPARE(EditorOf<QLineEdit>("Bottom")->text(), QString("40"));
     }
 };
 
