@@ -1,5 +1,7 @@
 #include "canvasselection.h"
 
+#include "canvasgeometry.h"
+
 #include "widgets/core/hmiview.h"
 #include "widgets/core/tamlodoc.h"
 
@@ -14,7 +16,7 @@ bool CCanvasSelection::IsSelected(const CHmiWidget* widget) const
 
 void CCanvasSelection::InvalidateWidget(const CHmiWidget& widget) const
 {
-    m_view.InvalidateDocRect(widget.GetWidgetRect().Normalized());
+    m_view.InvalidateDocRect(CanvasRect(widget).Normalized());
 }
 
 void CCanvasSelection::Select(CHmiWidget* widget, bool add)

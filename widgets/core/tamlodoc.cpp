@@ -118,8 +118,18 @@ void CTamloDoc::RecordUndo(UndoOperation operation, CHmiWidget* widget)
         if (auto* control = dynamic_cast<CHmiCtrlWidget*>(widget))
             control->Hide();
         widget->Invalidate();
-        m_bModified = true;
     }
+}
+
+void CTamloDoc::EndUndoStep()
+{
+    m_bUndoStepOpen = false;
+    // A click records its widget too, with the rectangle unchanged: that alone is no edit.
+    const bool changed = std::any_of(m_undoStep.begin(), m_undoStep.end(), [](const HmiUndoEntry& entry) {
+        return entry.operation != UndoOperation::Changed || entry.rectBefore != entry.widget->GetWidgetRect();
+    });
+    if (changed)
+        m_bModified = true;
 }
 
 bool CTamloDoc::IsWidgetDeleted(const CHmiWidget* widget) const

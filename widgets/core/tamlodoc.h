@@ -81,7 +81,8 @@ public:
     // bring it back, but it is neither drawn, hit nor saved.
     void BeginUndoStep();
     void RecordUndo(UndoOperation operation, CHmiWidget* widget);
-    void EndUndoStep() { m_bUndoStepOpen = false; }
+    // Closes the step; a step that changed anything marks the document modified.
+    void EndUndoStep();
     // Puts back the rectangles the step changed, brings back the widgets it deleted and removes
     // the widgets it added; then the step is empty, so a second Undo does nothing.
     void Undo();

@@ -1,0 +1,114 @@
+#include "childframe.h"
+
+#include "editorprompts.h"
+#include "pathtext.h"
+#include "tamloview.h"
+
+#include "widgets/core/tamlodoc.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QScrollArea>
+
+namespace {
+
+// New windows are called Tamlo1, Tamlo2 and so on until they are saved.
+QString NextUntitledName()
+{
+    static int count = 0;
+    return QStringLiteral("Tamlo%1").arg(++count);
+}
+
+} // namespace
+
+CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, QWidget* parent)
+    : QMdiSubWindow(parent)
+    , m_document(std::move(document))
+    , m_prompts(prompts)
+    , m_view(new CTamloView(*m_document))
+{
+    if (m_document->GetPathName().empty())
+        m_untitledName = NextUntitledName();
+    auto* scroller = new QScrollArea;
+    scroller->setWidget(m_view);
+    scroller->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    scroller->setBackgroundRole(QPalette::Dark);
+    setWidget(scroller);
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_view->Selection().Select(nullptr, false);
+    RefreshTitle();
+}
+
+// The view goes before the document it shows.
+CChildFrame::~CChildFrame()
+{
+    delete widget();
+}
+
+QString CChildFrame::FilePath() const
+{
+    return ToQtPath(m_document->GetPathName());
+}
+
+QString CChildFrame::DisplayName() const
+{
+    return m_untitledName.isEmpty() ? QFileInfo(FilePath()).fileName() : m_untitledName;
+}
+
+void CChildFrame::RefreshTitle()
+{
+    setWindowTitle(DisplayName() + QStringLiteral("[*]"));
+    setWindowModified(m_document->IsModified());
+}
+
+bool CChildFrame::Save()
+{
+    return m_untitledName.isEmpty() ? SaveTo(FilePath()) : SaveAs();
+}
+
+bool CChildFrame::SaveAs()
+{
+    const QString suggested = m_untitledName.isEmpty() ? FilePath() : m_untitledName + QStringLiteral(".xml");
+    const QString path = m_prompts.AskSaveFileName(this, suggested);
+    return !path.isEmpty() && SaveTo(path);
+}
+
+bool CChildFrame::SaveTo(const QString& path)
+{
+    // Taking the focus away from the property pane commits an edit the user is still typing.
+    if (QWidget* main = window())
+        main->setFocus(Qt::OtherFocusReason);
+    const FileResult result = m_document->Save(ToModelPath(path));
+    if (!result) {
+        m_prompts.ShowError(this, QStringLiteral("Cannot save %1:\n%2")
+                                      .arg(QDir::toNativeSeparators(path), QString::fromStdString(result.error)));
+        return false;
+    }
+    m_untitledName.clear();
+    RefreshTitle();
+    emit documentSaved(path);
+    return true;
+}
+
+bool CChildFrame::MaybeSave()
+{
+    if (!m_document->IsModified())
+        return true;
+    switch (m_prompts.AskSaveChanges(this, DisplayName())) {
+    case CEditorPrompts::SaveAnswer::Save:
+        return Save();
+    case CEditorPrompts::SaveAnswer::Discard:
+        return true;
+    case CEditorPrompts::SaveAnswer::Cancel:
+        break;
+    }
+    return false;
+}
+
+void CChildFrame::closeEvent(QCloseEvent* event)
+{
+    if (!MaybeSave())
+        return event->ignore();
+    QMdiSubWindow::closeEvent(event);
+}

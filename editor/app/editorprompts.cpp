@@ -1,0 +1,49 @@
+#include "editorprompts.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include <limits>
+
+namespace {
+
+const QString kWindowFileFilter = QStringLiteral("HMI window files (*.xml);;All files (*)");
+
+} // namespace
+
+CEditorPrompts::SaveAnswer CEditorPrompts::AskSaveChanges(QWidget* parent, const QString& documentName)
+{
+    const auto answer =
+        QMessageBox::question(parent, QStringLiteral("Kelvo HMI Editor"),
+                              QStringLiteral("Save changes to %1?").arg(documentName),
+                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save)
+        return SaveAnswer::Save;
+    return answer == QMessageBox::Discard ? SaveAnswer::Discard : SaveAnswer::Cancel;
+}
+
+QString CEditorPrompts::AskSaveFileName(QWidget* parent, const QString& suggestedPath)
+{
+    return QFileDialog::getSaveFileName(parent, QStringLiteral("Save As"), suggestedPath, kWindowFileFilter);
+}
+
+QString CEditorPrompts::AskOpenFileName(QWidget* parent, const QString& folder)
+{
+    return QFileDialog::getOpenFileName(parent, QStringLiteral("Open"), folder, kWindowFileFilter);
+}
+
+std::optional<int> CEditorPrompts::AskZoomPercent(QWidget* parent)
+{
+    // Any whole number is taken; one of zero or less leaves the widgets as they are.
+    bool ok = false;
+    const int percent = QInputDialog::getInt(parent, QStringLiteral("Metafile Holistic Zoom"),
+                                             QStringLiteral("Scale (%):"), 100, std::numeric_limits<int>::min(),
+                                             std::numeric_limits<int>::max(), 1, &ok);
+    return ok ? std::optional<int>(percent) : std::nullopt;
+}
+
+void CEditorPrompts::ShowError(QWidget* parent, const QString& text)
+{
+    QMessageBox::warning(parent, QStringLiteral("Kelvo HMI Editor"), text);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+// Every question the editor asks the user, in one place, so that tests can answer them
+// without modal dialogs. The editor uses the standard dialogs; tests install their own.
+class CEditorPrompts {
+public:
+    enum class SaveAnswer { Save, Discard, Cancel };
+
+    virtual ~CEditorPrompts() = default;
+
+    virtual SaveAnswer AskSaveChanges(QWidget* parent, const QString& documentName);
+    // Empty when the user cancels.
+    virtual QString AskSaveFileName(QWidget* parent, const QString& suggestedPath);
+    virtual QString AskOpenFileName(QWidget* parent, const QString& folder);
+    // The scale of the zoom command in percent; nothing when the user cancels.
+    virtual std::optional<int> AskZoomPercent(QWidget* parent);
+    virtual void ShowError(QWidget* parent, const QString& text);
+};

@@ -1,0 +1,148 @@
+#include "formatactions.h"
+
+#include "editorprompts.h"
+#include "tamloview.h"
+
+#include "editor/model/formatcommands.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <array>
+
+namespace {
+
+struct AlignItem {
+    const char* objectName;
+    const char* label;
+    const char* statusText;
+    AlignCommand command;
+};
+
+constexpr std::array<AlignItem, 9> kAlignItems = {{
+    {"actionAlignLeft", "Align Left", "Set Align Left\nAlign Left", AlignCommand::Left},
+    {"actionCenterHorizontal", "Center Horizontal", "Set Align Horizontal\nAlign Horizontal",
+     AlignCommand::CenterHorizontal},
+    {"actionAlignRight", "Align Right", "Set Align Right\nAlign Right", AlignCommand::Right},
+    {"actionAlignTop", "Align Top", "Set Align Top\nAlign Top", AlignCommand::Top},
+    {"actionCenterVertical", "Center Vertical", "Set Center Vertical\nCenter Vertical",
+     AlignCommand::CenterVertical},
+    {"actionAlignBottom", "Align Bottom", "Set Align Bottom\nAlign Bottom", AlignCommand::Bottom},
+    {"actionSameWidth", "Make Same Width", "Make Same Width\nSame Width", AlignCommand::SameWidth},
+    {"actionSameHeight", "Make Same Height", "Make Same Height\nSame Height", AlignCommand::SameHeight},
+    {"actionSameSize", "Make Same Size", "Make Same Size\nSame Size", AlignCommand::SameSize},
+}};
+
+constexpr int kHorizontalAlignCount = 3;
+constexpr int kFirstSizeItem = 6;
+
+} // namespace
+
+CFormatActions::CFormatActions(CEditorPrompts& prompts, ActiveView activeView, QObject* parent)
+    : QObject(parent)
+    , m_prompts(prompts)
+    , m_activeView(std::move(activeView))
+{
+    for (const AlignItem& item : kAlignItems) {
+        const AlignCommand command = item.command;
+        m_alignActions.push_back(AddAction(item.objectName, item.label, item.statusText, [command](CTamloView& view) {
+            AlignWidgets(view.Document(), view.Selection().Widgets(), command);
+        }));
+    }
+    const auto spaceHorizontally = [](CTamloView& view) {
+        SpaceWidgets(view.Document(), view.Selection().Widgets(), SpacingDirection::LeftToRight);
+    };
+    const auto spaceVertically = [](CTamloView& view) {
+        SpaceWidgets(view.Document(), view.Selection().Widgets(), SpacingDirection::TopToBottom);
+    };
+    // The context menu labels the two spacing commands the other way round.
+    m_spaceHorizontal =
+        AddAction("actionSpaceHorizontal", "Space Down", "Set Space Down\nSpace Down", spaceHorizontally);
+    m_spaceVertical =
+        AddAction("actionSpaceVertical", "Space Across", "Set Space Across\nSpace Across", spaceVertically);
+    m_contextSpaceHorizontal =
+        AddAction("contextSpaceHorizontal", "Space Across", "Set Space Down\nSpace Down", spaceHorizontally);
+    m_contextSpaceVertical =
+        AddAction("contextSpaceVertical", "Space Down", "Set Space Across\nSpace Across", spaceVertically);
+
+    m_lock = AddAction("actionLockControl", "Lock Control", "Lock Controls\nLock Controls",
+                       [](CTamloView& view) { view.SetLocked(!view.IsLocked()); });
+    m_lock->setCheckable(true);
+    m_moveToTop = AddAction("actionMoveToTop", "Move to Top", "Move to Top\nMove to Top", [](CTamloView& view) {
+        MoveWidgetToTop(view.Document(), view.Selection().Widgets());
+    });
+    m_moveToBottom =
+        AddAction("actionMoveToBottom", "Move to Bottom", "Move to Bottom\nMove to Bottom", [](CTamloView& view) {
+            MoveWidgetToBottom(view.Document(), view.Selection().Widgets());
+        });
+    m_zoom = AddAction("actionZoom", "Zoom...", "Zoom Widget of  Selected", [this](CTamloView& view) {
+        if (const std::optional<int> percent = m_prompts.AskZoomPercent(&view))
+            ZoomWidgets(view.Document(), view.Selection().Widgets(), *percent);
+    });
+    SyncWithActiveView();
+}
+
+QAction* CFormatActions::AddAction(const char* objectName, const char* label, const char* statusText,
+                                   std::function<void(CTamloView&)> command)
+{
+    auto* action = new QAction(QString::fromLatin1(label), this);
+    action->setObjectName(QString::fromLatin1(objectName));
+    // The status text is "prompt\ntip": the status bar shows the prompt, the tool tip the rest.
+    const QStringList parts = QString::fromLatin1(statusText).split(QLatin1Char('\n'));
+    action->setStatusTip(parts.first());
+    action->setToolTip(parts.last());
+    connect(action, &QAction::triggered, this, [this, command = std::move(command)] { Run(command); });
+    return action;
+}
+
+void CFormatActions::Run(const std::function<void(CTamloView&)>& command)
+{
+    CTamloView* view = m_activeView();
+    if (!view)
+        return;
+    command(*view);
+    SyncWithActiveView();
+    emit documentEdited();
+}
+
+void CFormatActions::SyncWithActiveView()
+{
+    const CTamloView* view = m_activeView();
+    for (QAction* action : findChildren<QAction*>())
+        action->setEnabled(view != nullptr);
+    m_lock->setChecked(view && view->IsLocked());
+}
+
+void CFormatActions::AddCommonItems(QMenu& menu, QAction* firstSpacing, QAction* secondSpacing)
+{
+    QMenu* align = menu.addMenu(QStringLiteral("Align(&A)"));
+    for (int i = 0; i < kFirstSizeItem; ++i) {
+        if (i == kHorizontalAlignCount)
+            align->addSeparator();
+        align->addAction(m_alignActions[i]);
+    }
+    QMenu* sameSize = menu.addMenu(QStringLiteral("Make Same Size"));
+    for (std::size_t i = kFirstSizeItem; i < m_alignActions.size(); ++i)
+        sameSize->addAction(m_alignActions[i]);
+    menu.addAction(firstSpacing);
+    menu.addAction(secondSpacing);
+    menu.addAction(m_lock);
+    QMenu* sequence = menu.addMenu(QStringLiteral("Sequence"));
+    sequence->addAction(m_moveToTop);
+    sequence->addAction(m_moveToBottom);
+}
+
+QMenu* CFormatActions::CreateFormatMenu(QWidget* parent)
+{
+    auto* menu = new QMenu(QStringLiteral("F&ormat"), parent);
+    AddCommonItems(*menu, m_spaceHorizontal, m_spaceVertical);
+    return menu;
+}
+
+QMenu* CFormatActions::CreateContextMenu(QWidget* parent)
+{
+    auto* menu = new QMenu(parent);
+    AddCommonItems(*menu, m_contextSpaceHorizontal, m_contextSpaceVertical);
+    menu->addAction(m_zoom);
+    return menu;
+}

@@ -1,0 +1,486 @@
+#include "mainframe.h"
+
+#include "childframe.h"
+#include "editorprompts.h"
+#include "formatactions.h"
+#include "pathtext.h"
+#include "tamloview.h"
+#include "toolbox.h"
+#include "widgetnamecombo.h"
+
+#include "editor/model/editcommands.h"
+#include "editor/propertypane/propertypane.h"
+#include "project/projectpath.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDir>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+
+// Widgets on the clipboard travel as the text of a window file.
+const QString kWidgetsMimeType = QStringLiteral("application/x-kelvo-hmi-widgets");
+const QString kGeometryKey = QStringLiteral("MainFrame/geometry");
+const QString kStateKey = QStringLiteral("MainFrame/state");
+
+} // namespace
+
+CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* parent)
+    : QMainWindow(parent)
+    , m_prompts(prompts)
+    , m_settings(settings)
+    , m_recentFiles(settings)
+    , m_mdiArea(new QMdiArea(this))
+{
+    setWindowTitle(QStringLiteral("Kelvo HMI Editor"));
+    m_mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(m_mdiArea);
+    m_formatActions = new CFormatActions(m_prompts, [this] { return ActiveView(); }, this);
+    m_canvasMenu = m_formatActions->CreateContextMenu(this);
+    CreateDocks();
+    CreateActions();
+    CreateMenus();
+    statusBar()->showMessage(QStringLiteral("Ready"));
+
+    connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &CMainFrame::ChildActivated);
+    connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::AfterEdit);
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
+    restoreGeometry(m_settings.value(kGeometryKey).toByteArray());
+    restoreState(m_settings.value(kStateKey).toByteArray());
+    UpdateRecentFileActions();
+    UpdateEditActions();
+}
+
+CMainFrame::~CMainFrame()
+{
+    // The children's documents go before the panes that show their widgets, without questions.
+    qDeleteAll(Children());
+}
+
+void CMainFrame::CreateDocks()
+{
+    m_toolbox = new CToolbox;
+    auto* toolboxDock = new QDockWidget(QStringLiteral("Toolbox"), this);
+    toolboxDock->setObjectName(QStringLiteral("toolboxDock"));
+    toolboxDock->setWidget(m_toolbox);
+    addDockWidget(Qt::LeftDockWidgetArea, toolboxDock);
+
+    // The widget names stand above the property pane, which shows the chosen widget.
+    auto* properties = new QWidget;
+    auto* layout = new QVBoxLayout(properties);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_nameCombo = new CWidgetNameCombo;
+    m_propertyPane = new CPropertyPane;
+    layout->addWidget(m_nameCombo);
+    layout->addWidget(m_propertyPane, 1);
+    auto* propertyDock = new QDockWidget(QStringLiteral("Properties"), this);
+    propertyDock->setObjectName(QStringLiteral("propertyDock"));
+    propertyDock->setWidget(properties);
+    addDockWidget(Qt::RightDockWidgetArea, propertyDock);
+
+    connect(m_nameCombo, &CWidgetNameCombo::widgetNameChosen, this, &CMainFrame::SelectWidgetByName);
+    connect(m_propertyPane, &CPropertyPane::widgetEdited, this, [this](CHmiWidget* widget) {
+        if (CTamloDoc* document = widget->m_pDocument)
+            document->SetModifiedFlag();
+        if (CTamloView* view = ActiveView())
+            view->InvalidateView();
+        AfterEdit();
+    });
+}
+
+QAction* CMainFrame::AddAction(QMenu* menu, const QString& text, const QString& statusText,
+                               void (CMainFrame::*slot)())
+{
+    auto* action = menu->addAction(text);
+    action->setStatusTip(statusText);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+void CMainFrame::CreateActions()
+{
+    // The edit commands act on the canvas; elsewhere (the property pane) their keys edit text.
+    const auto canvasShortcut = [this](QAction* action, QKeySequence::StandardKey key) {
+        action->setShortcuts(key);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        m_mdiArea->addAction(action);
+    };
+    m_undoAction = new QAction(QStringLiteral("Undo(&U)\tCtrl+Z"), this);
+    m_undoAction->setStatusTip(QStringLiteral("Undo the last action"));
+    canvasShortcut(m_undoAction, QKeySequence::Undo);
+    connect(m_undoAction, &QAction::triggered, this, &CMainFrame::EditUndo);
+    m_cutAction = new QAction(QStringLiteral("Cu&t"), this);
+    m_cutAction->setStatusTip(QStringLiteral("Cut the selection and put it on the Clipboard"));
+    canvasShortcut(m_cutAction, QKeySequence::Cut);
+    connect(m_cutAction, &QAction::triggered, this, &CMainFrame::EditCut);
+    m_copyAction = new QAction(QStringLiteral("&Copy"), this);
+    m_copyAction->setStatusTip(QStringLiteral("Copy the selection and put it on the Clipboard"));
+    canvasShortcut(m_copyAction, QKeySequence::Copy);
+    connect(m_copyAction, &QAction::triggered, this, &CMainFrame::EditCopy);
+    m_pasteAction = new QAction(QStringLiteral("&Paste"), this);
+    m_pasteAction->setStatusTip(QStringLiteral("Insert Clipboard contents"));
+    canvasShortcut(m_pasteAction, QKeySequence::Paste);
+    connect(m_pasteAction, &QAction::triggered, this, &CMainFrame::EditPaste);
+    m_deleteAction = new QAction(QStringLiteral("&Delete"), this);
+    m_deleteAction->setStatusTip(QStringLiteral("Delete the selection"));
+    canvasShortcut(m_deleteAction, QKeySequence::Delete);
+    connect(m_deleteAction, &QAction::triggered, this, &CMainFrame::EditDelete);
+}
+
+void CMainFrame::CreateMenus()
+{
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    m_newAction = AddAction(file, QStringLiteral("&New"), QStringLiteral("Create a new document"),
+                            &CMainFrame::FileNew);
+    m_newAction->setShortcut(QKeySequence::New);
+    m_openAction = AddAction(file, QStringLiteral("&Open..."), QStringLiteral("Open an existing document"),
+                             &CMainFrame::FileOpen);
+    m_openAction->setShortcut(QKeySequence::Open);
+    m_saveAction = AddAction(file, QStringLiteral("&Save"), QStringLiteral("Save the active document"),
+                             &CMainFrame::FileSave);
+    m_saveAction->setShortcut(QKeySequence::Save);
+    m_saveAsAction = AddAction(file, QStringLiteral("Save &As..."),
+                               QStringLiteral("Save the active document with a new name"), &CMainFrame::FileSaveAs);
+    m_saveAsAction->setShortcut(QKeySequence::SaveAs);
+    m_recentSeparator = file->addSeparator();
+    for (QAction*& recent : m_recentFileActions) {
+        recent = file->addAction(QString());
+        recent->setStatusTip(QStringLiteral("Open this document"));
+        connect(recent, &QAction::triggered, this, [this, recent] { OpenDocument(recent->data().toString()); });
+    }
+    file->addSeparator();
+    m_exitAction = file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
+    m_exitAction->setStatusTip(QStringLiteral("Quit the application"));
+    m_exitAction->setShortcut(QKeySequence::Quit);
+
+    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    edit->addAction(m_undoAction);
+    edit->addSeparator();
+    edit->addAction(m_cutAction);
+    edit->addAction(m_copyAction);
+    edit->addAction(m_pasteAction);
+    edit->addAction(m_deleteAction);
+
+    QToolBar* standard = addToolBar(QStringLiteral("Standard"));
+    standard->setObjectName(QStringLiteral("standardToolBar"));
+    const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
+    m_newAction->setIcon(icon(QStyle::SP_FileIcon));
+    m_openAction->setIcon(icon(QStyle::SP_DialogOpenButton));
+    m_saveAction->setIcon(icon(QStyle::SP_DialogSaveButton));
+    m_undoAction->setIcon(icon(QStyle::SP_ArrowBack));
+    m_deleteAction->setIcon(icon(QStyle::SP_TrashIcon));
+    standard->addActions({m_newAction, m_openAction, m_saveAction});
+    standard->addSeparator();
+    standard->addActions({m_undoAction, m_deleteAction});
+
+    QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
+    view->addAction(standard->toggleViewAction());
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+        view->addAction(dock->toggleViewAction());
+    QAction* statusBarToggle = view->addAction(QStringLiteral("&Status Bar"));
+    statusBarToggle->setCheckable(true);
+    statusBarToggle->setChecked(true);
+    statusBarToggle->setStatusTip(QStringLiteral("Show or hide the status bar"));
+    connect(statusBarToggle, &QAction::toggled, statusBar(), &QStatusBar::setVisible);
+
+    menuBar()->addMenu(m_formatActions->CreateFormatMenu(this));
+
+    m_windowMenu = menuBar()->addMenu(QStringLiteral("&Window"));
+    connect(m_windowMenu, &QMenu::aboutToShow, this, &CMainFrame::UpdateWindowMenu);
+    UpdateWindowMenu();
+}
+
+void CMainFrame::UpdateWindowMenu()
+{
+    m_windowMenu->clear();
+    QAction* cascade = m_windowMenu->addAction(QStringLiteral("&Cascade"), m_mdiArea, &QMdiArea::cascadeSubWindows);
+    cascade->setStatusTip(QStringLiteral("Arrange windows so they overlap"));
+    QAction* tile = m_windowMenu->addAction(QStringLiteral("&Tile"), m_mdiArea, &QMdiArea::tileSubWindows);
+    tile->setStatusTip(QStringLiteral("Arrange windows as non-overlapping tiles"));
+    const QList<CChildFrame*> children = Children();
+    if (!children.isEmpty())
+        m_windowMenu->addSeparator();
+    for (int i = 0; i < children.size(); ++i) {
+        CChildFrame* child = children[i];
+        QAction* entry = m_windowMenu->addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(child->DisplayName()));
+        entry->setCheckable(true);
+        entry->setChecked(child == ActiveChild());
+        entry->setStatusTip(QStringLiteral("Activate this window"));
+        connect(entry, &QAction::triggered, this, [this, child] { m_mdiArea->setActiveSubWindow(child); });
+    }
+}
+
+QList<CChildFrame*> CMainFrame::Children() const
+{
+    QList<CChildFrame*> children;
+    for (QMdiSubWindow* window : m_mdiArea->subWindowList())
+        if (auto* child = qobject_cast<CChildFrame*>(window))
+            children.append(child);
+    return children;
+}
+
+CChildFrame* CMainFrame::ActiveChild() const
+{
+    // The current window stays current while a dialog has the focus.
+    return qobject_cast<CChildFrame*>(m_mdiArea->currentSubWindow());
+}
+
+CTamloView* CMainFrame::ActiveView() const
+{
+    CChildFrame* child = ActiveChild();
+    return child ? &child->View() : nullptr;
+}
+
+CChildFrame* CMainFrame::FindChild(const QString& path) const
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    for (CChildFrame* child : Children())
+        if (!canonical.isEmpty() && QFileInfo(child->FilePath()).canonicalFilePath() == canonical)
+            return child;
+    return nullptr;
+}
+
+CChildFrame* CMainFrame::NewDocument()
+{
+    auto document = std::make_unique<CTamloDoc>();
+    document->OnNewDocument();
+    return AddChild(std::move(document));
+}
+
+CChildFrame* CMainFrame::OpenDocument(const QString& path)
+{
+    if (path.isEmpty())
+        return nullptr;
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    if (CChildFrame* open = FindChild(absolute)) {
+        m_mdiArea->setActiveSubWindow(open);
+        return open;
+    }
+    auto document = std::make_unique<CTamloDoc>();
+    if (const FileResult result = document->Load(ToModelPath(absolute)); !result) {
+        m_prompts.ShowError(this, QStringLiteral("Cannot open %1:\n%2")
+                                      .arg(absolute, QString::fromStdString(result.error)));
+        m_recentFiles.Remove(absolute);
+        UpdateRecentFileActions();
+        return nullptr;
+    }
+    m_recentFiles.Add(absolute);
+    UpdateRecentFileActions();
+    return AddChild(std::move(document));
+}
+
+CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
+{
+    auto* child = new CChildFrame(std::move(document), m_prompts);
+    CTamloView& view = child->View();
+    view.SetContextMenu(m_canvasMenu);
+    connect(&view, &CTamloView::widgetSelected, this, &CMainFrame::ShowSelection);
+    connect(&view, &CTamloView::documentEdited, this, &CMainFrame::AfterEdit);
+    connect(&view, &CTamloView::widgetDestroyed, this, [this](CHmiWidget* widget) {
+        if (m_propertyPane->CurrentWidget() == widget)
+            m_propertyPane->Clear();
+    });
+    connect(child, &CChildFrame::documentSaved, this, [this](const QString& path) {
+        m_recentFiles.Add(QFileInfo(path).absoluteFilePath());
+        UpdateRecentFileActions();
+    });
+    connect(child, &QObject::destroyed, this, [this, child] {
+        if (m_shownChild == child)
+            ChildActivated(nullptr);
+    });
+    m_mdiArea->addSubWindow(child);
+    child->resize(child->sizeHint().boundedTo(m_mdiArea->viewport()->size()));
+    child->show();
+    m_mdiArea->setActiveSubWindow(child);
+    return child;
+}
+
+void CMainFrame::ChildActivated(QMdiSubWindow* window)
+{
+    // Leaving the main window for a dialog deactivates the children but changes nothing here.
+    if (!window && m_mdiArea->currentSubWindow())
+        return;
+    auto* child = qobject_cast<CChildFrame*>(window);
+    if (child == m_shownChild)
+        return;
+    m_shownChild = child;
+    for (CChildFrame* other : Children())
+        other->Document().SetWidgetNameList(other == child ? m_nameCombo : nullptr);
+    m_nameCombo->ShowDocument(child ? &child->Document() : nullptr);
+    m_propertyPane->Clear();
+    if (child) {
+        const std::vector<CHmiWidget*>& selected = child->View().Selection().Widgets();
+        ShowSelection(selected.empty() ? nullptr : selected.back());
+    }
+    m_formatActions->SyncWithActiveView();
+    UpdateEditActions();
+}
+
+void CMainFrame::ShowSelection(CHmiWidget* widget)
+{
+    if (!widget)
+        return;
+    if (m_propertyPane->CurrentWidget() != widget)
+        m_propertyPane->ShowWidget(widget);
+    m_nameCombo->SelectName(widget->GetWidgetName());
+}
+
+void CMainFrame::SelectWidgetByName(const std::string& name)
+{
+    CTamloView* view = ActiveView();
+    if (!view)
+        return;
+    for (const HmiWidgetPtr& widget : view->Document().Widgets()) {
+        if (widget->GetWidgetName() == name && !view->Document().IsWidgetDeleted(widget.get())) {
+            view->Selection().Select(widget.get(), false);
+            return;
+        }
+    }
+}
+
+void CMainFrame::AfterEdit()
+{
+    if (CChildFrame* child = ActiveChild()) {
+        CTamloView& view = child->View();
+        if (view.Selection().IsEmpty())
+            view.Selection().Select(nullptr, false);
+        view.FitToWindow();
+        if (CHmiWidget* shown = m_propertyPane->CurrentWidget())
+            shown->UpdateTreeByWidgetProp();
+        child->RefreshTitle();
+    }
+    m_toolbox->SyncWithCurrentTool();
+    UpdateEditActions();
+}
+
+void CMainFrame::UpdateEditActions()
+{
+    CTamloView* view = ActiveView();
+    const bool hasWidgets = view && !CopyWidgets(view->Selection().Widgets()).empty();
+    m_undoAction->setEnabled(view && view->Document().CanUndo());
+    m_cutAction->setEnabled(hasWidgets);
+    m_copyAction->setEnabled(hasWidgets);
+    m_deleteAction->setEnabled(hasWidgets);
+    const QMimeData* clipboard = QApplication::clipboard()->mimeData();
+    m_pasteAction->setEnabled(view && clipboard && clipboard->hasFormat(kWidgetsMimeType));
+    m_saveAction->setEnabled(view != nullptr);
+    m_saveAsAction->setEnabled(view != nullptr);
+}
+
+void CMainFrame::UpdateRecentFileActions()
+{
+    const QStringList& files = m_recentFiles.Files();
+    for (int i = 0; i < CRecentFileList::kSize; ++i) {
+        QAction* action = m_recentFileActions[i];
+        action->setVisible(i < files.size());
+        if (i < files.size()) {
+            action->setText(QStringLiteral("&%1 %2").arg(i + 1).arg(QDir::toNativeSeparators(files[i])));
+            action->setData(files[i]);
+        }
+    }
+    m_recentSeparator->setVisible(!files.isEmpty());
+}
+
+void CMainFrame::RaiseAndRestore()
+{
+    if (isMinimized())
+        showNormal();
+    raise();
+    activateWindow();
+}
+
+void CMainFrame::closeEvent(QCloseEvent* event)
+{
+    for (CChildFrame* child : Children()) {
+        if (!child->MaybeSave())
+            return event->ignore();
+    }
+    m_settings.setValue(kGeometryKey, saveGeometry());
+    m_settings.setValue(kStateKey, saveState());
+    event->accept();
+}
+
+void CMainFrame::FileNew()
+{
+    NewDocument();
+}
+
+void CMainFrame::FileOpen()
+{
+    OpenDocument(m_prompts.AskOpenFileName(this, ToQtPath(GetProjectPath())));
+}
+
+void CMainFrame::FileSave()
+{
+    if (CChildFrame* child = ActiveChild())
+        child->Save();
+}
+
+void CMainFrame::FileSaveAs()
+{
+    if (CChildFrame* child = ActiveChild())
+        child->SaveAs();
+}
+
+void CMainFrame::EditUndo()
+{
+    CTamloView* view = ActiveView();
+    if (!view || !view->Document().CanUndo())
+        return;
+    view->Document().Undo();
+    m_nameCombo->ShowDocument(&view->Document());
+    view->InvalidateView();
+    AfterEdit();
+}
+
+void CMainFrame::EditCopy()
+{
+    CTamloView* view = ActiveView();
+    const std::string text = view ? CopyWidgets(view->Selection().Widgets()) : std::string();
+    if (text.empty())
+        return;
+    auto* data = new QMimeData;
+    data->setData(kWidgetsMimeType, QByteArray::fromStdString(text));
+    QApplication::clipboard()->setMimeData(data);
+}
+
+void CMainFrame::EditCut()
+{
+    EditCopy();
+    EditDelete();
+}
+
+void CMainFrame::EditPaste()
+{
+    CTamloView* view = ActiveView();
+    const QMimeData* clipboard = QApplication::clipboard()->mimeData();
+    if (!view || !clipboard || !clipboard->hasFormat(kWidgetsMimeType))
+        return;
+    const std::vector<CHmiWidget*> pasted =
+        PasteWidgets(view->Document(), clipboard->data(kWidgetsMimeType).toStdString());
+    for (std::size_t i = 0; i < pasted.size(); ++i)
+        view->Selection().Select(pasted[i], i > 0);
+    view->InvalidateView();
+    AfterEdit();
+}
+
+void CMainFrame::EditDelete()
+{
+    CTamloView* view = ActiveView();
+    if (!view || !DeleteWidgets(view->Document(), view->Selection().Widgets()))
+        return;
+    view->Selection().Select(nullptr, false);
+    AfterEdit();
+}

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "recentfilelist.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class CChildFrame;
+class CEditorPrompts;
+class CFormatActions;
+class CHmiWidget;
+class CPropertyPane;
+class CTamloDoc;
+class CTamloView;
+class CToolbox;
+class CWidgetNameCombo;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QSettings;
+
+// The editor's main window: one child window per open window file in an MDI area, the toolbox
+// and the property pane in docks, the list of widget names, and the menus that act on the
+// active window.
+class CMainFrame : public QMainWindow {
+    Q_OBJECT
+public:
+    CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* parent = nullptr);
+    ~CMainFrame() override;
+
+    CChildFrame* NewDocument();
+    // Opens a window file, or shows it if it is open already. Null when it cannot be read
+    // (the user has been told why).
+    CChildFrame* OpenDocument(const QString& path);
+    CChildFrame* ActiveChild() const;
+    CTamloView* ActiveView() const;
+    QList<CChildFrame*> Children() const;
+
+    CPropertyPane& PropertyPane() const { return *m_propertyPane; }
+    CToolbox& Toolbox() const { return *m_toolbox; }
+    CWidgetNameCombo& NameCombo() const { return *m_nameCombo; }
+    QMdiArea& MdiArea() const { return *m_mdiArea; }
+    const CRecentFileList& RecentFiles() const { return m_recentFiles; }
+
+    // Brings the window to the front after another editor start handed a file over.
+    void RaiseAndRestore();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void CreateActions();
+    void CreateMenus();
+    void CreateDocks();
+    QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
+
+    CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);
+    CChildFrame* FindChild(const QString& path) const;
+    void ChildActivated(QMdiSubWindow* window);
+    void ShowSelection(CHmiWidget* widget);
+    void SelectWidgetByName(const std::string& name);
+    // Brings the panes, the title and the commands up to date after the active window changed.
+    void AfterEdit();
+    void UpdateEditActions();
+    void UpdateRecentFileActions();
+    void UpdateWindowMenu();
+
+    // Commands.
+    void FileNew();
+    void FileOpen();
+    void FileSave();
+    void FileSaveAs();
+    void EditUndo();
+    void EditCut();
+    void EditCopy();
+    void EditPaste();
+    void EditDelete();
+
+    CEditorPrompts& m_prompts;
+    QSettings& m_settings;
+    CRecentFileList m_recentFiles;
+    QMdiArea* m_mdiArea;
+    CToolbox* m_toolbox = nullptr;
+    CPropertyPane* m_propertyPane = nullptr;
+    CWidgetNameCombo* m_nameCombo = nullptr;
+    CFormatActions* m_formatActions = nullptr;
+    CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
+    QMenu* m_canvasMenu = nullptr;
+    QMenu* m_windowMenu = nullptr;
+
+    QAction* m_newAction = nullptr;
+    QAction* m_openAction = nullptr;
+    QAction* m_saveAction = nullptr;
+    QAction* m_saveAsAction = nullptr;
+    QAction* m_recentFileActions[CRecentFileList::kSize] = {};
+    QAction* m_recentSeparator = nullptr;
+    QAction* m_exitAction = nullptr;
+    QAction* m_undoAction = nullptr;
+    QAction* m_cutAction = nullptr;
+    QAction* m_copyAction = nullptr;
+    QAction* m_pasteAction = nullptr;
+    QAction* m_deleteAction = nullptr;
+};

@@ -1,0 +1,96 @@
+#include "tamloapp.h"
+
+#include "childframe.h"
+#include "mainframe.h"
+#include "pathtext.h"
+
+#include "project/projectpath.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+constexpr const char* kModulesFolder = "modules";
+const QString kDemoStartWindow = QStringLiteral("main.xml");
+
+// The file argument is the first argument that is not an option.
+QString FileArgument(const QStringList& arguments)
+{
+    for (qsizetype i = 1; i < arguments.size(); ++i)
+        if (!arguments[i].startsWith(QLatin1Char('-')))
+            return arguments[i];
+    return {};
+}
+
+} // namespace
+
+CTamloApp::CTamloApp(CEditorPrompts& prompts, const QString& instanceName)
+    : m_prompts(prompts)
+    , m_guard(instanceName)
+{
+}
+
+// The main frame goes first: its children's widgets may come from the loaded libraries.
+CTamloApp::~CTamloApp()
+{
+    m_mainFrame.reset();
+}
+
+QString CTamloApp::DemoProjectFolder()
+{
+    // Next to the program when installed, in the source tree when run from the build folder.
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    for (const QString& candidate : {QStringLiteral("demo"), QStringLiteral("../../examples/demo")}) {
+        const QString folder = programFolder.absoluteFilePath(candidate);
+        if (QFileInfo::exists(folder + QLatin1Char('/') + kDemoStartWindow))
+            return QDir::cleanPath(folder);
+    }
+    return {};
+}
+
+CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
+{
+    const QString fileArgument = FileArgument(arguments);
+    if (!m_guard.Listen() && HandOverToRunningEditor(fileArgument))
+        return StartResult::HandedOver;
+
+    m_libraries = LoadWidgetLibraries(kModulesFolder);
+
+    m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
+    m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);
+    connect(&m_guard, &CInstanceGuard::openFileRequested, m_mainFrame.get(), &CMainFrame::OpenDocument);
+    connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
+    connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
+
+    if (!OpenStartDocument(fileArgument))
+        return StartResult::Failed;
+    m_mainFrame->show();
+    return StartResult::Started;
+}
+
+bool CTamloApp::HandOverToRunningEditor(const QString& fileArgument) const
+{
+    // Only the path travels, so a relative one is made whole here, where it was meant.
+    std::string argument = ToModelPath(fileArgument);
+    TakeProjectArgument(argument);
+    const QString path = argument.empty() ? QString() : QFileInfo(ToQtPath(argument)).absoluteFilePath();
+    return CInstanceGuard::HandOver(m_guard.Name(), QByteArray::fromStdString(ToModelPath(path)));
+}
+
+bool CTamloApp::OpenStartDocument(const QString& fileArgument)
+{
+    if (!fileArgument.isEmpty()) {
+        std::string argument = ToModelPath(fileArgument);
+        if (const std::optional<std::string> project = TakeProjectArgument(argument))
+            SetProjectPath(*project);
+        return m_mainFrame->OpenDocument(ToQtPath(argument)) != nullptr;
+    }
+    const QString demo = DemoProjectFolder();
+    if (demo.isEmpty())
+        return m_mainFrame->NewDocument() != nullptr;
+    SetProjectPath(ToModelPath(demo));
+    return m_mainFrame->OpenDocument(demo + QLatin1Char('/') + kDemoStartWindow) != nullptr;
+}

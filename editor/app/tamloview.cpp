@@ -1,0 +1,242 @@
+#include "tamloview.h"
+
+#include "editor/model/canvasgeometry.h"
+#include "editor/model/formatcommands.h"
+#include "widgets/core/hmipainterdc.h"
+#include "widgets/core/tamlodoc.h"
+#include "widgets/core/windowpainter.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <optional>
+
+namespace {
+
+// Room around a widget for its handles, which stand 3 pixels outside and 4 inside its corners.
+constexpr int kHandleMargin = 6;
+// Empty canvas right and below the window, so that the window's own handles can be grabbed.
+constexpr int kCanvasMargin = 8;
+
+QRect ToQRect(const HmiRect& rect)
+{
+    const HmiRect r = rect.Normalized();
+    return QRect(QPoint(r.left, r.top), QPoint(r.right - 1, r.bottom - 1));
+}
+
+HmiPoint ToHmiPoint(const QPoint& point)
+{
+    return {point.x(), point.y()};
+}
+
+MouseFlags ToMouseFlags(Qt::KeyboardModifiers modifiers)
+{
+    return {modifiers.testFlag(Qt::ControlModifier), modifiers.testFlag(Qt::ShiftModifier)};
+}
+
+Qt::CursorShape ToCursorShape(CanvasCursor cursor)
+{
+    switch (cursor) {
+    case CanvasCursor::Arrow:
+        return Qt::ArrowCursor;
+    case CanvasCursor::Cross:
+        return Qt::CrossCursor;
+    case CanvasCursor::SizeNWSE:
+        return Qt::SizeFDiagCursor;
+    case CanvasCursor::SizeNESW:
+        return Qt::SizeBDiagCursor;
+    case CanvasCursor::SizeNS:
+        return Qt::SizeVerCursor;
+    case CanvasCursor::SizeWE:
+        return Qt::SizeHorCursor;
+    }
+    return Qt::ArrowCursor;
+}
+
+std::optional<NudgeKey> ToNudgeKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return NudgeKey::Left;
+    case Qt::Key_Right:
+        return NudgeKey::Right;
+    case Qt::Key_Up:
+        return NudgeKey::Up;
+    case Qt::Key_Down:
+        return NudgeKey::Down;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+CTamloView::CTamloView(CTamloDoc& document, QWidget* parent)
+    : QWidget(parent)
+    , m_document(document)
+    , m_selection(document, *this)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true); // handle cursors while no button is down
+    m_selection.SetOnSelected([this](CHmiWidget* widget) {
+        setFocus(Qt::OtherFocusReason);
+        emit widgetSelected(widget);
+    });
+    m_document.AddView(this);
+    FitToWindow();
+}
+
+CTamloView::~CTamloView()
+{
+    m_document.RemoveView(this);
+}
+
+void CTamloView::FitToWindow()
+{
+    const CHmiWidget* window = m_document.FindWindowWidget();
+    const HmiRect rect = window ? CanvasRect(*window).Normalized() : HmiRect{};
+    const QSize size(rect.right + kCanvasMargin, rect.bottom + kCanvasMargin);
+    if (size != this->size())
+        setFixedSize(size);
+}
+
+void CTamloView::InvalidateDocRect(const HmiRect& area)
+{
+    update(ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin));
+}
+
+void CTamloView::InvalidateView()
+{
+    FitToWindow();
+    update();
+}
+
+void CTamloView::WidgetRemoved(CHmiWidget* widget)
+{
+    m_selection.Forget(widget);
+    emit widgetDestroyed(widget);
+}
+
+void CTamloView::SetMouseCapture(bool capture)
+{
+    // Qt keeps sending the mouse to the pressed widget until the release; an explicit grab is
+    // needed only while no button is down, which the tools never ask for.
+    if (!capture)
+        m_feedback.clear();
+}
+
+void CTamloView::SetCanvasCursor(CanvasCursor cursor)
+{
+    setCursor(ToCursorShape(cursor));
+}
+
+void CTamloView::ShowDragFeedback(std::vector<HmiRect> clientRects)
+{
+    update(FeedbackArea());
+    m_feedback = std::move(clientRects);
+    update(FeedbackArea());
+}
+
+QRect CTamloView::FeedbackArea() const
+{
+    QRect area;
+    for (const HmiRect& rect : m_feedback)
+        area |= ToQRect(rect).adjusted(-1, -1, 1, 1);
+    return area;
+}
+
+void CTamloView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.fillRect(event->rect(), palette().color(QPalette::Dark));
+    {
+        CHmiPainterDC dc(painter);
+        DrawWindow(m_document, dc);
+    }
+    DrawTrackers(painter);
+    DrawDragFeedback(painter);
+}
+
+void CTamloView::DrawTrackers(QPainter& painter) const
+{
+    const std::vector<CHmiWidget*>& widgets = m_selection.Widgets();
+    for (CHmiWidget* widget : widgets) {
+        // The window widget draws at the canvas origin, wherever it stands on the panel.
+        const HmiPoint origin = CanvasOrigin(*widget);
+        painter.save();
+        painter.translate(-origin.x, -origin.y);
+        CHmiPainterDC dc(painter);
+        widget->DrawTracker(dc, widget == widgets.back() ? TrackerState::active : TrackerState::selected);
+        painter.restore();
+    }
+}
+
+void CTamloView::DrawDragFeedback(QPainter& painter) const
+{
+    if (m_feedback.empty())
+        return;
+    // Focus rectangles: a dotted outline that shows on any background.
+    painter.save();
+    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    for (const HmiRect& rect : m_feedback) {
+        const HmiRect r = rect.Normalized();
+        if (r.Width() > 0 && r.Height() > 0)
+            painter.drawRect(ToQRect(r));
+    }
+    painter.restore();
+}
+
+void CTamloView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
+    CCanvasTools::Instance().ButtonDown(*this, ToHmiPoint(event->position().toPoint()),
+                                        ToMouseFlags(event->modifiers()));
+}
+
+void CTamloView::mouseMoveEvent(QMouseEvent* event)
+{
+    CCanvasTools::Instance().MouseMove(*this, ToHmiPoint(event->position().toPoint()));
+}
+
+void CTamloView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mouseReleaseEvent(event);
+    CCanvasTools& tools = CCanvasTools::Instance();
+    const bool wasDragging = tools.IsDragging();
+    tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()));
+    if (wasDragging)
+        emit documentEdited();
+}
+
+void CTamloView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mouseDoubleClickEvent(event);
+    CCanvasTools::Instance().DoubleClick(*this, ToHmiPoint(event->position().toPoint()),
+                                         ToMouseFlags(event->modifiers()));
+}
+
+void CTamloView::keyPressEvent(QKeyEvent* event)
+{
+    if (m_locked)
+        return event->accept(); // a locked layout ignores every key, even for scrolling
+    const std::optional<NudgeKey> key = ToNudgeKey(event->key());
+    const bool resize = event->modifiers().testFlag(Qt::ShiftModifier);
+    if (key && NudgeWidgets(m_document, m_selection.Widgets(), *key, resize))
+        return emit documentEdited();
+    QWidget::keyPressEvent(event);
+}
+
+void CTamloView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (m_contextMenu)
+        m_contextMenu->popup(event->globalPos());
+}

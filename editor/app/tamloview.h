@@ -1,0 +1,72 @@
+#pragma once
+
+#include "editor/model/canvasselection.h"
+#include "editor/model/canvastools.h"
+#include "widgets/core/hmiview.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class CTamloDoc;
+class QMenu;
+
+// The canvas of one HMI window: draws the document and the selection trackers, and hands the
+// mouse to the current canvas tool and the arrow keys to the nudge command. Client coordinates
+// are window coordinates, because the canvas is as large as the window and scrolls as a whole.
+class CTamloView : public QWidget, public CHmiView, public CCanvasToolHost {
+    Q_OBJECT
+public:
+    explicit CTamloView(CTamloDoc& document, QWidget* parent = nullptr);
+    ~CTamloView() override;
+
+    CTamloDoc& Document() const { return m_document; }
+
+    // CHmiView
+    HmiPoint DocToClient(HmiPoint point) const override { return point; }
+    HmiPoint ClientToDoc(HmiPoint point) const override { return point; }
+    void InvalidateDocRect(const HmiRect& area) override;
+    void InvalidateView() override;
+    void WidgetRemoved(CHmiWidget* widget) override;
+
+    // CCanvasToolHost
+    CCanvasSelection& Selection() override { return m_selection; }
+    bool IsLocked() const override { return m_locked; }
+    void SetMouseCapture(bool capture) override;
+    void SetCanvasCursor(CanvasCursor cursor) override;
+    void ShowDragFeedback(std::vector<HmiRect> clientRects) override;
+
+    void SetLocked(bool locked) { m_locked = locked; }
+    // The menu the canvas pops up on a right click; the main frame provides it.
+    void SetContextMenu(QMenu* menu) { m_contextMenu = menu; }
+    // Grows or shrinks the canvas to the window widget's size.
+    void FitToWindow();
+
+signals:
+    // A widget joined the selection (the window widget when nothing else is selected).
+    void widgetSelected(CHmiWidget* widget);
+    // The mouse or the keyboard changed the document.
+    void documentEdited();
+    // The document is about to destroy a widget; whoever shows it must let go.
+    void widgetDestroyed(CHmiWidget* widget);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void DrawTrackers(QPainter& painter) const;
+    void DrawDragFeedback(QPainter& painter) const;
+    QRect FeedbackArea() const;
+
+    CTamloDoc& m_document;
+    CCanvasSelection m_selection;
+    bool m_locked = false;
+    std::vector<HmiRect> m_feedback;
+    QMenu* m_contextMenu = nullptr;
+};

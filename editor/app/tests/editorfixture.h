@@ -1,0 +1,96 @@
+#pragma once
+
+#include "editor/app/childframe.h"
+#include "editor/app/editorprompts.h"
+#include "editor/app/mainframe.h"
+#include "editor/app/tamloview.h"
+#include "widgets/catalogue/hmiwidgetrect.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <QSettings>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <optional>
+
+Q_DECLARE_METATYPE(HmiRect)
+
+// Answers the editor's questions from a script and remembers what it was asked.
+struct ScriptedPrompts : CEditorPrompts {
+    SaveAnswer AskSaveChanges(QWidget*, const QString& name) override
+    {
+        savedQuestions << name;
+        return saveAnswer;
+    }
+    QString AskSaveFileName(QWidget*, const QString&) override { return saveFileName; }
+    QString AskOpenFileName(QWidget*, const QString&) override { return openFileName; }
+    std::optional<int> AskZoomPercent(QWidget*) override { return zoomPercent; }
+    void ShowError(QWidget*, const QString& text) override { errors << text; }
+
+    SaveAnswer saveAnswer = SaveAnswer::Cancel;
+    QString saveFileName;
+    QString openFileName;
+    std::optional<int> zoomPercent;
+    QStringList savedQuestions;
+    QStringList errors;
+};
+
+// A shown main frame with profile and files in a temporary folder.
+struct EditorUnderTest {
+    EditorUnderTest()
+        : settings(folder.filePath(QStringLiteral("profile.ini")), QSettings::IniFormat)
+        , frame(prompts, settings)
+    {
+        frame.resize(1200, 900);
+        frame.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&frame));
+    }
+
+    CChildFrame& NewWindow()
+    {
+        CChildFrame* child = frame.NewDocument();
+        QCoreApplication::processEvents();
+        return *child;
+    }
+
+    QTemporaryDir folder;
+    ScriptedPrompts prompts;
+    QSettings settings;
+    CMainFrame frame;
+};
+
+inline CHmiWidget* AddRect(CTamloDoc& document, const HmiRect& rect)
+{
+    HmiWidgetPtr widget(new CHmiWidgetRect);
+    widget->SetWidgetRect(rect);
+    CHmiWidget* added = widget.get();
+    document.AddWidget(std::move(widget), true, false);
+    return added;
+}
+
+inline QPoint At(int x, int y)
+{
+    return QPoint(x, y);
+}
+
+// A press, one move and a release: what a short drag with the mouse delivers.
+inline void Drag(QWidget* target, QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::mousePress(target, Qt::LeftButton, modifiers, from);
+    QTest::mouseMove(target, to);
+    QTest::mouseRelease(target, Qt::LeftButton, modifiers, to);
+}
+
+inline void Click(QWidget* target, QPoint at, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::mouseClick(target, Qt::LeftButton, modifiers, at);
+}
+
+// Lets QCOMPARE print rectangles.
+inline char* toString(const HmiRect& rect)
+{
+    return QTest::toString(
+        QStringLiteral("(%1, %2, %3, %4)").arg(rect.left).arg(rect.top).arg(rect.right).arg(rect.bottom));
+}
