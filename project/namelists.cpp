@@ -45,3 +45,23 @@ int GetHmiHistoryDbname(std::string names[], int& count)
     }
     return 1;
 }
+
+std::vector<std::string> GetHistoryVariableNames(const std::string& historyDbName)
+{
+    std::vector<std::string> names;
+    if (GetProjectPath().empty())
+        return names;
+    const XmlDocument document = XmlDocument::Load(GetProjectPath() + "history.xml");
+    const XmlElement root = document.Root();
+    if (!root.Is("zqhistory"))
+        return names;
+    for (XmlElement database : ChildElements(root)) {
+        if (!database.Is("historydb") || database.Attribute("name") != historyDbName)
+            continue;
+        for (XmlElement record : ChildElements(database))
+            if (record.Is("history"))
+                names.push_back(record.Attribute("dataname"));
+        break;
+    }
+    return names;
+}

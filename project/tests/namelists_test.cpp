@@ -67,3 +67,19 @@ TEST_F(NameListsTest, HistoryNamesInBothForms)
     EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
     EXPECT_EQ(count, 0) << "a broken file gives no names";
 }
+
+TEST_F(NameListsTest, VariablesOfOneHistoryDatabase)
+{
+    dir.Write("history.xml", "<zqhistory>"
+                             "<historydb name=\"a\"><history dataname=\"t1\"/><config/><history dataname=\"t2\"/>"
+                             "</historydb><historydb name=\"b\"><history dataname=\"p\"/></historydb>"
+                             "<historydb name=\"b\"><history dataname=\"second\"/></historydb></zqhistory>");
+    EXPECT_EQ(GetHistoryVariableNames("a"), (std::vector<std::string>{"t1", "t2"}));
+    EXPECT_EQ(GetHistoryVariableNames("b"), std::vector<std::string>{"p"}) << "the first database of a name";
+    EXPECT_TRUE(GetHistoryVariableNames("A").empty()) << "names compare exactly";
+
+    dir.Write("history.xml", "<history><historydb name=\"a\"><history dataname=\"t1\"/></historydb></history>");
+    EXPECT_TRUE(GetHistoryVariableNames("a").empty());
+    SetProjectPath("");
+    EXPECT_TRUE(GetHistoryVariableNames("a").empty());
+}

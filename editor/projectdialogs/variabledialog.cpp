@@ -1,0 +1,131 @@
+#include "variabledialog.h"
+
+#include "dialogbuttons.h"
+#include "modeltext.h"
+
+#include "project/projectpath.h"
+#include "project/variabledatabase.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+constexpr int kColumnWidth = 100;
+
+QTableWidgetItem* CenteredCell(const std::string& text)
+{
+    auto* cell = new QTableWidgetItem(FromModel(text));
+    cell->setTextAlignment(Qt::AlignCenter);
+    return cell;
+}
+
+} // namespace
+
+CVariableDialog::CVariableDialog(const CHmiVariableDatabase& database, QWidget* parent)
+    : QDialog(parent), m_tree(new QTreeWidget(this)), m_list(new QTableWidget(this))
+{
+    setWindowTitle("HMI Database");
+    m_tree->setHeaderHidden(true);
+    m_list->setShowGrid(true);
+    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_list->horizontalHeader()->setSectionsMovable(true);
+    m_list->horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+    m_list->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    m_list->verticalHeader()->hide();
+
+    AddBranch(database.RealtimeRoot());
+    AddBranch(database.HmiRoot());
+    m_tree->expandAll();
+    connect(m_tree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { ShowRows(item); });
+
+    auto* views = new QHBoxLayout;
+    views->addWidget(m_tree, 1);
+    views->addWidget(m_list, 3);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    connect(AddOkCancelButtons(*this, *buttons).ok, &QPushButton::clicked, this, &CVariableDialog::TakeChosenRow);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(views);
+    layout->addLayout(buttons);
+    resize(900, 420);
+}
+
+void CVariableDialog::AddBranch(const VariableNode& top)
+{
+    // Without recursion: a database's groups may nest as deep as its file does.
+    auto* topItem = new QTreeWidgetItem(m_tree, {FromModel(top.text)});
+    topItem->setIcon(0, style()->standardIcon(QStyle::SP_DriveHDIcon));
+    std::vector<std::pair<const VariableNode*, QTreeWidgetItem*>> pending{{&top, topItem}};
+    while (!pending.empty()) {
+        const auto [node, item] = pending.back();
+        pending.pop_back();
+        m_nodes.insert(item, node);
+        for (const VariableNode* child : node->children) {
+            auto* childItem = new QTreeWidgetItem(item, {FromModel(child->text)});
+            childItem->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
+            pending.emplace_back(child, childItem);
+        }
+    }
+}
+
+void CVariableDialog::ShowRows(QTreeWidgetItem* item)
+{
+    m_list->clearSelection();
+    const VariableNode* node = m_nodes.value(item);
+    if (!node) {
+        m_list->setRowCount(0);
+        m_list->setColumnCount(0);
+        return;
+    }
+    const std::vector<std::string> columns = CHmiVariableDatabase::Columns(*node);
+    m_list->setColumnCount(int(columns.size()));
+    for (int column = 0; column < int(columns.size()); ++column)
+        m_list->setHorizontalHeaderItem(column, CenteredCell(columns[std::size_t(column)]));
+    // The top nodes have no columns and show no rows.
+    m_list->setRowCount(columns.empty() ? 0 : int(node->rows.size()));
+    for (int row = 0; row < m_list->rowCount(); ++row) {
+        const std::vector<std::string> cells = CHmiVariableDatabase::Cells(*node, node->rows[std::size_t(row)]);
+        for (int column = 0; column < int(cells.size()) && column < m_list->columnCount(); ++column)
+            m_list->setItem(row, column, CenteredCell(cells[std::size_t(column)]));
+    }
+}
+
+void CVariableDialog::TakeChosenRow()
+{
+    const VariableNode* node = m_nodes.value(m_tree->currentItem());
+    const QModelIndexList chosen = m_list->selectionModel()->selectedRows();
+    if (!node || chosen.isEmpty())
+        return;
+    int first = chosen.front().row();
+    for (const QModelIndex& index : chosen)
+        first = std::min(first, index.row());
+    if (first >= int(node->rows.size()))
+        return;
+    m_reference = CHmiVariableDatabase::ReferenceText(*node, node->rows[std::size_t(first)]);
+    accept();
+}
+
+std::optional<QString> PickVariable(QWidget* parent, const CHmiVariableDatabase& database,
+                                    const ProjectContext::DialogRunner& run)
+{
+    CVariableDialog dialog(database, parent);
+    if (run(dialog) != QDialog::Accepted)
+        return std::nullopt;
+    return FromModel(dialog.Reference());
+}
+
+std::optional<QString> PickProjectVariable(QWidget* parent, const ProjectContext::DialogRunner& run)
+{
+    CHmiVariableDatabase database;
+    database.LoadProject(GetProjectPath());
+    return PickVariable(parent, database, run);
+}
