@@ -1,5 +1,7 @@
 #include "editorprompts.h"
 
+#include "editor/projectdialogs/variabledialog.h"
+
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -11,6 +13,14 @@ namespace {
 const QString kWindowFileFilter = QStringLiteral("HMI window files (*.xml);;All files (*)");
 
 } // namespace
+
+CEditorPrompts::CEditorPrompts()
+{
+    // The expression dialogs pick their variables from the current project's databases.
+    dynamicDialogs.pickVariable = [this](QWidget* parent) {
+        return PickProjectVariable(parent, projectDialogs.runDialog);
+    };
+}
 
 CEditorPrompts::SaveAnswer CEditorPrompts::AskSaveChanges(QWidget* parent, const QString& documentName)
 {

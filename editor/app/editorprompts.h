@@ -1,5 +1,8 @@
 #pragma once
 
+#include "editor/dynamicdialogs/dialogservices.h"
+#include "editor/projectdialogs/projectcontext.h"
+
 #include <QString>
 
 #include <optional>
@@ -12,6 +15,7 @@ class CEditorPrompts {
 public:
     enum class SaveAnswer { Save, Discard, Cancel };
 
+    CEditorPrompts();
     virtual ~CEditorPrompts() = default;
 
     virtual SaveAnswer AskSaveChanges(QWidget* parent, const QString& documentName);
@@ -21,4 +25,8 @@ public:
     // The scale of the zoom command in percent; nothing when the user cancels.
     virtual std::optional<int> AskZoomPercent(QWidget* parent);
     virtual void ShowError(QWidget* parent, const QString& text);
+
+    // How the dialogs of the property rows and the project run and choose.
+    ProjectContext projectDialogs;
+    DynamicDialogServices dynamicDialogs;
 };

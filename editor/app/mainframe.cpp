@@ -8,7 +8,11 @@
 #include "toolbox.h"
 #include "widgetnamecombo.h"
 
+#include "editor/dynamicdialogs/dynpropertyedit.h"
+#include "editor/dynamicdialogs/eventedit.h"
 #include "editor/model/editcommands.h"
+#include "editor/projectdialogs/projectwindowdialog.h"
+#include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/propertypane/propertypane.h"
 #include "project/projectpath.h"
 #include "widgets/core/tamlodoc.h"
@@ -98,6 +102,36 @@ void CMainFrame::CreateDocks()
             view->InvalidateView();
         AfterEdit();
     });
+    ConnectRowDialogs();
+}
+
+void CMainFrame::ConnectRowDialogs()
+{
+    connect(m_propertyPane, &CPropertyPane::dynPropEditRequested, this, [this](COptionTreeItem* row) {
+        RunRowDialog(row, [this](QWidget* parent, CHmiWidget& widget, COptionTreeItem& item) {
+            return EditDynamicProperty(parent, widget, item, m_prompts.dynamicDialogs);
+        });
+    });
+    connect(m_propertyPane, &CPropertyPane::eventEditRequested, this, [this](COptionTreeItem* row) {
+        RunRowDialog(row, [this](QWidget* parent, CHmiWidget& widget, COptionTreeItem& item) {
+            return EditWidgetEvent(parent, widget, item, m_scriptFunctions);
+        });
+    });
+    const auto selectItem = [this](COptionTreeItem* row) {
+        RunRowDialog(row, [this](QWidget* parent, CHmiWidget& widget, COptionTreeItem& item) {
+            return SelectWidgetItem(parent, widget, item, m_prompts.projectDialogs);
+        });
+    };
+    connect(m_propertyPane, &CPropertyPane::selectItemRequested, this, selectItem);
+    connect(m_propertyPane, &CPropertyPane::fileRequested, this, selectItem);
+    connect(m_propertyPane, &CPropertyPane::fontRequested, this, selectItem);
+}
+
+void CMainFrame::RunRowDialog(COptionTreeItem* row, const RowDialog& dialog)
+{
+    CHmiWidget* widget = m_propertyPane->CurrentWidget();
+    if (widget && row && dialog(this, *widget, *row))
+        m_propertyPane->RefreshWidget();
 }
 
 QAction* CMainFrame::AddAction(QMenu* menu, const QString& text, const QString& statusText,
@@ -148,6 +182,9 @@ void CMainFrame::CreateMenus()
     m_openAction = AddAction(file, QStringLiteral("&Open..."), QStringLiteral("Open an existing document"),
                              &CMainFrame::FileOpen);
     m_openAction->setShortcut(QKeySequence::Open);
+    QAction* openProject = AddAction(file, QStringLiteral("Open Project Window..."), QStringLiteral("Open Project"),
+                                     &CMainFrame::FileOpenProjectWindow);
+    openProject->setObjectName(QStringLiteral("actionOpenProjectWindow"));
     m_saveAction = AddAction(file, QStringLiteral("&Save"), QStringLiteral("Save the active document"),
                              &CMainFrame::FileSave);
     m_saveAction->setShortcut(QKeySequence::Save);
@@ -420,6 +457,12 @@ void CMainFrame::FileNew()
 void CMainFrame::FileOpen()
 {
     OpenDocument(m_prompts.AskOpenFileName(this, ToQtPath(GetProjectPath())));
+}
+
+void CMainFrame::FileOpenProjectWindow()
+{
+    if (const std::optional<std::string> path = ChooseProjectWindow(this, m_prompts.projectDialogs))
+        OpenDocument(ToQtPath(*path));
 }
 
 void CMainFrame::FileSave()

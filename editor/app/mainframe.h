@@ -2,11 +2,16 @@
 
 #include "recentfilelist.h"
 
+#include "editor/dynamicdialogs/scriptfunctions.h"
+
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 class CChildFrame;
+class COptionTreeItem;
 class CEditorPrompts;
 class CFormatActions;
 class CHmiWidget;
@@ -43,6 +48,9 @@ public:
     QMdiArea& MdiArea() const { return *m_mdiArea; }
     const CRecentFileList& RecentFiles() const { return m_recentFiles; }
 
+    // The script functions the event dialog offers.
+    void SetScriptFunctions(std::vector<ScriptFunction> functions) { m_scriptFunctions = std::move(functions); }
+
     // Brings the window to the front after another editor start handed a file over.
     void RaiseAndRestore();
 
@@ -53,6 +61,10 @@ private:
     void CreateActions();
     void CreateMenus();
     void CreateDocks();
+    void ConnectRowDialogs();
+    using RowDialog = std::function<bool(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row)>;
+    // Opens the dialog of a row's button for the widget the pane shows.
+    void RunRowDialog(COptionTreeItem* row, const RowDialog& dialog);
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
     CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);
@@ -69,6 +81,7 @@ private:
     // Commands.
     void FileNew();
     void FileOpen();
+    void FileOpenProjectWindow();
     void FileSave();
     void FileSaveAs();
     void EditUndo();
@@ -88,6 +101,7 @@ private:
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
     QMenu* m_canvasMenu = nullptr;
     QMenu* m_windowMenu = nullptr;
+    std::vector<ScriptFunction> m_scriptFunctions;
 
     QAction* m_newAction = nullptr;
     QAction* m_openAction = nullptr;

@@ -4,6 +4,7 @@
 #include "mainframe.h"
 #include "pathtext.h"
 
+#include "editor/dynamicdialogs/scriptfunctions.h"
 #include "project/projectpath.h"
 
 #include <QApplication>
@@ -65,7 +66,14 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 
-    if (!OpenStartDocument(fileArgument))
+    const QString documentPath = ApplyProjectArgument(fileArgument);
+    const std::string programFolder = ToModelPath(QCoreApplication::applicationDirPath());
+    m_mainFrame->SetScriptFunctions(
+        LoadScriptFunctions(FindScriptFunctionsFile({GetProjectPath(), programFolder})));
+
+    CChildFrame* started =
+        documentPath.isEmpty() ? m_mainFrame->NewDocument() : m_mainFrame->OpenDocument(documentPath);
+    if (!started)
         return StartResult::Failed;
     m_mainFrame->show();
     return StartResult::Started;
@@ -80,17 +88,17 @@ bool CTamloApp::HandOverToRunningEditor(const QString& fileArgument) const
     return CInstanceGuard::HandOver(m_guard.Name(), QByteArray::fromStdString(ToModelPath(path)));
 }
 
-bool CTamloApp::OpenStartDocument(const QString& fileArgument)
+QString CTamloApp::ApplyProjectArgument(const QString& fileArgument)
 {
-    if (!fileArgument.isEmpty()) {
-        std::string argument = ToModelPath(fileArgument);
-        if (const std::optional<std::string> project = TakeProjectArgument(argument))
-            SetProjectPath(*project);
-        return m_mainFrame->OpenDocument(ToQtPath(argument)) != nullptr;
+    if (fileArgument.isEmpty()) {
+        const QString demo = DemoProjectFolder();
+        if (demo.isEmpty())
+            return {};
+        SetProjectPath(ToModelPath(demo));
+        return demo + QLatin1Char('/') + kDemoStartWindow;
     }
-    const QString demo = DemoProjectFolder();
-    if (demo.isEmpty())
-        return m_mainFrame->NewDocument() != nullptr;
-    SetProjectPath(ToModelPath(demo));
-    return m_mainFrame->OpenDocument(demo + QLatin1Char('/') + kDemoStartWindow) != nullptr;
+    std::string argument = ToModelPath(fileArgument);
+    if (const std::optional<std::string> project = TakeProjectArgument(argument))
+        SetProjectPath(*project);
+    return ToQtPath(argument);
 }

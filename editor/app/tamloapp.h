@@ -37,7 +37,9 @@ public:
 
 private:
     bool HandOverToRunningEditor(const QString& fileArgument) const;
-    bool OpenStartDocument(const QString& fileArgument);
+    // Sets the project folder that the file argument names (by default the demo project) and
+    // returns the window file to open; empty for a new window.
+    QString ApplyProjectArgument(const QString& fileArgument);
 
     CEditorPrompts& m_prompts;
     CInstanceGuard m_guard;

@@ -61,7 +61,8 @@ signals:
     // The user committed a new value in the row (never sent for values the program sets).
     void itemChanged(COptionTreeItem* item);
     // The "..." button of a row was pressed: of a bindable row (the dynamic-property dialogs),
-    // a variable row (the variable chooser), a file row, a font row or an event row.
+    // a variable row (the variable chooser) or a static row of the widget's own, a file row, a
+    // font row or an event row.
     void dynPropEditRequested(COptionTreeItem* item);
     void selectItemRequested(COptionTreeItem* item);
     void fileRequested(COptionTreeItem* item);

@@ -110,6 +110,8 @@ void CPropertyPaneItem::BuildEditor(const QString& info)
         m_browse = AddButton(&CPropertyPane::fontRequested, QObject::tr("Choose a font"));
     else if (m_kind == OptionItemKind::Static && m_parent && m_parent->GetLabelText() == kEventRootCaption)
         m_browse = AddButton(&CPropertyPane::eventEditRequested, QObject::tr("Edit the event script"));
+    else if (m_kind == OptionItemKind::Static) // a widget's own rows: the widget decides what the button does
+        m_browse = AddButton(&CPropertyPane::selectItemRequested, QObject::tr("Edit"));
 
     m_pane.Tree()->setItemWidget(m_row, CPropertyPane::ValueColumn, m_cell);
     m_row->setSizeHint(CPropertyPane::ValueColumn, m_cell->sizeHint());
