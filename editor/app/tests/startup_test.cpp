@@ -1,0 +1,139 @@
+// Start-up as the program runs it: widget libraries, the project argument, the demo project,
+// and a second editor process that hands its file over to the first.
+#include "editorfixture.h"
+
+#include "editor/app/tamloapp.h"
+#include "editor/app/toolbox.h"
+#include "editor/startup/widgetlibraryloader.h"
+#include "project/projectpath.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QListWidget>
+#include <QProcess>
+
+#include <algorithm>
+
+namespace {
+
+const QString kDemo = QFileInfo(QStringLiteral(KELVO_DEMO_DIR)).canonicalFilePath();
+
+bool Contains(const std::vector<std::string>& names, const char* name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+QString ActiveFile(const CMainFrame& frame)
+{
+    return frame.ActiveChild() ? QFileInfo(frame.ActiveChild()->FilePath()).canonicalFilePath() : QString();
+}
+
+} // namespace
+
+class StartupTest : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir sandbox; // profile and local sockets of the editors under test
+    ScriptedPrompts prompts;
+
+    QStringList Arguments(const QString& file) const { return {QStringLiteral("kelvo-hmi-editor"), file}; }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(!kDemo.isEmpty());
+        qputenv("XDG_CONFIG_HOME", sandbox.filePath(QStringLiteral("config")).toLocal8Bit());
+        qputenv("TMPDIR", sandbox.path().toLocal8Bit());
+    }
+
+    void cleanup() { SetProjectPath({}); }
+
+    void aLibraryClassIsPlacedSavedAndReadBack()
+    {
+        const WidgetLibraryLoadReport report = LoadWidgetLibraries(KELVO_TEST_MODULES_DIR);
+        QVERIFY(Contains(report.kept, "samplewidgets.so"));
+        QVERIFY(Contains(report.declined, "decliningwidgets.so"));
+        QVERIFY(Contains(report.skipped, "notalibrary.so"));
+
+        EditorUnderTest editor;
+        CToolbox& toolbox = editor.frame.Toolbox();
+        const QList<QListWidgetItem*> gauge = toolbox.findItems(QStringLiteral("gauge"), Qt::MatchExactly);
+        QCOMPARE(gauge.size(), 1);
+        QVERIFY(toolbox.findItems(QStringLiteral("dial"), Qt::MatchExactly).isEmpty());
+        Click(toolbox.viewport(), toolbox.visualItemRect(gauge.first()).center());
+        CChildFrame& child = editor.NewWindow();
+        Drag(&child.View(), At(40, 40), At(140, 100));
+        const std::string name = child.Document().Widgets().back()->GetWidgetName();
+        QCOMPARE(child.Document().Widgets().back()->GetWidgetClassName(), std::string("gauge"));
+
+        const QString path = editor.folder.filePath(QStringLiteral("gauge.xml"));
+        editor.prompts.saveFileName = path;
+        QVERIFY(child.SaveAs());
+        QVERIFY(child.close());
+        CChildFrame* reopened = editor.frame.OpenDocument(path);
+        QVERIFY(reopened);
+        const auto& widgets = reopened->Document().Widgets();
+        const auto found = std::find_if(widgets.begin(), widgets.end(),
+                                        [&name](const HmiWidgetPtr& widget) { return widget->GetWidgetName() == name; });
+        QVERIFY(found != widgets.end());
+        QCOMPARE(std::string((*found)->GetRuntimeClass()->m_lpszClassName), std::string("CGaugeWidget"));
+        QCOMPARE((*found)->GetWidgetRect(), (HmiRect{40, 40, 140, 100}));
+    }
+
+    void theStarArgumentNamesTheProject()
+    {
+        CTamloApp editor(prompts, QStringLiteral("star-test"));
+        QCOMPARE(editor.Start(Arguments(QLatin1Char('*') + kDemo + QStringLiteral("*pumps.xml"))),
+                 CTamloApp::StartResult::Started);
+        QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
+        QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + QStringLiteral("/pumps.xml"));
+    }
+
+    void withoutAFileTheDemoProjectOpens()
+    {
+        CTamloApp editor(prompts, QStringLiteral("demo-test"));
+        QCOMPARE(editor.Start({QStringLiteral("kelvo-hmi-editor")}), CTamloApp::StartResult::Started);
+        QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
+        QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + QStringLiteral("/main.xml"));
+    }
+
+    void aFileThatCannotBeOpenedFailsTheStart()
+    {
+        CTamloApp editor(prompts, QStringLiteral("missing-test"));
+        prompts.errors.clear();
+        QCOMPARE(editor.Start(Arguments(sandbox.filePath(QStringLiteral("none.xml")))),
+                 CTamloApp::StartResult::Failed);
+        QCOMPARE(prompts.errors.size(), 1);
+    }
+
+    void aSecondEditorHandsItsFileOver()
+    {
+        CTamloApp first(prompts);
+        QCOMPARE(first.Start(Arguments(kDemo + QStringLiteral("/main.xml"))), CTamloApp::StartResult::Started);
+        const std::string project = GetProjectPath();
+
+        const auto startSecond = [](const QString& folder, const QString& argument) {
+            QProcess second;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+            second.setProcessEnvironment(environment);
+            second.setWorkingDirectory(folder);
+            second.start(QStringLiteral(KELVO_EDITOR_PROGRAM), {argument});
+            QTRY_VERIFY_WITH_TIMEOUT(second.state() == QProcess::NotRunning, 20000);
+            QCOMPARE(second.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(second.exitCode(), 0);
+        };
+
+        startSecond(sandbox.path(), kDemo + QStringLiteral("/pumps.xml"));
+        QTRY_COMPARE(ActiveFile(*first.MainFrame()), kDemo + QStringLiteral("/pumps.xml"));
+        // A relative path in the star form is meant from where the second editor started.
+        startSecond(kDemo, QStringLiteral("**trends.xml"));
+        QTRY_COMPARE(ActiveFile(*first.MainFrame()), kDemo + QStringLiteral("/trends.xml"));
+        QCOMPARE(first.MainFrame()->Children().size(), 3);
+        QCOMPARE(GetProjectPath(), project);
+    }
+};
+
+QTEST_MAIN(StartupTest)
+#include "startup_test.moc"
