@@ -28,8 +28,11 @@
 #include <QMimeData>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -48,8 +51,6 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* pa
     , m_mdiArea(new QMdiArea(this))
 {
     setWindowTitle(QStringLiteral("Kelvo HMI Editor"));
-    m_mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(m_mdiArea);
     m_formatActions = new CFormatActions(m_prompts, [this] { return ActiveView(); }, this);
     m_canvasMenu = m_formatActions->CreateContextMenu(this);
@@ -61,7 +62,8 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* pa
     connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &CMainFrame::ChildActivated);
     connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::AfterEdit);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
-    restoreGeometry(m_settings.value(kGeometryKey).toByteArray());
+    if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray()))
+        resize(1280, 860);
     restoreState(m_settings.value(kStateKey).toByteArray());
     UpdateRecentFileActions();
     UpdateEditActions();
@@ -338,8 +340,17 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
             ChildActivated(nullptr);
     });
     m_mdiArea->addSubWindow(child);
-    child->resize(child->sizeHint().boundedTo(m_mdiArea->viewport()->size()));
+    // As large as the canvas and no larger than the area, which has its size only once the main
+    // window is laid out.
+    const QSize frame(2 * child->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4,
+                      child->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    child->resize(view.size() + frame);
     child->show();
+    QTimer::singleShot(0, child, [this, child] {
+        const QPoint place(std::max(0, child->x()), std::max(0, child->y()));
+        const QSize room = m_mdiArea->viewport()->size() - QSize(place.x(), place.y());
+        child->setGeometry(QRect(place, child->size().boundedTo(room)));
+    });
     m_mdiArea->setActiveSubWindow(child);
     return child;
 }
