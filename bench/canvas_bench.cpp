@@ -1,0 +1,200 @@
+// Measures the canvas on a crowded window: a full repaint, and a rubber-band selection with the
+// repaints that follow it, against plain rectangles drawn through the same painter. Prints
+// figures only; nothing here is a pass or a fail.
+
+#include "editor/app/tamloview.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/hmipainterdc.h"
+#include "widgets/core/tamlodoc.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <random>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr int kWindowWidth = 1920;
+constexpr int kWindowHeight = 1080;
+constexpr int kRepaintRepetitions = 7;
+constexpr int kBandRepetitions = 5;
+// Mouse moves between the press and the release of one rubber-band drag.
+constexpr int kBandMoves = 12;
+// The press lands in the empty margin below and right of the window, where no widget is.
+constexpr int kPressInset = 2;
+// The band ends this fraction of the window from its top-left corner, so that it encloses most widgets.
+constexpr int kBandEndDivisor = 20;
+constexpr auto kImageFormat = QImage::Format_ARGB32_Premultiplied;
+
+// One kind of the mix: its class key, its usual size on a panel and how often it occurs.
+struct WidgetKind {
+    const char* key;
+    int width;
+    int height;
+    int weight;
+};
+
+// A panel mix: many simple shapes and texts, fewer controls, a few large curves and alarm lists.
+constexpr WidgetKind kMix[] = {
+    {"rectangle", 60, 40, 6},
+    {"line", 80, 2, 5},
+    {"ellipse", 40, 40, 3},
+    {"text", 90, 20, 6},
+    {"gradrectangle", 80, 50, 2},
+    {"gradellipse", 50, 50, 1},
+    {"gradtriangle", 50, 40, 1},
+    {"button", 90, 30, 4},
+    {"numinput", 80, 24, 3},
+    {"textinput", 100, 24, 2},
+    {"timer", 30, 30, 1},
+    {"curve", 240, 140, 1},
+    {"alarmwnd", 320, 160, 1},
+    {"bmptext", 100, 24, 2},
+    {"picture", 100, 60, 2},
+};
+
+struct Timing {
+    double median = 0;
+    double min = 0;
+};
+
+// Median and minimum wall time of a few runs after one untimed warm-up, in milliseconds.
+Timing Measure(int repetitions, const std::function<void()>& work)
+{
+    work();
+    std::vector<double> times;
+    for (int i = 0; i < repetitions; ++i) {
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    std::sort(times.begin(), times.end());
+    return {times[times.size() / 2], times.front()};
+}
+
+// A large window with widgetCount widgets of the mix at random places, the same for every run.
+void FillDocument(CTamloDoc& document, int widgetCount)
+{
+    document.OnNewDocument();
+    document.GetWindowWidget()->SetWidgetRect({0, 0, kWindowWidth, kWindowHeight});
+    document.SetPictureFolder(KELVO_DEMO_DIR);
+    std::vector<int> weights;
+    for (const WidgetKind& kind : kMix)
+        weights.push_back(kind.weight);
+    std::mt19937 random(widgetCount);
+    std::discrete_distribution<int> pickKind(weights.begin(), weights.end());
+    for (int i = 0; i < widgetCount; ++i) {
+        const WidgetKind& kind = kMix[pickKind(random)];
+        HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(kind.key)->CreateObject();
+        const int x = std::uniform_int_distribution<int>(0, kWindowWidth - kind.width)(random);
+        const int y = std::uniform_int_distribution<int>(0, kWindowHeight - kind.height)(random);
+        widget->SetWidgetRect({x, y, x + kind.width, y + kind.height});
+        if (std::string_view(kind.key) == "picture")
+            widget->SetWidgetProperty("filename", "string", "logo.png", "32");
+        document.AddWidget(std::move(widget), true, false);
+    }
+}
+
+// Counts the paint events a widget receives, to show that a drag really repainted the canvas.
+class PaintCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return false;
+    }
+};
+
+void SendMouse(QWidget& target, QEvent::Type type, QPoint point, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, QPointF(point), QPointF(target.mapToGlobal(point)), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &event);
+}
+
+// One drag of the selection tool from the empty margin up to near the window's top-left corner,
+// letting the event loop repaint after every event as it does between real mouse events.
+void DragRubberBand(CTamloView& view)
+{
+    const QPoint from(view.width() - kPressInset, view.height() - kPressInset);
+    const QPoint to(kWindowWidth / kBandEndDivisor, kWindowHeight / kBandEndDivisor);
+    SendMouse(view, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    for (int step = 1; step <= kBandMoves; ++step) {
+        SendMouse(view, QEvent::MouseMove, from + (to - from) * step / kBandMoves, Qt::NoButton, Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+    SendMouse(view, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    QCoreApplication::processEvents();
+}
+
+void PrintRow(int widgetCount, const char* label, const Timing& timing, const Timing& baseline)
+{
+    std::printf("%7d  %-26s %9.2f %9.2f %9.1fx\n", widgetCount, label, timing.median, timing.min,
+                timing.median / baseline.median);
+}
+
+void MeasureCanvas(int widgetCount)
+{
+    CTamloDoc document;
+    FillDocument(document, widgetCount);
+    CTamloView view(document);
+    view.show();
+    QCoreApplication::processEvents();
+    QImage image(view.size(), kImageFormat);
+
+    // The same rectangles as the widgets, drawn plainly with the painter's default pen and brush.
+    std::vector<HmiRect> rects;
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        if (widget.get() != document.GetWindowWidget())
+            rects.push_back(widget->GetWidgetRect());
+    const Timing baseline = Measure(kRepaintRepetitions, [&] {
+        QPainter painter(&image);
+        CHmiPainterDC dc(painter);
+        for (const HmiRect& rect : rects)
+            dc.Rectangle(rect);
+    });
+    const Timing repaint = Measure(kRepaintRepetitions, [&] { view.render(&image); });
+
+    PaintCounter paints;
+    view.installEventFilter(&paints);
+    int drags = 0;
+    const Timing band = Measure(kBandRepetitions, [&] {
+        DragRubberBand(view);
+        ++drags;
+    });
+    view.removeEventFilter(&paints);
+
+    PrintRow(widgetCount, "plain rectangles", baseline, baseline);
+    PrintRow(widgetCount, "full canvas repaint", repaint, baseline);
+    PrintRow(widgetCount, "rubber band with repaints", band, baseline);
+    std::printf("%7s  (the band selects %zu of %d widgets; %d repaints per drag)\n", "",
+                view.Selection().Widgets().size(), widgetCount, paints.count / drags);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    RegisterBuiltinWidgetClasses();
+    std::printf("Canvas of a %d x %d window; median and min of %d runs (rubber band: %d runs of %d moves)\n",
+                kWindowWidth, kWindowHeight, kRepaintRepetitions, kBandRepetitions, kBandMoves);
+    std::printf("%7s  %-26s %9s %9s %10s\n", "widgets", "case", "median ms", "min ms", "/ plain");
+    for (int count : {1000, 5000})
+        MeasureCanvas(count);
+    return 0;
+}
