@@ -106,11 +106,13 @@ void CTamloView::FitToWindow()
 
 void CTamloView::InvalidateDocRect(const HmiRect& area)
 {
+    m_dragBackdrop = QImage();
     update(ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin));
 }
 
 void CTamloView::InvalidateView()
 {
+    m_dragBackdrop = QImage();
     FitToWindow();
     update();
 }
@@ -126,7 +128,7 @@ void CTamloView::SetMouseCapture(bool capture)
     // Qt keeps sending the mouse to the pressed widget until the release; an explicit grab is
     // needed only while no button is down, which the tools never ask for.
     if (!capture)
-        m_feedback.clear();
+        ShowDragFeedback({});
 }
 
 void CTamloView::SetCanvasCursor(CanvasCursor cursor)
@@ -138,6 +140,8 @@ void CTamloView::ShowDragFeedback(std::vector<HmiRect> clientRects)
 {
     update(FeedbackArea());
     m_feedback = std::move(clientRects);
+    if (m_feedback.empty())
+        m_dragBackdrop = QImage();
     update(FeedbackArea());
 }
 
@@ -152,13 +156,30 @@ QRect CTamloView::FeedbackArea() const
 void CTamloView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(event->rect(), palette().color(QPalette::Dark));
+    if (m_feedback.empty()) {
+        PaintCanvas(painter, event->rect());
+    } else {
+        // While a drag shows its rectangles the document stands still: it is drawn once and
+        // then copied, so that a band over thousands of widgets follows the mouse.
+        if (m_dragBackdrop.isNull()) {
+            m_dragBackdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
+            m_dragBackdrop.setDevicePixelRatio(devicePixelRatio());
+            QPainter backdrop(&m_dragBackdrop);
+            PaintCanvas(backdrop, rect());
+        }
+        painter.drawImage(event->rect(), m_dragBackdrop, event->rect());
+    }
+    DrawDragFeedback(painter);
+}
+
+void CTamloView::PaintCanvas(QPainter& painter, const QRect& area) const
+{
+    painter.fillRect(area, palette().color(QPalette::Dark));
     {
         CHmiPainterDC dc(painter);
         DrawWindow(m_document, dc);
     }
     DrawTrackers(painter);
-    DrawDragFeedback(painter);
 }
 
 void CTamloView::DrawTrackers(QPainter& painter) const

@@ -4,6 +4,7 @@
 #include "editor/model/canvastools.h"
 #include "widgets/core/hmiview.h"
 
+#include <QImage>
 #include <QWidget>
 
 #include <vector>
@@ -60,6 +61,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void PaintCanvas(QPainter& painter, const QRect& area) const;
     void DrawTrackers(QPainter& painter) const;
     void DrawDragFeedback(QPainter& painter) const;
     QRect FeedbackArea() const;
@@ -68,5 +70,6 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
+    QImage m_dragBackdrop; // the canvas as it stood when the drag began
     QMenu* m_contextMenu = nullptr;
 };
