@@ -145,34 +145,33 @@ QAction* CMainFrame::AddAction(QMenu* menu, const QString& text, const QString& 
     return action;
 }
 
-void CMainFrame::CreateActions()
+QAction* CMainFrame::AddCanvasAction(const QString& text, const QString& statusText, QKeySequence::StandardKey key,
+                                     void (CMainFrame::*slot)())
 {
     // The edit commands act on the canvas; elsewhere (the property pane) their keys edit text.
-    const auto canvasShortcut = [this](QAction* action, QKeySequence::StandardKey key) {
-        action->setShortcuts(key);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        m_mdiArea->addAction(action);
-    };
-    m_undoAction = new QAction(QStringLiteral("Undo(&U)\tCtrl+Z"), this);
-    m_undoAction->setStatusTip(QStringLiteral("Undo the last action"));
-    canvasShortcut(m_undoAction, QKeySequence::Undo);
-    connect(m_undoAction, &QAction::triggered, this, &CMainFrame::EditUndo);
-    m_cutAction = new QAction(QStringLiteral("Cu&t"), this);
-    m_cutAction->setStatusTip(QStringLiteral("Cut the selection and put it on the Clipboard"));
-    canvasShortcut(m_cutAction, QKeySequence::Cut);
-    connect(m_cutAction, &QAction::triggered, this, &CMainFrame::EditCut);
-    m_copyAction = new QAction(QStringLiteral("&Copy"), this);
-    m_copyAction->setStatusTip(QStringLiteral("Copy the selection and put it on the Clipboard"));
-    canvasShortcut(m_copyAction, QKeySequence::Copy);
-    connect(m_copyAction, &QAction::triggered, this, &CMainFrame::EditCopy);
-    m_pasteAction = new QAction(QStringLiteral("&Paste"), this);
-    m_pasteAction->setStatusTip(QStringLiteral("Insert Clipboard contents"));
-    canvasShortcut(m_pasteAction, QKeySequence::Paste);
-    connect(m_pasteAction, &QAction::triggered, this, &CMainFrame::EditPaste);
-    m_deleteAction = new QAction(QStringLiteral("&Delete"), this);
-    m_deleteAction->setStatusTip(QStringLiteral("Delete the selection"));
-    canvasShortcut(m_deleteAction, QKeySequence::Delete);
-    connect(m_deleteAction, &QAction::triggered, this, &CMainFrame::EditDelete);
+    auto* action = new QAction(text, this);
+    action->setStatusTip(statusText);
+    action->setShortcuts(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_mdiArea->addAction(action);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+void CMainFrame::CreateActions()
+{
+    m_undoAction = AddCanvasAction(QStringLiteral("Undo(&U)\tCtrl+Z"), QStringLiteral("Undo the last action"),
+                                   QKeySequence::Undo, &CMainFrame::EditUndo);
+    m_cutAction = AddCanvasAction(QStringLiteral("Cu&t"),
+                                  QStringLiteral("Cut the selection and put it on the Clipboard"), QKeySequence::Cut,
+                                  &CMainFrame::EditCut);
+    m_copyAction = AddCanvasAction(QStringLiteral("&Copy"),
+                                   QStringLiteral("Copy the selection and put it on the Clipboard"), QKeySequence::Copy,
+                                   &CMainFrame::EditCopy);
+    m_pasteAction = AddCanvasAction(QStringLiteral("&Paste"), QStringLiteral("Insert Clipboard contents"),
+                                    QKeySequence::Paste, &CMainFrame::EditPaste);
+    m_deleteAction = AddCanvasAction(QStringLiteral("&Delete"), QStringLiteral("Delete the selection"),
+                                     QKeySequence::Delete, &CMainFrame::EditDelete);
 }
 
 void CMainFrame::CreateMenus()

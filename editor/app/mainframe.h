@@ -4,6 +4,7 @@
 
 #include "editor/dynamicdialogs/scriptfunctions.h"
 
+#include <QKeySequence>
 #include <QMainWindow>
 
 #include <functional>
@@ -65,6 +66,8 @@ private:
     using RowDialog = std::function<bool(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row)>;
     // Opens the dialog of a row's button for the widget the pane shows.
     void RunRowDialog(COptionTreeItem* row, const RowDialog& dialog);
+    QAction* AddCanvasAction(const QString& text, const QString& statusText, QKeySequence::StandardKey key,
+                             void (CMainFrame::*slot)());
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
     CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);

@@ -152,7 +152,8 @@ private slots:
         QFETCH(HmiRect, reference);
         CTamloView& view = editor->NewWindow().View();
         CTamloDoc& document = view.Document();
-        const std::vector<CHmiWidget*> widgets{AddRect(document, {10, 10, 41, 30}), AddRect(document, {60, 50, 100, 90}),
+        const std::vector<CHmiWidget*> widgets{AddRect(document, {10, 10, 41, 30}),
+                                               AddRect(document, {60, 50, 100, 90}),
                                                AddRect(document, {10, 100, 110, 140})};
         for (CHmiWidget* widget : widgets)
             view.Selection().Select(widget, widget != widgets.front());

@@ -74,8 +74,9 @@ private slots:
         CChildFrame* reopened = editor.frame.OpenDocument(path);
         QVERIFY(reopened);
         const auto& widgets = reopened->Document().Widgets();
-        const auto found = std::find_if(widgets.begin(), widgets.end(),
-                                        [&name](const HmiWidgetPtr& widget) { return widget->GetWidgetName() == name; });
+        const auto found = std::find_if(widgets.begin(), widgets.end(), [&name](const HmiWidgetPtr& widget) {
+            return widget->GetWidgetName() == name;
+        });
         QVERIFY(found != widgets.end());
         QCOMPARE(std::string((*found)->GetRuntimeClass()->m_lpszClassName), std::string("CGaugeWidget"));
         QCOMPARE((*found)->GetWidgetRect(), (HmiRect{40, 40, 140, 100}));
