@@ -78,6 +78,7 @@ CTamloView::CTamloView(CTamloDoc& document, QWidget* parent)
     : QWidget(parent)
     , m_document(document)
     , m_selection(document, *this)
+    , m_controls(*this, *this, document)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -86,8 +87,10 @@ CTamloView::CTamloView(CTamloDoc& document, QWidget* parent)
         setFocus(Qt::OtherFocusReason);
         emit widgetSelected(widget);
     });
+    connect(&m_controls, &CCanvasControls::columnResized, this, &CTamloView::documentEdited);
     m_document.AddView(this);
     FitToWindow();
+    m_controls.Sync();
 }
 
 CTamloView::~CTamloView()
@@ -114,6 +117,7 @@ void CTamloView::InvalidateView()
 {
     m_dragBackdrop = QImage();
     FitToWindow();
+    m_controls.Sync();
     update();
 }
 

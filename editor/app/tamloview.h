@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/canvascontrols/canvascontrols.h"
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
 #include "widgets/core/hmiview.h"
@@ -27,6 +28,8 @@ public:
     HmiPoint DocToClient(HmiPoint point) const override { return point; }
     HmiPoint ClientToDoc(HmiPoint point) const override { return point; }
     void InvalidateDocRect(const HmiRect& area) override;
+    // Also brings the live controls in step with the document, which may have changed as a whole
+    // (loaded, pasted into, undone, edited in the property pane).
     void InvalidateView() override;
     void WidgetRemoved(CHmiWidget* widget) override;
 
@@ -38,6 +41,7 @@ public:
     void ShowDragFeedback(std::vector<HmiRect> clientRects) override;
 
     void SetLocked(bool locked) { m_locked = locked; }
+    const CCanvasControls& Controls() const { return m_controls; }
     // The menu the canvas pops up on a right click; the main frame provides it.
     void SetContextMenu(QMenu* menu) { m_contextMenu = menu; }
     // Grows or shrinks the canvas to the window widget's size.
@@ -46,7 +50,7 @@ public:
 signals:
     // A widget joined the selection (the window widget when nothing else is selected).
     void widgetSelected(CHmiWidget* widget);
-    // The mouse or the keyboard changed the document.
+    // The mouse or the keyboard changed the document (a column width dragged on a list control too).
     void documentEdited();
     // The document is about to destroy a widget; whoever shows it must let go.
     void widgetDestroyed(CHmiWidget* widget);
@@ -72,4 +76,5 @@ private:
     std::vector<HmiRect> m_feedback;
     QImage m_dragBackdrop; // the canvas as it stood when the drag began
     QMenu* m_contextMenu = nullptr;
+    CCanvasControls m_controls; // last: it hands the controls back before the canvas goes
 };

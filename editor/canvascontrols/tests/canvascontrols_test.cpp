@@ -1,0 +1,337 @@
+// The live controls on a real canvas inside the main frame, driven with the mouse as a user drives
+// them: the mouse goes to the controls themselves and must reach the canvas tools.
+#include "editor/app/tests/editorfixture.h"
+
+#include "editor/app/toolbox.h"
+#include "editor/canvascontrols/canvascontrol.h"
+#include "editor/model/canvastools.h"
+#include "editor/propertypane/propertypane.h"
+#include "editor/propertypane/propertypaneitem.h"
+#include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/catalogue/hmiwidgetalarmwnd.h"
+#include "widgets/catalogue/hmiwidgetcontrols.h"
+#include "widgets/catalogue/hmiwidgethislist.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTreeWidget>
+
+namespace {
+
+struct ControlSample {
+    const char* name;
+    HmiRect rect;
+};
+
+constexpr ControlSample kCheckbox = {"start", {20, 20, 140, 44}};
+constexpr ControlSample kCombobox = {"mode", {20, 60, 140, 84}};
+constexpr ControlSample kEdit = {"note", {20, 100, 140, 124}};
+constexpr ControlSample kAlarms = {"alarms", {160, 20, 560, 160}};
+constexpr ControlSample kHistory = {"records", {160, 200, 460, 300}};
+
+template <typename Widget>
+void AddSample(CTamloDoc& document, const ControlSample& sample)
+{
+    HmiWidgetPtr widget(new Widget);
+    widget->SetWidgetName(sample.name);
+    widget->SetWidgetRect(sample.rect);
+    document.AddWidget(std::move(widget), true, false);
+}
+
+QRect ToQRect(const HmiRect& rect)
+{
+    return QRect(rect.left, rect.top, rect.Width(), rect.Height());
+}
+
+// Lets the canvas repaint, which is when the widgets put their controls in place.
+void LetTheCanvasPaint()
+{
+    QApplication::processEvents();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(ControlSample)
+
+class CanvasControlsTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<EditorUnderTest> editor;
+    CChildFrame* child = nullptr;
+    CTamloView* view = nullptr;
+    CTamloDoc* document = nullptr;
+
+    CHmiCtrlWidget* Find(const ControlSample& sample) const
+    {
+        for (const HmiWidgetPtr& widget : document->Widgets())
+            if (widget->GetWidgetName() == sample.name)
+                return dynamic_cast<CHmiCtrlWidget*>(widget.get());
+        return nullptr;
+    }
+
+    QWidget* ControlWidget(const ControlSample& sample) const
+    {
+        const CHmiCtrlWidget* widget = Find(sample);
+        const CCanvasControl* control = widget ? view->Controls().ControlOf(*widget) : nullptr;
+        return control ? control->Widget() : nullptr;
+    }
+
+    QTreeWidget* List(const ControlSample& sample) const { return qobject_cast<QTreeWidget*>(ControlWidget(sample)); }
+    std::vector<CHmiWidget*> Selected() const { return view->Selection().Widgets(); }
+
+    // Opens a saved window file with one widget of every control kind. The edit box has no class
+    // key of its own in the registry, so no file brings one: it joins the open window directly.
+    void OpenWindowWithEveryControl()
+    {
+        CTamloDoc source;
+        source.OnNewDocument();
+        AddSample<CHmiWidgetCheckbox>(source, kCheckbox);
+        AddSample<CHmiWidgetCombobox>(source, kCombobox);
+        AddSample<CHmiWidgetAlarmWnd>(source, kAlarms);
+        AddSample<CHmiWidgetHisList>(source, kHistory);
+        const QString path = editor->folder.filePath(QStringLiteral("controls.xml"));
+        QVERIFY(source.Save(path.toStdString()));
+        child = editor->frame.OpenDocument(path);
+        QVERIFY(child);
+        view = &child->View();
+        document = &child->Document();
+        AddSample<CHmiWidgetEdit>(*document, kEdit);
+        view->InvalidateView();
+        LetTheCanvasPaint();
+    }
+
+private slots:
+    void initTestCase()
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        RegisterBuiltinWidgetClasses();
+    }
+
+    void init()
+    {
+        editor = std::make_unique<EditorUnderTest>();
+        OpenWindowWithEveryControl();
+    }
+
+    void cleanup()
+    {
+        CCanvasTools::Instance().Cancel(*view);
+        editor.reset();
+    }
+
+    void everyControlKindStandsAtItsWidget_data()
+    {
+        QTest::addColumn<ControlSample>("sample");
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("checkbox") << kCheckbox << QStringLiteral("QCheckBox");
+        QTest::newRow("combobox") << kCombobox << QStringLiteral("QComboBox");
+        QTest::newRow("edit") << kEdit << QStringLiteral("QLineEdit");
+        QTest::newRow("alarm window") << kAlarms << QStringLiteral("QTreeWidget");
+        QTest::newRow("history list") << kHistory << QStringLiteral("QTreeWidget");
+    }
+
+    void everyControlKindStandsAtItsWidget()
+    {
+        QFETCH(ControlSample, sample);
+        QFETCH(QString, kind);
+        QWidget* control = ControlWidget(sample);
+        QVERIFY(control);
+        QCOMPARE(QString::fromLatin1(control->metaObject()->className()), kind);
+        QCOMPARE(control->parentWidget(), view);
+        QCOMPARE(control->geometry(), ToQRect(sample.rect));
+        QVERIFY(control->isVisible());
+        QCOMPARE(control->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(control->focusPolicy(), Qt::NoFocus);
+    }
+
+    void listControlsShowTheWidgetsColumns()
+    {
+        QTreeWidget* alarms = List(kAlarms);
+        QVERIFY(alarms);
+        const std::vector<ListColumn>& columns = dynamic_cast<CHmiWidgetAlarmWnd*>(Find(kAlarms))->m_columns;
+        QCOMPARE(alarms->header()->count(), 8);
+        for (int i = 0; i < 8; ++i) {
+            QCOMPARE(alarms->headerItem()->text(i).toStdString(), columns[std::size_t(i)].field);
+            QCOMPARE(alarms->header()->sectionSize(i), columns[std::size_t(i)].width);
+        }
+        QCOMPARE(alarms->header()->sectionSize(0), 150);
+
+        QTreeWidget* history = List(kHistory);
+        QVERIFY(history);
+        QCOMPARE(history->header()->count(), 1);
+        QCOMPARE(history->headerItem()->text(0), QStringLiteral("DateTime"));
+        QCOMPARE(history->header()->sectionSize(0), 150);
+    }
+
+    void clicksOnControlsSelectTheirWidgets()
+    {
+        auto* checkbox = qobject_cast<QCheckBox*>(ControlWidget(kCheckbox));
+        Click(checkbox, At(8, 8));
+        QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kCheckbox)});
+        QVERIFY(!checkbox->isChecked()); // the click was the canvas's, not the check box's
+
+        Click(ControlWidget(kCombobox), At(30, 10), Qt::ControlModifier);
+        QCOMPARE(Selected(), (std::vector<CHmiWidget*>{Find(kCheckbox), Find(kCombobox)}));
+        QVERIFY(!QApplication::activePopupWidget()); // no drop-down list opened
+
+        // Shift and a double click take a widget out of the selection, on a control too.
+        QTest::mouseDClick(checkbox, Qt::LeftButton, Qt::ShiftModifier, At(8, 8));
+        QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kCombobox)});
+
+        Click(List(kAlarms)->viewport(), At(50, 50));
+        QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kAlarms)});
+        // A heading, away from its dividers, is part of the control like the rows.
+        QHeaderView* header = List(kHistory)->header();
+        Click(header->viewport(), At(70, header->height() / 2));
+        QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kHistory)});
+    }
+
+    void aDragOnAControlMovesItsWidgetAndTheControlFollows()
+    {
+        QWidget* edit = ControlWidget(kEdit);
+        Drag(edit, At(10, 10), At(40, 30));
+        const HmiRect moved = {50, 120, 170, 144};
+        QCOMPARE(Find(kEdit)->GetWidgetRect(), moved);
+        QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kEdit)});
+        LetTheCanvasPaint();
+        QCOMPARE(edit->geometry(), ToQRect(moved));
+
+        QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+        LetTheCanvasPaint();
+        QCOMPARE(edit->geometry(), ToQRect(kEdit.rect));
+    }
+
+    void aHandleOnAControlResizesItsWidgetAndTheControl()
+    {
+        QWidget* combobox = ControlWidget(kCombobox);
+        Click(combobox, At(30, 10));
+        // The bottom-right handle reaches into the control's last pixel; the drag takes the corner
+        // to the point where it ends.
+        const QPoint grip(combobox->width() - 1, combobox->height() - 1);
+        Drag(combobox, grip, grip + QPoint(30, 20));
+        const HmiRect resized = {20, 60, 169, 103};
+        QCOMPARE(Find(kCombobox)->GetWidgetRect(), resized);
+        QCOMPARE(document->UndoStep().size(), std::size_t(1));
+        LetTheCanvasPaint();
+        QCOMPARE(combobox->geometry(), ToQRect(resized));
+    }
+
+    void deletingHidesTheControlAndUndoShowsItAgain()
+    {
+        QWidget* checkbox = ControlWidget(kCheckbox);
+        Click(checkbox, At(8, 8));
+        QTest::keyClick(view, Qt::Key_Delete);
+        QVERIFY(document->IsWidgetDeleted(Find(kCheckbox)));
+        LetTheCanvasPaint();
+        QVERIFY(!checkbox->isVisible());
+
+        QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!document->IsWidgetDeleted(Find(kCheckbox)));
+        LetTheCanvasPaint();
+        QVERIFY(checkbox->isVisible());
+        QCOMPARE(ControlWidget(kCheckbox), checkbox);
+    }
+
+    void draggingAColumnDividerSetsTheColumnWidth_data()
+    {
+        QTest::addColumn<ControlSample>("sample");
+        QTest::addColumn<QByteArray>("savedWidths");
+        QTest::newRow("alarm window") << kAlarms << QByteArray("\"190,80,80,80,80,80,80,80,\"");
+        QTest::newRow("history list") << kHistory << QByteArray("\"190,\"");
+    }
+
+    void draggingAColumnDividerSetsTheColumnWidth()
+    {
+        QFETCH(ControlSample, sample);
+        QFETCH(QByteArray, savedWidths);
+        document->SetModifiedFlag(false);
+        child->RefreshTitle();
+
+        QHeaderView* header = List(sample)->header();
+        const int y = header->height() / 2;
+        // Just inside the first column's right edge, where the header starts a resize.
+        Drag(header->viewport(), At(149, y), At(189, y));
+        QCOMPARE(header->sectionSize(0), 190);
+        auto* columns = dynamic_cast<ListColumnsState*>(Find(sample));
+        QCOMPARE(columns->m_columns.front().width, 190);
+        QCOMPARE(Find(sample)->GetWidgetRect(), sample.rect); // the widget itself stays put
+        QVERIFY(document->IsModified());
+        QVERIFY(child->isWindowModified());
+
+        editor->prompts.saveFileName = editor->folder.filePath(QStringLiteral("saved.xml"));
+        QVERIFY(child->SaveAs());
+        QFile saved(editor->prompts.saveFileName);
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        const QByteArray bytes = saved.readAll();
+        const qsizetype widths = bytes.indexOf("name=\"fieldswidth\"", bytes.indexOf(sample.name));
+        QVERIFY(widths > 0);
+        QCOMPARE(bytes.mid(bytes.indexOf("value=", widths) + 6, savedWidths.size()), savedWidths);
+    }
+
+    void propertyEditsShowInTheControls()
+    {
+        CPropertyPane& pane = editor->frame.PropertyPane();
+        Click(ControlWidget(kCheckbox), At(8, 8));
+        CPropertyPaneItem* caption = pane.FindItem("Caption");
+        QVERIFY(caption);
+        caption->SetEditText("\xC6\xF4\xB6\xAF"); // the pane holds the model's GB2312 text
+        emit pane.itemChanged(caption);
+        QCOMPARE(qobject_cast<QCheckBox*>(ControlWidget(kCheckbox))->text(), QStringLiteral("启动"));
+
+        Click(ControlWidget(kCombobox), At(30, 10));
+        CPropertyPaneItem* list = pane.FindItem("List");
+        QVERIFY(list);
+        list->SetEditText("a,b,,c");
+        emit pane.itemChanged(list);
+        auto* combobox = qobject_cast<QComboBox*>(ControlWidget(kCombobox));
+        QCOMPARE(combobox->count(), 4);
+        QCOMPARE(combobox->currentText(), QStringLiteral("a"));
+        QCOMPARE(combobox->itemText(2), QString());
+        QCOMPARE(combobox->itemText(3), QStringLiteral("c"));
+
+        // The field dialog gives new columns of the default width; the canvas redraws after it.
+        auto* alarms = dynamic_cast<CHmiWidgetAlarmWnd*>(Find(kAlarms));
+        alarms->SetDisplayFields("Time,Alarm info,");
+        view->InvalidateView();
+        QHeaderView* header = List(kAlarms)->header();
+        QCOMPARE(header->count(), 2);
+        QCOMPARE(List(kAlarms)->headerItem()->text(1), QStringLiteral("Alarm info"));
+        QCOMPARE(header->sectionSize(1), 80);
+        // With every field unchecked the list has no columns at all.
+        alarms->SetDisplayFields("");
+        view->InvalidateView();
+        QCOMPARE(header->count(), 0);
+    }
+
+    void placedAndPastedWidgetsGetControls()
+    {
+        CToolbox& toolbox = editor->frame.Toolbox();
+        const QList<QListWidgetItem*> found = toolbox.findItems(QStringLiteral("Checkbox"), Qt::MatchExactly);
+        QCOMPARE(found.size(), 1);
+        Click(toolbox.viewport(), toolbox.visualItemRect(found.first()).center());
+        Drag(view, At(600, 400), At(700, 430));
+        auto* placed = dynamic_cast<CHmiCtrlWidget*>(document->Widgets().back().get());
+        QVERIFY(placed);
+        const CCanvasControl* control = view->Controls().ControlOf(*placed);
+        QVERIFY(control);
+        QCOMPARE(control->Widget()->geometry(), QRect(600, 400, 100, 30));
+
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+        auto* pasted = dynamic_cast<CHmiCtrlWidget*>(document->Widgets().back().get());
+        QVERIFY(pasted && pasted != placed);
+        const CCanvasControl* pastedControl = view->Controls().ControlOf(*pasted);
+        QVERIFY(pastedControl && pastedControl != control);
+        QCOMPARE(pastedControl->Widget()->geometry(), ToQRect(pasted->GetWidgetRect()));
+        QVERIFY(pastedControl->Widget()->isVisible());
+    }
+};
+
+QTEST_MAIN(CanvasControlsTest)
+#include "canvascontrols_test.moc"
