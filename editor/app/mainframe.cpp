@@ -71,8 +71,12 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* pa
 
 CMainFrame::~CMainFrame()
 {
-    // The children's documents go before the panes that show their widgets, without questions.
-    qDeleteAll(Children());
+    // The children's documents go before the panes that show their widgets, without questions;
+    // closed children may still wait for their deletion.
+    const QList<CChildFrame*> children = m_mdiArea->findChildren<CChildFrame*>();
+    for (CChildFrame* child : children)
+        child->disconnect(this);
+    qDeleteAll(children);
 }
 
 void CMainFrame::CreateDocks()

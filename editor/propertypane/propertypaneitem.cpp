@@ -103,27 +103,27 @@ void CPropertyPaneItem::BuildEditor(const QString& info)
         m_layout->addStretch(1);
 
     if (m_kind == OptionItemKind::File)
-        m_browse = AddButton(&CPropertyPane::fileRequested, QObject::tr("Choose a file"));
+        m_browse = AddButton([this] { emit m_pane.fileRequested(this); }, QObject::tr("Choose a file"));
     else if (m_kind == OptionItemKind::Variable)
-        m_browse = AddButton(&CPropertyPane::selectItemRequested, QObject::tr("Choose a variable"));
+        m_browse = AddButton([this] { emit m_pane.selectItemRequested(this); }, QObject::tr("Choose a variable"));
     else if (m_kind == OptionItemKind::Font)
-        m_browse = AddButton(&CPropertyPane::fontRequested, QObject::tr("Choose a font"));
+        m_browse = AddButton([this] { emit m_pane.fontRequested(this); }, QObject::tr("Choose a font"));
     else if (m_kind == OptionItemKind::Static && m_parent && m_parent->GetLabelText() == kEventRootCaption)
-        m_browse = AddButton(&CPropertyPane::eventEditRequested, QObject::tr("Edit the event script"));
+        m_browse = AddButton([this] { emit m_pane.eventEditRequested(this); }, QObject::tr("Edit the event script"));
     else if (m_kind == OptionItemKind::Static) // a widget's own rows: the widget decides what the button does
-        m_browse = AddButton(&CPropertyPane::selectItemRequested, QObject::tr("Edit"));
+        m_browse = AddButton([this] { emit m_pane.selectItemRequested(this); }, QObject::tr("Edit"));
 
     m_pane.Tree()->setItemWidget(m_row, CPropertyPane::ValueColumn, m_cell);
     m_row->setSizeHint(CPropertyPane::ValueColumn, m_cell->sizeHint());
 }
 
-QToolButton* CPropertyPaneItem::AddButton(void (CPropertyPane::*request)(COptionTreeItem*), const QString& toolTip)
+QToolButton* CPropertyPaneItem::AddButton(const std::function<void()>& request, const QString& toolTip)
 {
     auto* button = new QToolButton;
     button->setText(QStringLiteral("..."));
     button->setToolTip(toolTip);
     button->setAutoRaise(true);
-    connect(button, &QToolButton::clicked, this, [this, request] { (m_pane.*request)(this); });
+    connect(button, &QToolButton::clicked, this, request);
     m_layout->addWidget(button);
     return button;
 }
@@ -164,7 +164,7 @@ void CPropertyPaneItem::SetBindable(bool bindable)
     if (!m_cell || bindable == (m_bind != nullptr))
         return;
     if (bindable) {
-        m_bind = AddButton(&CPropertyPane::dynPropEditRequested, QObject::tr("Bind to an expression"));
+        m_bind = AddButton([this] { emit m_pane.dynPropEditRequested(this); }, QObject::tr("Bind to an expression"));
     } else {
         delete m_bind;
         m_bind = nullptr;

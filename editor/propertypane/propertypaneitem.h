@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <string>
 
 class CPropertyPane;
@@ -56,7 +57,7 @@ protected:
 
 private:
     void BuildEditor(const QString& info);
-    QToolButton* AddButton(void (CPropertyPane::*request)(COptionTreeItem*), const QString& toolTip);
+    QToolButton* AddButton(const std::function<void()>& request, const QString& toolTip);
     void CommitText();
     void ChooseColor();
     void ShowColor();
