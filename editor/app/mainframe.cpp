@@ -23,6 +23,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
@@ -49,6 +50,7 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* pa
     , m_settings(settings)
     , m_recentFiles(settings)
     , m_mdiArea(new QMdiArea(this))
+    , m_cursorPosition(new QLabel(this))
 {
     setWindowTitle(QStringLiteral("Kelvo HMI Editor"));
     setCentralWidget(m_mdiArea);
@@ -58,6 +60,10 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* pa
     CreateActions();
     CreateMenus();
     statusBar()->showMessage(QStringLiteral("Ready"));
+    m_cursorPosition->setObjectName(QStringLiteral("cursorPosition"));
+    const int positionWidth = m_cursorPosition->fontMetrics().horizontalAdvance(QStringLiteral("00000, 00000"));
+    m_cursorPosition->setMinimumWidth(positionWidth);
+    statusBar()->addPermanentWidget(m_cursorPosition);
 
     connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &CMainFrame::ChildActivated);
     connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::AfterEdit);
@@ -330,6 +336,9 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
     view.SetContextMenu(m_canvasMenu);
     connect(&view, &CTamloView::widgetSelected, this, &CMainFrame::ShowSelection);
     connect(&view, &CTamloView::documentEdited, this, &CMainFrame::AfterEdit);
+    connect(&view, &CTamloView::cursorMoved, this, [this](const QPoint& point) {
+        m_cursorPosition->setText(QStringLiteral("%1, %2").arg(point.x()).arg(point.y()));
+    });
     connect(&view, &CTamloView::widgetDestroyed, this, [this](CHmiWidget* widget) {
         if (m_propertyPane->CurrentWidget() == widget)
             m_propertyPane->Clear();

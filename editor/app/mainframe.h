@@ -21,6 +21,7 @@ class CTamloDoc;
 class CTamloView;
 class CToolbox;
 class CWidgetNameCombo;
+class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
@@ -97,6 +98,7 @@ private:
     QSettings& m_settings;
     CRecentFileList m_recentFiles;
     QMdiArea* m_mdiArea;
+    QLabel* m_cursorPosition; // where the mouse stands on the canvas, in window coordinates
     CToolbox* m_toolbox = nullptr;
     CPropertyPane* m_propertyPane = nullptr;
     CWidgetNameCombo* m_nameCombo = nullptr;

@@ -227,6 +227,7 @@ void CTamloView::mousePressEvent(QMouseEvent* event)
 
 void CTamloView::mouseMoveEvent(QMouseEvent* event)
 {
+    emit cursorMoved(event->position().toPoint());
     CCanvasTools::Instance().MouseMove(*this, ToHmiPoint(event->position().toPoint()));
 }
 

@@ -52,6 +52,8 @@ signals:
     void widgetSelected(CHmiWidget* widget);
     // The mouse or the keyboard changed the document (a column width dragged on a list control too).
     void documentEdited();
+    // The mouse stands over this point of the window.
+    void cursorMoved(const QPoint& point);
     // The document is about to destroy a widget; whoever shows it must let go.
     void widgetDestroyed(CHmiWidget* widget);
 

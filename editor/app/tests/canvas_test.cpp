@@ -9,6 +9,7 @@
 #include "widgets/catalogue/builtinwidgets.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 
 #include <set>
@@ -163,8 +164,10 @@ private slots:
         Click(view, At(150, 130));
         const HmiPoint grip = widget->GetHandle(handle);
 
-        // Hovering a handle shows its sizing cursor.
+        // Hovering a handle shows its sizing cursor, and the status bar where the mouse is.
         QTest::mouseMove(view, At(600, 600));
+        const QLabel* position = editor->frame.findChild<QLabel*>(QStringLiteral("cursorPosition"));
+        QCOMPARE(position->text(), QStringLiteral("600, 600"));
         QTest::mouseMove(view, At(grip.x, grip.y));
         const Qt::CursorShape hover = view->cursor().shape();
         QVERIFY(hover != Qt::ArrowCursor);
