@@ -428,7 +428,7 @@ void CMainFrame::AfterEdit()
 void CMainFrame::UpdateEditActions()
 {
     CTamloView* view = ActiveView();
-    const bool hasWidgets = view && !CopyWidgets(view->Selection().Widgets()).empty();
+    const bool hasWidgets = view && HasEditableWidgets(view->Selection().Widgets());
     m_undoAction->setEnabled(view && view->Document().CanUndo());
     m_cutAction->setEnabled(hasWidgets);
     m_copyAction->setEnabled(hasWidgets);

@@ -4,14 +4,21 @@
 #include "widgets/core/tamlodoc.h"
 #include "widgets/core/widgetfilereader.h"
 
+#include <algorithm>
+#include <functional>
+#include <iterator>
+
 namespace {
 
-std::vector<CHmiWidget*> WithoutWindow(const CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
+bool IsWindow(const CHmiWidget* widget)
+{
+    return widget->GetWidgetClassName() == "window";
+}
+
+std::vector<CHmiWidget*> WithoutWindow(const std::vector<CHmiWidget*>& widgets)
 {
     std::vector<CHmiWidget*> result;
-    for (CHmiWidget* widget : widgets)
-        if (widget != document.GetWindowWidget())
-            result.push_back(widget);
+    std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(result), std::not_fn(IsWindow));
     return result;
 }
 
@@ -19,7 +26,7 @@ std::vector<CHmiWidget*> WithoutWindow(const CTamloDoc& document, const std::vec
 
 bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
 {
-    const std::vector<CHmiWidget*> deletable = WithoutWindow(document, widgets);
+    const std::vector<CHmiWidget*> deletable = WithoutWindow(widgets);
     if (deletable.empty())
         return false;
     CUndoStepGuard step(document);
@@ -31,13 +38,16 @@ bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
 std::string CopyWidgets(const std::vector<CHmiWidget*>& widgets)
 {
     std::string text;
-    for (const CHmiWidget* widget : widgets) {
-        if (widget->GetWidgetClassName() != "window")
-            widget->Serialize(text);
-    }
+    for (const CHmiWidget* widget : WithoutWindow(widgets))
+        widget->Serialize(text);
     if (text.empty())
         return text;
     return "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n" + text + "</hmiwidget>\n";
+}
+
+bool HasEditableWidgets(const std::vector<CHmiWidget*>& widgets)
+{
+    return !std::all_of(widgets.begin(), widgets.end(), IsWindow);
 }
 
 std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& text)

@@ -18,6 +18,9 @@ bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
 // The widgets as the text of a window file, for the clipboard; empty when there is nothing to copy.
 std::string CopyWidgets(const std::vector<CHmiWidget*>& widgets);
 
+// Whether Delete, Cut and Copy have anything to work on: a widget other than the window.
+bool HasEditableWidgets(const std::vector<CHmiWidget*>& widgets);
+
 // How far pasted widgets stand from the widgets they were copied from.
 constexpr std::int32_t kPasteOffset = 10;
 

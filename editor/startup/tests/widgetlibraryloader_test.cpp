@@ -3,6 +3,7 @@
 #include "tests/support/tempdir.h"
 #include "widgets/catalogue/hmiwidgetcustom.h"
 #include "widgets/core/tamlodoc.h"
+#include "tests/support/emptyregistry.h"
 #include "widgets/core/widgetlibrary.h"
 
 #include <gtest/gtest.h>
@@ -33,16 +34,7 @@ std::vector<std::string> LibraryNames()
     return names;
 }
 
-// The class registry is process-wide: each test starts and ends with it empty.
-struct LoaderTest : ::testing::Test {
-    void SetUp() override { Clear(); }
-    void TearDown() override { Clear(); }
-    static void Clear()
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        ClearRegisteredWidgetLibs();
-    }
-};
+using LoaderTest = EmptyRegistryTest;
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "widgets/catalogue/hmiwidgetcustom.h"
 #include "widgets/core/hmictrlwidget.h"
+#include "tests/support/emptyregistry.h"
 #include "widgets/core/widgetlibrary.h"
 
 #include <gtest/gtest.h>
@@ -20,15 +21,7 @@ HMI_IMPLEMENT_WIDGET_CLASS(SecondWidget, CHmiCtrlWidget)
 
 const CHmiRuntimeClass* const kCustom = &CHmiWidgetCustom::classCHmiWidgetCustom;
 
-struct RegistryTest : ::testing::Test {
-    void SetUp() override { Clear(); }
-    void TearDown() override { Clear(); }
-    static void Clear()
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        ClearRegisteredWidgetLibs();
-    }
-};
+using RegistryTest = EmptyRegistryTest;
 
 } // namespace
 

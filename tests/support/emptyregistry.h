@@ -1,0 +1,17 @@
+#pragma once
+
+#include "widgets/core/hmiwidget.h"
+#include "widgets/core/widgetlibrary.h"
+
+#include <gtest/gtest.h>
+
+// The class registry is process-wide: each test of this fixture starts and ends with it empty.
+struct EmptyRegistryTest : ::testing::Test {
+    void SetUp() override { Clear(); }
+    void TearDown() override { Clear(); }
+    static void Clear()
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        ClearRegisteredWidgetLibs();
+    }
+};
