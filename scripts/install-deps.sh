@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs every build and test dependency from Debian's packages.
-# Safe to run again: apt-get skips what is already installed.
+# Installs every build and test dependency from Debian's packages. When all of them are
+# installed already it does nothing, so a daily start needs neither root nor a network.
 set -euo pipefail
 
 packages=(
@@ -8,6 +8,12 @@ packages=(
     qt6-base-dev libxml2-dev libgtest-dev
     xvfb xauth x11-utils xdotool imagemagick fonts-dejavu-core
 )
+
+missing=()
+for package in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
 
 if [ "$(id -u)" -ne 0 ]; then
     sudo=sudo
@@ -17,4 +23,4 @@ fi
 
 export DEBIAN_FRONTEND=noninteractive
 $sudo apt-get update -qq
-$sudo apt-get install -y -qq --no-install-recommends "${packages[@]}" >/dev/null
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
