@@ -19,18 +19,6 @@ TEST(HmiWidgetTimer, DeclaresReadsAndWritesItsInterval)
     EXPECT_EQ(timer.m_nInterval, 0) << "read as a plain decimal number";
 }
 
-TEST(HmiWidgetTimer, HasOnlyTheTimerEvent)
-{
-    CHmiWidgetTimer timer;
-    timer.SetWidgetEventCode("click", "beep();");
-    timer.SetWidgetEventCode("timer", "tick();");
-    ASSERT_EQ(timer.GetEvents().size(), 1u);
-    const CHmiWidgetEvent& event = timer.GetEvents()[0];
-    EXPECT_EQ(event.label, "timer");
-    EXPECT_EQ(event.description, "activate this event when time out");
-    EXPECT_EQ(event.code, "tick();");
-}
-
 TEST(HmiWidgetTimer, IntervalIsEditedInItsGroupAndCloned)
 {
     CHmiWidgetTimer timer;

@@ -5,27 +5,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(HmiWidgetWindow, DeclaresAndWritesTheWindowProperties)
-{
-    const CHmiWidgetWindow window;
-    EXPECT_EQ(window.GetWidgetClassName(), "window");
-    EXPECT_EQ(window.GetWidgetRect(), (HmiRect{0, 0, 1024, 768}));
-    const std::vector<PropertyRow> expected = {
-        {"hascaption", "caption", "Set if window has caption", 0, PROP_COMBO, "Window", {"No caption", "Has caption"}},
-        {"centerwnd", "centerwnd", "Set if window align center", 0, PROP_COMBO, "Window",
-         {"Not align center", "Align center"}},
-        {"bkcolor", "bkcolor", "Set window background color", 0, PROP_COLOR, "Window", {}},
-        {"security_level", "security level", "Set security level", 0, PROP_EDIT, "Window", {}},
-        {"security_mode", "security handle mode", "set security handle mode when no permission", 0, PROP_COMBO,
-         "Window", {"no prompt", "prompt no permission", "prompt password window"}},
-    };
-    EXPECT_EQ(OwnPropertyRows(window), expected);
-    EXPECT_EQ(OwnPropertyLines(window), "\t\t\t<property name=\"style\" type=\"ulong\" value=\"0\" />\n"
-                                        "\t\t\t<property name=\"bkcolor\" type=\"ulong\" value=\"16777215\" />\n"
-                                        "\t\t\t<property name=\"security_level\" type=\"ushort\" value=\"0\" />\n"
-                                        "\t\t\t<property name=\"security_mode\" type=\"uchar\" value=\"0\" />\n");
-}
-
 TEST(HmiWidgetWindow, CaptionAndCentringTravelAsStyleBits)
 {
     CHmiWidgetWindow written;
@@ -46,20 +25,6 @@ TEST(HmiWidgetWindow, CaptionAndCentringTravelAsStyleBits)
 
     centred.SetWidgetProperty("bkcolor", "ulong", "0x00FF00", "");
     EXPECT_EQ(centred.m_bkColor, 0x0000FF00u);
-}
-
-TEST(HmiWidgetWindow, HasOnlyOpenAndCloseEvents)
-{
-    CHmiWidgetWindow window;
-    window.SetWidgetEventCode("click", "beep();");
-    window.SetWidgetEventCode("open", "init();");
-    std::vector<std::tuple<std::string, std::string, std::string, std::string>> events;
-    for (const CHmiWidgetEvent& event : window.GetEvents())
-        events.emplace_back(event.name, event.label, event.description, event.code);
-    EXPECT_EQ(events, (decltype(events){
-                          {"open", "open", "activate this event then open window", "init();"},
-                          {"close", "close", "activate this event then close window", ""},
-                      }));
 }
 
 TEST(HmiWidgetWindow, PropertyListShowsAndTakesTheWindowValues)

@@ -13,69 +13,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-std::string Line(const char* name, long value)
-{
-    return std::string("\t\t\t<property name=\"") + name + "\" type=\"ulong\" value=\"" + std::to_string(value) +
-           "\" />\n";
-}
-
-const std::vector<std::string> kRectDirections = {
-    "Horizontal center to sides", "Vertical center to sides", "Left to right", "Right to left",
-    "Horizontal sides to center", "Vertical center to sides", "Top to bottom", "Bottom to top",
-    "Right bottom to left top", "Left bottom to right top", "Left top to right bottom", "Right top to Left bottom",
-    "Center to left top & right bottom", "Left top & right bottom to center", "Center to left bottom & right top",
-    "Left bottom & right top to center"};
-
-} // namespace
-
-TEST(Shapes, DeclareTheirRecordsAndWriteTheirDefaults)
-{
-    CHmiWidgetRect rect;
-    EXPECT_EQ(rect.GetWidgetClassName(), "rectangle");
-    EXPECT_EQ(OwnPropertyRows(rect),
-              (std::vector<PropertyRow>{
-                  {"edgecolor", "edgecolor", "Set the edge color of rectangle", 1, PROP_COLOR, "Rectangle", {}},
-                  {"fillcolor", "fillcolor", "Set the fill color of rectangle", 1, PROP_COLOR, "Rectangle", {}}}));
-    EXPECT_EQ(OwnPropertyLines(rect), Line("edgecolor", 0) + Line("fillcolor", 16777215));
-
-    CHmiWidgetEllipse ellipse;
-    EXPECT_EQ(ellipse.GetWidgetClassName(), "ellipse");
-    EXPECT_EQ(std::get<2>(OwnPropertyRows(ellipse)[1]), "Set the fill color of ellipse");
-
-    CHmiWidgetLine line;
-    EXPECT_EQ(OwnPropertyRows(line),
-              (std::vector<PropertyRow>{
-                  {"color", "color", "Set line color", 1, PROP_COLOR, "Line", {}},
-                  {"linewidth", "linewidth", "Set line width", 1, PROP_EDIT, "Line", {}},
-                  {"direction", "direction", "Set line direction", 1, PROP_COMBO, "Line",
-                   {"Left top to right bottom", "Left bottom to right top"}},
-                  {"style", "style", "Set line style", 1, PROP_COMBO, "Line", {"Solid", "Dotted", "Dash"}}}));
-    EXPECT_EQ(OwnPropertyLines(line), Line("color", 0) + Line("linewidth", 1) + Line("direction", 1) + Line("style", 1));
-
-    CHmiWidgetGradRect gradRect;
-    EXPECT_EQ(gradRect.GetWidgetClassName(), "gradrectangle");
-    const auto rectRows = OwnPropertyRows(gradRect);
-    EXPECT_EQ(std::get<6>(rectRows[2]), kRectDirections);
-    EXPECT_EQ(std::get<5>(rectRows[2]), "Gradient rectangle");
-    EXPECT_EQ(OwnPropertyLines(gradRect), Line("startcolor", 16777215) + Line("endcolor", 0) + Line("direction", 32));
-
-    CHmiWidgetGradEllipse gradEllipse;
-    EXPECT_EQ(gradEllipse.GetWidgetClassName(), "gradellipse");
-    EXPECT_EQ(std::get<6>(OwnPropertyRows(gradEllipse)[2]),
-              (std::vector<std::string>{"Horizontal center to sides", "Vertical center to sides", "Center to Edge"}));
-    EXPECT_EQ(OwnPropertyLines(gradEllipse), Line("startcolor", 16777215) + Line("endcolor", 0) + Line("direction", 0));
-
-    CHmiWidgetGradTriangle triangle;
-    EXPECT_EQ(triangle.GetWidgetClassName(), "gradtriangle");
-    const auto triangleRows = OwnPropertyRows(triangle);
-    EXPECT_EQ(std::get<2>(triangleRows[2]), "Set triangle direction");
-    EXPECT_EQ(std::get<6>(triangleRows[2]), (std::vector<std::string>{"Horizontal to top", "Horizontal to bottom",
-                                                                        "Vertical to right", "Vertical to left"}));
-    EXPECT_EQ(OwnPropertyLines(triangle), Line("startcolor", 16777215) + Line("endcolor", 0) + Line("direction", 1));
-}
-
 TEST(Shapes, ReadEveryValueAsASignedDecimalNumber)
 {
     CHmiWidgetRect rect;

@@ -28,24 +28,9 @@ std::string Line(const char* name, const char* type, const std::string& value, c
 
 } // namespace
 
-TEST(Button, WritesItsDefaultsWithTheCaptionLengthAndReadsHexColours)
+TEST(Button, KeepsTheCaptionLengthItReadsAndReadsHexColours)
 {
     CHmiWidgetButton button;
-    EXPECT_EQ(button.GetWidgetClassName(), "button");
-    EXPECT_EQ(OwnPropertyLines(button),
-              Line("caption", "string", "", "16") + Line("font_color", "ulong", "0") +
-                  Line("font_size", "ulong", "0") + Line("edge_color", "ulong", "0") +
-                  Line("back_color", "ulong", "12632256") + Line("up_shadow_color", "ulong", "16777215") +
-                  Line("down_shadow_color", "ulong", "8421504") + Line("shadow_width", "ulong", "1") +
-                  Line("type", "ulong", "0") + Line("var_name", "string", "", "32") +
-                  Line("pic_name", "string", "", "32") + Line("security_level", "ushort", "0") +
-                  Line("security_mode", "uchar", "0"));
-    const auto rows = OwnPropertyRows(button);
-    EXPECT_EQ(rows[2], (PropertyRow{"caption_len", "Length", "Set caption bytes Length", 0, PROP_EDIT,
-                                    "System Button", {}}));
-    EXPECT_EQ(std::get<4>(rows[0]), PROP_TEXT);
-    EXPECT_EQ(std::get<4>(rows[10]), PROP_VARIABLE);
-
     button.SetWidgetProperty("caption", "string", "Start", "24");
     button.SetWidgetProperty("back_color", "ulong", "0x00FF00", "");
     button.SetWidgetProperty("font_size", "ulong", "16", "");
@@ -154,36 +139,6 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     RecordingDC none;
     text.Draw(none);
     EXPECT_TRUE(none.shapes.empty());
-}
-
-TEST(InputFields, WriteTheirPropertiesInTheirOwnOrder)
-{
-    CHmiWidgetNumInput number;
-    EXPECT_EQ(OwnPropertyLines(number),
-              Line("color", "ulong", "0") + Line("varname", "string", "", "32") +
-                  Line("prompt", "string", "Please input", "32") + Line("intwidth", "ulong", "0") +
-                  Line("precision", "ulong", "2") + Line("minvalue", "float", "0.000000") +
-                  Line("maxvalue", "float", "100.000000") + Line("align", "ulong", "1") +
-                  Line("fontsize", "ulong", "0") + Line("password", "uchar", "0") + Line("inttype", "ulong", "0") +
-                  Line("security_level", "ushort", "0") + Line("security_mode", "uchar", "0") +
-                  Line("transparent", "uchar", "1") + Line("edgecolor", "ulong", "0") +
-                  Line("backcolor", "ulong", "12632256") + Line("up_shadow_color", "ulong", "8421504") +
-                  Line("down_shadow_color", "ulong", "16777215") + Line("shadow_width", "ulong", "1"));
-    EXPECT_EQ(std::get<2>(OwnPropertyRows(number)[2]), "Set number integer number ");
-    EXPECT_EQ(std::get<1>(OwnPropertyRows(number)[7]), "input password");
-
-    CHmiWidgetTextInput text;
-    EXPECT_EQ(OwnPropertyLines(text),
-              Line("color", "ulong", "0") + Line("varname", "string", "", "32") +
-                  Line("prompt", "string", "Please input", "32") + Line("password", "uchar", "0") +
-                  Line("align", "ulong", "1") + Line("fontsize", "ulong", "0") +
-                  Line("security_level", "ushort", "0") + Line("security_mode", "uchar", "0") +
-                  Line("transparent", "uchar", "1") + Line("edgecolor", "ulong", "0") +
-                  Line("backcolor", "ulong", "12632256") + Line("up_shadow_color", "ulong", "8421504") +
-                  Line("down_shadow_color", "ulong", "16777215") + Line("shadow_width", "ulong", "1"));
-    const auto rows = OwnPropertyRows(text);
-    EXPECT_EQ(std::get<1>(rows[3]), "password");
-    EXPECT_EQ(std::get<3>(rows.back()), 0) << "the text input's shadow width is not bindable";
 }
 
 TEST(InputFields, ReadNumbersInEitherBaseAndFloatsAsTyped)

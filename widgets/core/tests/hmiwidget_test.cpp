@@ -16,47 +16,7 @@ HmiWidgetPtr MakeWidget(HmiRect rect)
     return widget;
 }
 
-struct BasicRow {
-    const char* name;
-    const char* label;
-    const char* description;
-    int bindable;
-    PropItemType type;
-};
-
 } // namespace
-
-TEST(HmiWidget, DeclaresTheFourteenBasicPropertiesInOrder)
-{
-    const BasicRow expected[] = {
-        {"name", "Name", "Name", 0, PROP_EDIT},
-        {"left", "Left", "Left position", 1, PROP_EDIT},
-        {"top", "Top", "Top position", 1, PROP_EDIT},
-        {"right", "Right", "Right position", 1, PROP_EDIT},
-        {"bottom", "Bottom", "Bottom position", 1, PROP_EDIT},
-        {"width", "Width", "Width", 0, PROP_EDIT},
-        {"height", "Height", "Height", 0, PROP_EDIT},
-        {"visible", "Visible", "Is widget visible", 1, PROP_CHECKBOX},
-        {"enable", "Enable", "when enable=0,can't use event scripts", 1, PROP_CHECKBOX},
-        {"flash", "Flash", "Is widget flash", 1, PROP_CHECKBOX},
-        {"flashspeed", "Flash speed", "Flash speed,faster when smaller", 1, PROP_EDIT},
-        {"noredraw", "Not redraw", "=0 auto redraw", 1, PROP_CHECKBOX},
-        {"xoffset", "Horizontal offset", "horizontal offset value of widget", 1, PROP_EDIT},
-        {"yoffset", "Vertical offset", "vertical offset value of widget", 1, PROP_EDIT},
-    };
-    const CHmiWidget widget;
-    const auto& props = widget.GetProperties();
-    ASSERT_EQ(props.size(), std::size(expected));
-    for (std::size_t i = 0; i < props.size(); ++i) {
-        SCOPED_TRACE(expected[i].name);
-        EXPECT_EQ(props[i]->m_strName, expected[i].name);
-        EXPECT_EQ(props[i]->m_strLabel, expected[i].label);
-        EXPECT_EQ(props[i]->m_strDescription, expected[i].description);
-        EXPECT_EQ(props[i]->m_nBindable, expected[i].bindable);
-        EXPECT_EQ(props[i]->m_nItemType, expected[i].type);
-        EXPECT_EQ(props[i]->m_strGroup, "Basic properties");
-    }
-}
 
 TEST(HmiWidget, StartsWithTheDefaultFlagsAndNoEvents)
 {

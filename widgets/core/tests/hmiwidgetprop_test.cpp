@@ -31,19 +31,6 @@ TEST(HmiWidgetProp, ConstructionFillsTheDescriptionAndLeavesTheRestEmpty)
     EXPECT_EQ(prop.m_nComboCount, 0);
 }
 
-TEST(HmiWidgetProp, ItemTypeCodesAreTheFileAndPluginContract)
-{
-    EXPECT_EQ(PROP_EDIT, 0);
-    EXPECT_EQ(PROP_COLOR, 1);
-    EXPECT_EQ(PROP_COMBO, 2);
-    EXPECT_EQ(PROP_CHECKBOX, 3);
-    EXPECT_EQ(PROP_FILE, 4);
-    EXPECT_EQ(PROP_VARIABLE, 5);
-    EXPECT_EQ(PROP_TEXT, 6);
-    EXPECT_EQ(PROP_FONT, 7);
-    EXPECT_EQ(PROP_STATIC, 8);
-}
-
 TEST(HmiWidgetProp, ComboListIsReferencedNotCopied)
 {
     CHmiWidgetProp prop = MakeAlignProp();
