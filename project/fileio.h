@@ -2,14 +2,17 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-// The outcome of reading or writing a file: on failure, why, in words for the user.
+// The outcome of reading or writing a file: on failure, why, in words for the user; on success,
+// what the user should know all the same (ReportReadNotice).
 struct FileResult {
     bool ok = true;
     std::string error;
+    std::vector<std::string> notices;
 
     static FileResult Success() { return {}; }
-    static FileResult Failure(std::string why) { return {false, std::move(why)}; }
+    static FileResult Failure(std::string why) { return {false, std::move(why), {}}; }
     explicit operator bool() const { return ok; }
 };
 

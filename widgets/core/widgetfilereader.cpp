@@ -1,6 +1,7 @@
 #include "widgetfilereader.h"
 
 #include "dynamics/dynamictype.h"
+#include "project/readnotices.h"
 #include "project/xmldocument.h"
 #include "widgets/catalogue/hmiwidgetcustom.h"
 
@@ -101,13 +102,16 @@ FileResult ReadWindowDocument(const XmlDocument& document, const WidgetSink& sin
         return FileResult::Failure("The file is not a well-formed XML file.");
     if (!root.Is("hmiwidget"))
         return FileResult::Failure("The file is not a window file: its root element is <" + root.Name() + ">.");
+    CReadNoticeCollector notices;
     for (XmlElement element : ChildElements(root)) {
         if (!element.Is("widget"))
             continue;
         if (HmiWidgetPtr widget = ReadWidget(element))
             sink(std::move(widget));
     }
-    return FileResult::Success();
+    FileResult result;
+    result.notices = notices.Take();
+    return result;
 }
 
 FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
