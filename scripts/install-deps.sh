@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
     cmake make g++ pkg-config
     qt6-base-dev libxml2-dev libgtest-dev
+    locales
     xvfb xauth x11-utils xdotool imagemagick fonts-dejavu-core
 )
 

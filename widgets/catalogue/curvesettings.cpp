@@ -60,9 +60,9 @@ void CurveSettings::DrawPreview(CHmiDC& dc, const HmiRect& rect) const
     if (rows != 0) {
         for (std::int32_t i = 0; i <= rows; ++i) {
             const float value = (m_fMaxValue - m_fMinValue) * float(i) / float(rows) + m_fMinValue;
-            std::snprintf(text, sizeof text, "%.2f", double(value));
             const std::int32_t y = plotBottom - i * height / rows;
-            HmiDrawText(&dc, left + 5, y - 5, left + m_nFrameHSpace, y + 20, text, 0, m_textColor, kTextAlign);
+            HmiDrawText(&dc, left + 5, y - 5, left + m_nFrameHSpace, y + 20, HmiFormatFloat(value, 2), 0, m_textColor,
+                        kTextAlign);
         }
     }
     HmiDrawRect(&dc, plotLeft, plotTop, plotRight, plotBottom, m_frameColor, m_frameColor);

@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <span>
 #include <string>
@@ -134,7 +132,7 @@ public:
             if (spec->length)
                 Self().*spec->length = HmiDecimalToLong(length);
         } else if (float* real = RealOf(Self(), *spec)) {
-            *real = float(std::atof(std::string(value).c_str()));
+            *real = HmiParseFloat(value);
         } else {
             std::int32_t number = ReadNumber(*spec, value);
             if (!spec->sizes.empty())
@@ -156,9 +154,7 @@ public:
         if (const std::string* value = TextOf(Self(), *spec)) {
             text = *value;
         } else if (const float* real = RealOf(Self(), *spec)) {
-            char buffer[64];
-            std::snprintf(buffer, sizeof buffer, "%f", double(*real));
-            text = buffer;
+            text = HmiFormatFloat(*real);
         } else {
             text = std::to_string(Number(*spec) - spec->codeOffset);
         }
@@ -185,7 +181,7 @@ public:
         if (std::string* text = TextOf(Self(), *spec))
             *text = item->GetEditText();
         else if (float* real = RealOf(Self(), *spec))
-            *real = float(std::atof(item->GetEditText().c_str()));
+            *real = HmiParseFloat(item->GetEditText());
         else if (spec->color || spec->colors)
             SetNumber(*spec, std::int32_t(item->GetColor()));
         else if (spec->itemType == PROP_COMBO)

@@ -8,7 +8,6 @@
 #include "tamlodoc.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -467,9 +466,7 @@ void CHmiWidget::SaveWidgetProperty(std::string& archive, const char* name, cons
 void CHmiWidget::SaveWidgetProperty(std::string& archive, const char* name, const char* type, const char* length,
                                     const float& value)
 {
-    char text[64];
-    std::snprintf(text, sizeof text, "%f", double(value));
-    SaveWidgetProperty(archive, name, type, length, std::string_view(text));
+    SaveWidgetProperty(archive, name, type, length, std::string_view(HmiFormatFloat(value)));
 }
 
 void CHmiWidget::SaveWidgetProperties(std::string& archive) const

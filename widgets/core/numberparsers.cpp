@@ -1,6 +1,10 @@
 #include "numberparsers.h"
 
+#include <charconv>
+#include <clocale>
+#include <cstdlib>
 #include <limits>
+#include <locale.h>
 
 namespace {
 
@@ -96,4 +100,20 @@ std::uint32_t HmiParseULong(std::string_view text)
 std::int32_t HmiParseLong(std::string_view text)
 {
     return ToLong(Scan(text, BaseOf(text)));
+}
+
+std::string HmiFormatFloat(double value, int decimals)
+{
+    // Enough for the widest double with its decimals.
+    char text[std::numeric_limits<double>::max_exponent10 + 64];
+    const std::to_chars_result end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, decimals);
+    return std::string(text, end.ptr);
+}
+
+float HmiParseFloat(std::string_view text)
+{
+    // strtod_l with the C locale keeps every rule of atof except the locale's decimal comma.
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", locale_t(nullptr));
+    const std::string terminated(text);
+    return float(strtod_l(terminated.c_str(), nullptr, cLocale));
 }

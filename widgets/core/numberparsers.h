@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 // Lenient number conversion for property texts: no error is ever reported.
@@ -16,3 +17,10 @@ std::int32_t HmiDecimalToLong(std::string_view text);
 // accepted), else base 10.
 std::uint32_t HmiParseULong(std::string_view text);
 std::int32_t HmiParseLong(std::string_view text);
+
+// Floating-point text as the panel writes and reads it, whatever the user's locale: a point
+// before the decimals, never a comma. Formatting gives the decimals that "%f" (6) or "%.2f" (2)
+// give in the C locale; parsing follows the C library's atof in the C locale (leading blanks,
+// a sign, decimal or "0x" hexadecimal digits, an exponent; bad text gives 0).
+std::string HmiFormatFloat(double value, int decimals = 6);
+float HmiParseFloat(std::string_view text);

@@ -6,7 +6,6 @@
 #include "optiontree.h"
 #include "tamlodoc.h"
 
-#include <cstdio>
 #include <optional>
 
 namespace {
@@ -80,9 +79,7 @@ COptionTreeItem* CHmiWidget::CreateNewPropEditItem(COptionTreeItem* parent, cons
 COptionTreeItem* CHmiWidget::CreateNewPropEditItem(COptionTreeItem* parent, const std::string& caption,
                                                    const std::string& info, float value)
 {
-    char text[64];
-    std::snprintf(text, sizeof text, "%f", double(value));
-    return CreateNewPropEditItem(parent, caption, info, std::string(text));
+    return CreateNewPropEditItem(parent, caption, info, HmiFormatFloat(value));
 }
 
 COptionTreeItem* CHmiWidget::CreateNewPropColorItem(COptionTreeItem* parent, const std::string& caption,

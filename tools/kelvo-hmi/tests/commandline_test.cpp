@@ -1,5 +1,6 @@
 // The command-line tool as scripts use it: its output, its files and its exit status.
 
+#include "tests/support/commalocale.h"
 #include "tests/support/tempdir.h"
 
 #include <QImage>
@@ -74,6 +75,23 @@ TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
     EXPECT_EQ(RunTool("render a b --folder c").status, 2);
     EXPECT_EQ(RunTool("frobnicate").status, 2);
     EXPECT_EQ(RunTool("--version").status, 0);
+}
+
+TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)
+{
+    std::string why;
+    ASSERT_TRUE(CommaLocale::Prepare(why)) << why;
+    TempDir dir;
+    for (const char* window : {"main.xml", "pumps.xml", "trends.xml"}) {
+        const std::string in = std::string(KELVO_DEMO_DIR) + "/" + window;
+        const std::string plain = dir.Path(std::string("plain-") + window);
+        const std::string comma = dir.Path(std::string("comma-") + window);
+        ASSERT_EQ(RunTool("roundtrip '" + in + "' '" + plain + "'").status, 0);
+        const std::string command = "roundtrip '" + in + "' '" + comma + "'";
+        ASSERT_EQ(std::system((CommaLocale::ShellEnvironment() + " " + KELVO_HMI_TOOL + " " + command).c_str()), 0);
+        EXPECT_EQ(dir.Read(std::string("comma-") + window), dir.Read(std::string("plain-") + window)) << window;
+    }
+    EXPECT_NE(dir.Read("comma-trends.xml").find("type=\"float\" value=\"150.000000\""), std::string::npos);
 }
 
 TEST(CommandLine, ListsTheVariablesOfTheDemoProject)
