@@ -3,6 +3,7 @@
 #include "project/xmldocument.h"
 #include "widgets/core/hmiwidget.h"
 #include "widgets/core/numberparsers.h"
+#include "widgets/core/windowfiletext.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -28,7 +29,7 @@ HmiColor ParseColor(const std::string& text)
 void OpenTypeParams(std::string& archive, const std::string& expression)
 {
     archive += "\t\t\t\t<type_params expression=\"";
-    archive += CHmiWidget::ConvertExpToXMLFormat(expression);
+    AppendEscapedAttribute(archive, expression);
     archive += '"';
 }
 
@@ -112,7 +113,9 @@ void CHmiDynColorAnalog::WriteInnerElement(std::string& archive) const
     archive += " count=\"" + std::to_string(n) + "\" defaultcolor=\"" + HexColor(defaultColor) + "\" ";
     for (std::int32_t i = 0; i < n; ++i) {
         const std::string index = std::to_string(i);
-        archive += " limit_value" + index + "=\"" + limits[i] + "\" color" + index + "=\"" + HexColor(colors[i]) + "\" ";
+        archive += " limit_value" + index + "=\"";
+        AppendPlainAttribute(archive, limits[i]);
+        archive += "\" color" + index + "=\"" + HexColor(colors[i]) + "\" ";
     }
     archive += " />\r\n";
 }
@@ -212,7 +215,9 @@ std::string CHmiDynScript::ComposeExpression() const
 
 void CHmiDynScript::WriteInnerElement(std::string& archive) const
 {
-    archive += "\t\t\t\t<code>\r\n\t\t\t\t\t<![CDATA[" + expression + "]]>\r\n\t\t\t\t</code>\r\n";
+    archive += "\t\t\t\t<code>\r\n\t\t\t\t\t";
+    AppendCDataSection(archive, expression);
+    archive += "\r\n\t\t\t\t</code>\r\n";
 }
 
 bool CHmiDynScript::ReadInnerElement(const XmlElement& element)

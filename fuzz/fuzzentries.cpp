@@ -53,13 +53,17 @@ void FuzzWindowFile(const std::uint8_t* data, std::size_t size)
     }();
     (void)registered;
     CTamloDoc document;
-    ReadWindowDocument(XmlDocument::Parse(Text(data, size)),
-                       [&](HmiWidgetPtr widget) { document.AddWidget(std::move(widget), false, false); });
-    // Reading back what was written: it need not parse, since unknown widgets write their
-    // values back unescaped and scripts may hold "]]>", but it must not crash either.
-    CTamloDoc again;
-    ReadWindowDocument(XmlDocument::Parse(document.Serialize()),
-                       [&](HmiWidgetPtr widget) { again.AddWidget(std::move(widget), false, false); });
+    ReadWindowText(Text(data, size), [&](HmiWidgetPtr widget) { document.AddWidget(std::move(widget), false, false); });
+    // Whatever was read is either written so that it reads back the same, or refused.
+    std::string text;
+    if (!document.SerializeChecked(text))
+        return;
+    std::string written;
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        widget->Serialize(written);
+    std::string reread;
+    if (!ReadWindowText(text, [&](HmiWidgetPtr widget) { widget->Serialize(reread); }) || reread != written)
+        std::abort();
 }
 
 void FuzzNumberParsers(const std::uint8_t* data, std::size_t size)

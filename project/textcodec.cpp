@@ -5,9 +5,61 @@
 
 namespace {
 
+constexpr char32_t kReplacementCharacter = 0xFFFD;
+
 bool IsAscii(std::string_view text)
 {
     return std::all_of(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0x80) == 0; });
+}
+
+// The length of the valid UTF-8 character at the start of the text, and its code point; 0
+// when the text does not start with one.
+std::size_t DecodeUtf8(std::string_view text, char32_t& codePoint)
+{
+    if (text.empty())
+        return 0;
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char lead = byte(0);
+    std::size_t length;
+    char32_t minimum;
+    if (lead < 0x80)
+        length = 1, minimum = 0, codePoint = lead;
+    else if ((lead & 0xE0) == 0xC0)
+        length = 2, minimum = 0x80, codePoint = lead & 0x1F;
+    else if ((lead & 0xF0) == 0xE0)
+        length = 3, minimum = 0x800, codePoint = lead & 0x0F;
+    else if ((lead & 0xF8) == 0xF0)
+        length = 4, minimum = 0x10000, codePoint = lead & 0x07;
+    else
+        return 0;
+    if (text.size() < length)
+        return 0;
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0) != 0x80)
+            return 0;
+        codePoint = (codePoint << 6) | (byte(i) & 0x3F);
+    }
+    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    return codePoint < minimum || codePoint > 0x10FFFF || surrogate ? 0 : length;
+}
+
+void AppendUtf8(std::string& out, char32_t c)
+{
+    if (c < 0x80) {
+        out += char(c);
+    } else if (c < 0x800) {
+        out += char(0xC0 | (c >> 6));
+        out += char(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        out += char(0xE0 | (c >> 12));
+        out += char(0x80 | ((c >> 6) & 0x3F));
+        out += char(0x80 | (c & 0x3F));
+    } else {
+        out += char(0xF0 | (c >> 18));
+        out += char(0x80 | ((c >> 12) & 0x3F));
+        out += char(0x80 | ((c >> 6) & 0x3F));
+        out += char(0x80 | (c & 0x3F));
+    }
 }
 
 // One open conversion per direction and thread, reset before each use: opening one costs far
@@ -23,24 +75,34 @@ public:
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    bool Convert(std::string_view in, std::string& out)
+    // Converts as much of the input as it can and appends it to out; in keeps what is left from
+    // the first character that does not convert on. False when the converter is unusable.
+    bool ConvertPrefix(std::string_view& in, std::string& out)
     {
         if (m_cd == kInvalid)
             return false;
         iconv(m_cd, nullptr, nullptr, nullptr, nullptr);
         // GB2312 never needs more bytes than UTF-8 for the same text; UTF-8 needs at most
         // 3 bytes for every 2 of GB2312 and 1 for 1.
-        std::string buffer(in.size() * 2 + 4, '\0');
+        const std::size_t start = out.size();
+        out.resize(start + in.size() * 2 + 4);
         char* src = const_cast<char*>(in.data());
         std::size_t srcLeft = in.size();
-        char* dst = buffer.data();
-        std::size_t dstLeft = buffer.size();
-        if (iconv(m_cd, &src, &srcLeft, &dst, &dstLeft) == std::size_t(-1))
+        char* dst = out.data() + start;
+        std::size_t dstLeft = out.size() - start;
+        iconv(m_cd, &src, &srcLeft, &dst, &dstLeft);
+        iconv(m_cd, nullptr, nullptr, &dst, &dstLeft);
+        out.resize(out.size() - dstLeft);
+        in.remove_prefix(in.size() - srcLeft);
+        return true;
+    }
+
+    bool Convert(std::string_view in, std::string& out)
+    {
+        std::string converted;
+        if (!ConvertPrefix(in, converted) || !in.empty())
             return false;
-        if (iconv(m_cd, nullptr, nullptr, &dst, &dstLeft) == std::size_t(-1))
-            return false;
-        buffer.resize(buffer.size() - dstLeft);
-        out = std::move(buffer);
+        out = std::move(converted);
         return true;
     }
 
@@ -48,6 +110,18 @@ private:
     static inline const iconv_t kInvalid = reinterpret_cast<iconv_t>(-1);
     iconv_t m_cd;
 };
+
+Converter& ToGb2312()
+{
+    thread_local Converter converter("GB2312", "UTF-8");
+    return converter;
+}
+
+Converter& FromGb2312()
+{
+    thread_local Converter converter("UTF-8", "GB2312");
+    return converter;
+}
 
 } // namespace
 
@@ -57,8 +131,7 @@ bool Utf8ToGb2312(std::string_view utf8, std::string& out)
         out.assign(utf8);
         return true;
     }
-    thread_local Converter converter("GB2312", "UTF-8");
-    return converter.Convert(utf8, out);
+    return ToGb2312().Convert(utf8, out);
 }
 
 bool Gb2312ToUtf8(std::string_view gb2312, std::string& out)
@@ -67,18 +140,57 @@ bool Gb2312ToUtf8(std::string_view gb2312, std::string& out)
         out.assign(gb2312);
         return true;
     }
-    thread_local Converter converter("UTF-8", "GB2312");
-    return converter.Convert(gb2312, out);
+    return FromGb2312().Convert(gb2312, out);
 }
 
 std::string Utf8ToGb2312OrKeep(std::string_view utf8)
 {
+    if (IsAscii(utf8))
+        return std::string(utf8);
     std::string out;
-    return Utf8ToGb2312(utf8, out) ? out : std::string(utf8);
+    out.reserve(utf8.size());
+    while (!utf8.empty()) {
+        if (!ToGb2312().ConvertPrefix(utf8, out))
+            return std::string(utf8);
+        if (utf8.empty())
+            break;
+        char32_t codePoint;
+        const std::size_t length = DecodeUtf8(utf8, codePoint);
+        out += kForeignMark;
+        AppendUtf8(out, length ? codePoint : kReplacementCharacter);
+        utf8.remove_prefix(length ? length : 1);
+    }
+    return out;
 }
 
 std::string Gb2312ToUtf8OrKeep(std::string_view gb2312)
 {
+    if (IsAscii(gb2312))
+        return std::string(gb2312);
     std::string out;
-    return Gb2312ToUtf8(gb2312, out) ? out : std::string(gb2312);
+    out.reserve(gb2312.size() * 3 / 2);
+    while (!gb2312.empty()) {
+        if (!FromGb2312().ConvertPrefix(gb2312, out))
+            return std::string(gb2312);
+        if (gb2312.empty())
+            break;
+        if (gb2312.front() == kForeignMark) {
+            const ForeignCharacter foreign = ReadForeignCharacter(gb2312, 0);
+            AppendUtf8(out, foreign.codePoint);
+            gb2312.remove_prefix(foreign.length);
+        } else {
+            out += gb2312.front(); // not GB2312: kept as it is
+            gb2312.remove_prefix(1);
+        }
+    }
+    return out;
+}
+
+ForeignCharacter ReadForeignCharacter(std::string_view text, std::size_t at)
+{
+    char32_t codePoint;
+    const std::size_t length = DecodeUtf8(text.substr(at + 1), codePoint);
+    if (length == 0 || codePoint < 0x80)
+        return {kReplacementCharacter, 1};
+    return {codePoint, length + 1};
 }

@@ -2,18 +2,23 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 struct _xmlDoc;
+struct _xmlError;
 struct _xmlNode;
+struct _xmlTextReader;
 
 // Read access to a parsed XML file, shared by every reader of project and window files.
-// Blank text between elements is dropped, no network is touched, and attribute values come
-// back in the editor's code page: a file that declares the encoding "GB2312" gets its values
-// converted from the parser's UTF-8 back to GB2312 (kept as UTF-8 where that fails); any other
-// file gets them as the parser delivers them.
+// Blank text between elements is dropped and no network is touched. Attribute values and text
+// come back in the editor's text form (project/textcodec.h): GB2312, with the characters that
+// GB2312 cannot hold marked; a value that holds such characters leaves a read notice.
+//
+// A file that declares entities is refused: window and project files never use them, and a
+// few hundred bytes of entity declarations can expand into gigabytes when values are read.
 class XmlElement {
 public:
-    XmlElement(_xmlNode* node, bool gb2312) : m_node(node), m_gb2312(gb2312) {}
+    explicit XmlElement(_xmlNode* node) : m_node(node) {}
 
     explicit operator bool() const { return m_node != nullptr; }
     // True when this is an element with exactly this name.
@@ -21,7 +26,7 @@ public:
     std::string Name() const;
     // The attribute's value; empty when it is absent.
     std::string Attribute(const char* name) const;
-    // All text inside the element (CDATA included), in the editor's code page.
+    // All text inside the element (CDATA included).
     std::string Text() const;
 
     // The first child element, and the element after this one; a false element at the end.
@@ -31,10 +36,7 @@ public:
     friend bool operator==(const XmlElement& a, const XmlElement& b) { return a.m_node == b.m_node; }
 
 private:
-    std::string FromParser(const unsigned char* text) const;
-
     _xmlNode* m_node;
-    bool m_gb2312;
 };
 
 class XmlDocument {
@@ -42,9 +44,11 @@ public:
     // Parses a file; check IsValid. Never throws and never prints.
     static XmlDocument Load(const std::string& path);
     // Parses text held in memory (for the fuzzers and for tests).
-    static XmlDocument Parse(const std::string& text);
+    static XmlDocument Parse(std::string_view text);
 
     bool IsValid() const { return m_doc != nullptr; }
+    // Why the file is not valid, in words for the user.
+    const std::string& Error() const { return m_error; }
     // The root element, or a false element when the file had none.
     XmlElement Root() const;
 
@@ -52,10 +56,49 @@ private:
     struct Free {
         void operator()(_xmlDoc* doc) const;
     };
-    explicit XmlDocument(_xmlDoc* doc);
+    XmlDocument(_xmlDoc* doc, std::string error);
 
     std::unique_ptr<_xmlDoc, Free> m_doc;
-    bool m_gb2312 = false;
+    std::string m_error;
+};
+
+// Reads the child elements of a document's root one at a time, each as a small tree that
+// lives until the next one is read: a window file of any size takes the memory of one widget.
+// Refuses what XmlDocument refuses. An error may be found before the reading reaches it, and
+// always by the end of the root.
+class XmlChildStream {
+public:
+    // The text must outlive the stream.
+    explicit XmlChildStream(std::string_view text);
+    ~XmlChildStream();
+    XmlChildStream(const XmlChildStream&) = delete;
+    XmlChildStream& operator=(const XmlChildStream&) = delete;
+
+    // The root element's name; empty when the text has none (it is not XML, or was refused).
+    const std::string& RootName() const { return m_rootName; }
+    // The next child element of the root; a false element after the last one and at the first
+    // error. At the end of the root, the rest of the text is read, so that IsValid then tells
+    // about the whole text.
+    XmlElement Next();
+    // False from the first error on.
+    bool IsValid() const { return m_error.empty(); }
+    // Why the text is not valid, in words for the user, and the line of the error (from 1).
+    const std::string& Error() const { return m_error; }
+    int ErrorLine() const { return m_errorLine; }
+
+private:
+    static void KeepFirstError(void* stream, _xmlError* error);
+    // Whether a reader call moved on; a failed one records the error.
+    bool MovedOn(int readerResult);
+    void Fail(std::string error, int line);
+    void ReadToTheEnd();
+
+    _xmlTextReader* m_reader;
+    std::string m_rootName;
+    std::string m_error;
+    int m_errorLine = 0;
+    bool m_atChild = false; // the reader stands on a child element, expanded
+    bool m_ended = false;
 };
 
 // Iterates over the child elements of an element: for (XmlElement child : ChildElements(e)).
@@ -79,7 +122,7 @@ public:
     };
 
     Iterator begin() const { return Iterator(m_parent.FirstChild()); }
-    Iterator end() const { return Iterator(XmlElement(nullptr, false)); }
+    Iterator end() const { return Iterator(XmlElement(nullptr)); }
 
 private:
     XmlElement m_parent;

@@ -13,7 +13,7 @@ std::string ScriptFunction::InsertionText() const
 std::vector<ScriptFunction> LoadScriptFunctions(const std::string& path)
 {
     const XmlDocument document = XmlDocument::Load(path);
-    const XmlElement root = document.IsValid() ? document.Root() : XmlElement(nullptr, false);
+    const XmlElement root = document.Root();
     if (!root || !root.Is("functions"))
         return {};
     std::vector<ScriptFunction> functions;

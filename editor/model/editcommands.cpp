@@ -53,7 +53,7 @@ bool HasEditableWidgets(const std::vector<CHmiWidget*>& widgets)
 std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& text)
 {
     std::vector<HmiWidgetPtr> read;
-    ReadWindowDocument(XmlDocument::Parse(text), [&read](HmiWidgetPtr widget) {
+    ReadWindowText(text, [&read](HmiWidgetPtr widget) {
         if (widget->GetWidgetClassName() != "window")
             read.push_back(std::move(widget));
     });

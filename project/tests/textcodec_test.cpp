@@ -20,17 +20,27 @@ TEST(TextCodec, ChineseTextRoundTrips)
     EXPECT_EQ(utf8, "T=" + kTemperatureUtf8);
 }
 
-TEST(TextCodec, UnconvertibleTextIsReportedOrKept)
+TEST(TextCodec, CharactersOutsideGb2312AreMarkedAndComeBackAsThemselves)
 {
     std::string out = "untouched";
-    EXPECT_FALSE(Utf8ToGb2312(kEuroUtf8, out));
+    EXPECT_FALSE(Utf8ToGb2312(kEuroUtf8, out)) << "the strict conversion refuses them";
     EXPECT_EQ(out, "untouched");
-    EXPECT_EQ(Utf8ToGb2312OrKeep("a" + kEuroUtf8), "a" + kEuroUtf8);
-    EXPECT_EQ(Utf8ToGb2312OrKeep("a" + kTemperatureUtf8), "a" + kTemperatureGb);
+
+    const std::string mixed = "a" + kEuroUtf8 + kTemperatureUtf8 + "\xF0\x9F\x98\x80z";
+    const std::string held = Utf8ToGb2312OrKeep(mixed);
+    EXPECT_EQ(held, "a\x80" + kEuroUtf8 + kTemperatureGb + "\x80\xF0\x9F\x98\x80z");
+    EXPECT_EQ(Gb2312ToUtf8OrKeep(held), mixed);
+    EXPECT_FALSE(Gb2312ToUtf8(held, out)) << "marked text is not GB2312";
+    EXPECT_EQ(ReadForeignCharacter(held, 1).codePoint, U'\u20AC');
+    EXPECT_EQ(ReadForeignCharacter(held, 1).length, 4u);
+
+    EXPECT_EQ(Utf8ToGb2312OrKeep("a\xFF" "b"), "a\x80\xEF\xBF\xBD" "b") << "invalid UTF-8 becomes U+FFFD";
+    EXPECT_EQ(ReadForeignCharacter("\x80", 0).codePoint, U'\uFFFD') << "a mark without its character";
+    EXPECT_EQ(ReadForeignCharacter("\x80", 0).length, 1u);
 
     const std::string truncatedGb = kTemperatureGb.substr(0, 3);
     EXPECT_FALSE(Gb2312ToUtf8(truncatedGb, out));
-    EXPECT_EQ(Gb2312ToUtf8OrKeep(truncatedGb), truncatedGb);
+    EXPECT_EQ(Gb2312ToUtf8OrKeep(truncatedGb), kTemperatureUtf8.substr(0, 3) + "\xB6") << "bad bytes are kept";
 }
 
 TEST(TextCodec, AsciiAndEmptyTextPassUnchanged)

@@ -1,3 +1,4 @@
+#include "project/readnotices.h"
 #include "project/xmldocument.h"
 
 #include <gtest/gtest.h>
@@ -32,13 +33,67 @@ TEST(XmlDocument, Gb2312FilesGiveTheirValuesBackInGb2312)
     EXPECT_EQ(root.Attribute("missing"), "");
 }
 
-TEST(XmlDocument, OtherFilesGiveTheParsersUtf8)
+TEST(XmlDocument, EveryFileGivesTheEditorsTextAndNotesWhatGb2312CannotHold)
 {
+    CReadNoticeCollector notices;
     const XmlDocument declared = XmlDocument::Parse("<?xml version=\"1.0\" encoding=\"UTF-8\"?><root a=\"" +
                                                     kTemperatureUtf8 + "\"/>");
-    EXPECT_EQ(declared.Root().Attribute("a"), kTemperatureUtf8);
+    EXPECT_EQ(declared.Root().Attribute("a"), kTemperatureGb);
     const XmlDocument undeclared = XmlDocument::Parse("<root a=\"" + kTemperatureUtf8 + "\"/>");
-    EXPECT_EQ(undeclared.Root().Attribute("a"), kTemperatureUtf8);
+    EXPECT_EQ(undeclared.Root().Attribute("a"), kTemperatureGb);
+    EXPECT_TRUE(notices.Take().empty());
+
+    const XmlDocument euro = XmlDocument::Parse("<?xml version=\"1.0\" encoding=\"GB2312\"?><root a=\"&#x20AC;1\"/>");
+    EXPECT_EQ(euro.Root().Attribute("a"), "\x80\xE2\x82\xAC" "1");
+    EXPECT_EQ(notices.Take().size(), 1u);
+}
+
+TEST(XmlDocument, FilesThatDeclareEntitiesAreRefused)
+{
+    for (const char* text : {"<!DOCTYPE r [<!ENTITY e \"xxxxxxxx\">]><r a=\"&e;&e;\"/>",
+                             "<!DOCTYPE r [<!ENTITY % p \"x\">]><r/>"}) {
+        const XmlDocument doc = XmlDocument::Parse(text);
+        EXPECT_FALSE(doc.IsValid()) << text;
+        EXPECT_NE(doc.Error().find("entities"), std::string::npos) << doc.Error();
+        XmlChildStream stream(text);
+        EXPECT_FALSE(stream.IsValid()) << text;
+        EXPECT_FALSE(stream.Next());
+    }
+    EXPECT_TRUE(XmlDocument::Parse("<!DOCTYPE r><r a=\"&amp;&#65;\"/>").IsValid()) << "a DOCTYPE alone is fine";
+}
+
+TEST(XmlChildStream, GivesTheRootsChildrenOneByOneAndJudgesTheWholeText)
+{
+    XmlChildStream stream("<?xml version=\"1.0\"?>\n<r>\n <a x=\"1\"><in/></a>text<!-- c -->\r\n"
+                          " <b><![CDATA[p\r\nq\rr]]>&#13;</b>\n</r>\n");
+    EXPECT_EQ(stream.RootName(), "r");
+    const XmlElement a = stream.Next();
+    ASSERT_TRUE(a.Is("a"));
+    EXPECT_EQ(a.Attribute("x"), "1");
+    EXPECT_TRUE(a.FirstChild().Is("in"));
+    const XmlElement b = stream.Next();
+    ASSERT_TRUE(b.Is("b"));
+    EXPECT_EQ(b.Text(), "p\nq\nr\r") << "line ends read as XML reads them; a referenced CR stays";
+    EXPECT_FALSE(stream.Next());
+    EXPECT_TRUE(stream.IsValid());
+
+    XmlChildStream empty("<r/>");
+    EXPECT_EQ(empty.RootName(), "r");
+    EXPECT_FALSE(empty.Next());
+    EXPECT_TRUE(empty.IsValid());
+
+    XmlChildStream broken("<r><a/>\n<b/>\n</r>\n<oops");
+    while (broken.Next()) {
+    }
+    EXPECT_FALSE(broken.IsValid()) << "an error after the root is found too";
+    EXPECT_EQ(broken.ErrorLine(), 4);
+
+    for (const char* text : {"", "not xml", "<?xml version=\"1.0\"?>"}) {
+        XmlChildStream none(text);
+        EXPECT_EQ(none.RootName(), "") << text;
+        EXPECT_FALSE(none.IsValid()) << text;
+        EXPECT_FALSE(none.Next());
+    }
 }
 
 TEST(XmlDocument, ChildElementsSkipTextCommentsAndBlanks)
@@ -54,11 +109,12 @@ TEST(XmlDocument, TextIncludesCdataWithoutTheBlanksAroundIt)
     EXPECT_EQ(doc.Root().Text(), "a < b\nc();") << "the parser normalises line ends to LF";
 }
 
-TEST(XmlDocument, BrokenInputGivesAnInvalidDocument)
+TEST(XmlDocument, BrokenInputGivesAnInvalidDocumentAndWhy)
 {
     for (const char* text : {"", "not xml", "<r>", "<r></s>", "<?xml version=\"1.0\"?>"}) {
         const XmlDocument doc = XmlDocument::Parse(text);
         EXPECT_FALSE(doc.IsValid()) << text;
+        EXPECT_NE(doc.Error().find("not well-formed"), std::string::npos) << doc.Error();
         EXPECT_FALSE(doc.Root());
         EXPECT_EQ(doc.Root().Attribute("a"), "");
         EXPECT_TRUE(ChildNames(doc.Root()).empty());

@@ -1,6 +1,7 @@
 #include "hmiwidgetcustom.h"
 
 #include "widgets/core/optiontree.h"
+#include "widgets/core/windowfiletext.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetCustom, CHmiWidget)
 
@@ -25,16 +26,18 @@ int CHmiWidgetCustom::SetWidgetProperty(std::string_view name, std::string_view 
 {
     if (CHmiWidget::SetWidgetProperty(name, type, value, length))
         return 1;
+    // Kept as the line it will be written as; the values come unescaped from the reader, so the
+    // characters that would break the line go back in as entities.
     CustomInfo += "\t\t\t<property name=\"";
-    CustomInfo += name;
+    AppendPlainAttribute(CustomInfo, name);
     CustomInfo += "\" type=\"";
-    CustomInfo += type;
+    AppendPlainAttribute(CustomInfo, type);
     if (!length.empty()) {
         CustomInfo += "\" length=\"";
-        CustomInfo += length;
+        AppendPlainAttribute(CustomInfo, length);
     }
     CustomInfo += "\" value=\"";
-    CustomInfo += value;
+    AppendPlainAttribute(CustomInfo, value);
     CustomInfo += "\" />\n";
     return 1;
 }

@@ -6,6 +6,7 @@
 #include "numberparsers.h"
 #include "optiontree.h"
 #include "tamlodoc.h"
+#include "windowfiletext.h"
 
 #include <algorithm>
 
@@ -401,19 +402,9 @@ int CHmiWidget::GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text
 
 std::string CHmiWidget::ConvertExpToXMLFormat(std::string_view text)
 {
-    // One pass gives the same result as replacing "&" first and then the other four.
     std::string out;
     out.reserve(text.size());
-    for (char c : text) {
-        switch (c) {
-        case '&': out += "&amp;"; break;
-        case '"': out += "&quot;"; break;
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '\'': out += "&apos;"; break;
-        default: out += c;
-        }
-    }
+    AppendEscapedAttribute(out, text);
     return out;
 }
 
@@ -423,15 +414,15 @@ void AppendPropertyLine(std::string& archive, const char* name, const char* type
                         std::string_view value)
 {
     archive += "\t\t\t<property name=\"";
-    archive += name;
+    AppendPlainAttribute(archive, name);
     archive += "\" type=\"";
-    archive += type;
+    AppendPlainAttribute(archive, type);
     if (!length.empty()) {
         archive += "\" length=\"";
-        archive += length;
+        AppendPlainAttribute(archive, length);
     }
     archive += "\" value=\"";
-    archive += CHmiWidget::ConvertExpToXMLFormat(value);
+    AppendEscapedAttribute(archive, value);
     archive += "\" />\n";
 }
 
@@ -487,9 +478,9 @@ void CHmiWidget::SaveWidgetProperties(std::string& archive) const
 void CHmiWidget::Serialize(std::string& archive) const
 {
     archive += "\t<widget name=\"";
-    archive += m_strName;
+    AppendPlainAttribute(archive, m_strName);
     archive += "\"  class=\"";
-    archive += GetWidgetClassName();
+    AppendPlainAttribute(archive, GetWidgetClassName());
     archive += "\">\r\n\t\t<properties>\r\n";
     SaveWidgetProperties(archive);
     archive += "\t\t</properties>\r\n";
@@ -505,12 +496,12 @@ void CHmiWidget::WriteDynamics(std::string& archive) const
         if (prop->m_strExpression.empty())
             continue;
         archive += "\t\t\t<dynamic propname=\"";
-        archive += prop->m_strName;
+        AppendPlainAttribute(archive, prop->m_strName);
         archive += "\" expression=\"";
-        archive += ConvertExpToXMLFormat(prop->m_strExpression);
+        AppendEscapedAttribute(archive, prop->m_strExpression);
         if (const CHmiDynamicType* type = prop->GetDynamicType()) {
             archive += "\" type=\"";
-            archive += type->GetTypeName();
+            AppendPlainAttribute(archive, type->GetTypeName());
             archive += "\" >\r\n";
             type->WriteInnerElement(archive);
             archive += "\t\t\t</dynamic>\r\n";
@@ -528,10 +519,10 @@ void CHmiWidget::WriteEvents(std::string& archive) const
         if (event.code.empty())
             continue;
         archive += "\t\t\t<event name=\"";
-        archive += event.name;
-        archive += "\">\n\t\t\t\t<![CDATA[";
-        archive += event.code;
-        archive += "]]>\n\t\t\t</event>\r\n";
+        AppendPlainAttribute(archive, event.name);
+        archive += "\">\n\t\t\t\t";
+        AppendCDataSection(archive, event.code);
+        archive += "\n\t\t\t</event>\r\n";
     }
     archive += "\t\t</events>\r\n";
 }

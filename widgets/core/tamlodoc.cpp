@@ -11,6 +11,7 @@
 namespace {
 
 constexpr const char* kWindowClassKey = "window";
+constexpr const char* kWindowFileEnd = "</hmiwidget>\n";
 
 } // namespace
 
@@ -227,19 +228,39 @@ FileResult CTamloDoc::Load(const std::string& path)
     return result;
 }
 
-std::string CTamloDoc::Serialize() const
+std::string CTamloDoc::SerializeWidgets(std::vector<WrittenWidget>& written) const
 {
     std::string archive = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
-    for (const HmiWidgetPtr& widget : m_widgets)
-        if (!IsWidgetDeleted(widget.get()))
-            widget->Serialize(archive);
-    archive += "</hmiwidget>\n";
+    for (const HmiWidgetPtr& widget : m_widgets) {
+        if (IsWidgetDeleted(widget.get()))
+            continue;
+        written.push_back({widget.get(), archive.size()});
+        widget->Serialize(archive);
+    }
     return archive;
+}
+
+std::string CTamloDoc::Serialize() const
+{
+    std::vector<WrittenWidget> written;
+    return SerializeWidgets(written) + kWindowFileEnd;
+}
+
+FileResult CTamloDoc::SerializeChecked(std::string& text) const
+{
+    std::vector<WrittenWidget> written;
+    text = SerializeWidgets(written);
+    const std::size_t widgetsEnd = text.size();
+    text += kWindowFileEnd;
+    return CheckWindowFileReadsBack(text, written, widgetsEnd);
 }
 
 FileResult CTamloDoc::Save(const std::string& path)
 {
-    FileResult result = WriteFileAtomically(path, Serialize());
+    std::string text;
+    FileResult result = SerializeChecked(text);
+    if (result)
+        result = WriteFileAtomically(path, text);
     if (result) {
         m_bModified = false;
         m_strPathName = path;

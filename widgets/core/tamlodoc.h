@@ -4,6 +4,7 @@
 #include "hmiwidget.h"
 #include "project/fileio.h"
 #include "undostep.h"
+#include "widgetfilereader.h"
 
 #include <deque>
 #include <string>
@@ -50,8 +51,9 @@ public:
     // Replaces the content with the window file at path. A file that cannot be read, is not
     // XML or has another root leaves the document with just a window widget, and says why.
     FileResult Load(const std::string& path);
-    // Writes the window file; on failure the previous file is left whole and the document
-    // stays modified.
+    // Writes the window file once its text has been found to read back as it stands
+    // (SerializeChecked); on failure the previous file is left whole and the document stays
+    // modified.
     FileResult Save(const std::string& path);
     // The window file the document was last loaded from or saved to; empty for a new window.
     // Pictures are found in its folder.
@@ -62,6 +64,9 @@ public:
     void SetPictureFolder(std::string folder) { m_strPictureFolder = std::move(folder); }
     // The window file's bytes.
     std::string Serialize() const;
+    // The window file's bytes, checked to read back to the same widgets, properties, bindings
+    // and events (CheckWindowFileReadsBack); fails with what cannot be written.
+    FileResult SerializeChecked(std::string& text) const;
 
     // Views that show this document; not owned.
     void AddView(CHmiView* view);
@@ -100,6 +105,8 @@ public:
     static int& WidgetNameCounter();
 
 private:
+    // The window file's text without its closing line, and where each widget's element begins.
+    std::string SerializeWidgets(std::vector<WrittenWidget>& written) const;
     void DeleteContents();
     void DestroyDeletedWidgets();
     void AddWindowWidget(bool atTail, bool select);

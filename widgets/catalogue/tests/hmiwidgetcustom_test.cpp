@@ -14,7 +14,7 @@ TEST(HmiWidgetCustom, KeepsUnknownPropertiesAsTheirLines)
     EXPECT_EQ(widget.GetWidgetRect().left, 12) << "a property the base knows is not kept as a line";
     EXPECT_EQ(widget.CustomInfo,
               "\t\t\t<property name=\"a\" type=\"string\" value=\"x\" />\n"
-              "\t\t\t<property name=\"b\" type=\"string\" length=\"33\" value=\"a<b\" />\n");
+              "\t\t\t<property name=\"b\" type=\"string\" length=\"33\" value=\"a&lt;b\" />\n");
 }
 
 TEST(HmiWidgetCustom, WritesTheKeptLinesAfterTheBaseProperties)

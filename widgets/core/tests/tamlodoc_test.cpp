@@ -144,7 +144,7 @@ TEST_F(TamloDocTest, UnreadableFilesGiveAWindowAndAReason)
 {
     const std::pair<std::string, std::string> cases[] = {
         {dir.Path("missing.xml"), "No such file"},
-        {dir.Write("broken.xml", "<hmiwidget><widget"), "not a well-formed XML"},
+        {dir.Write("broken.xml", "<hmiwidget><widget"), "not well-formed XML"},
         {dir.Write("other.xml", "<hmiwindow/>"), "<hmiwindow>"},
         {dir.Path(""), "folder"},
         {dir.Write("secret.xml", "<hmiwidget/>"), "Permission denied"},
@@ -196,11 +196,11 @@ TEST_F(TamloDocTest, UnknownClassesSurviveARoundTripWithTheirProperties)
     ASSERT_TRUE(doc.Load(dir.Write("gauge.xml", original)));
     ASSERT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "g1"}));
     const std::string saved = doc.Serialize();
-    // The kept lines come back as read: the value is not escaped again.
+    // The kept lines come back as read.
     EXPECT_NE(saved.find("\t<widget name=\"g1\"  class=\"gauge\">\r\n"), std::string::npos);
     EXPECT_NE(saved.find("\t\t\t<property name=\"flashspeed\" type=\"ulong\" value=\"1\" />\n"
                          "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"255\" />\n"
-                         "\t\t\t<property name=\"label\" type=\"string\" length=\"40\" value=\"a & b\" />\n"
+                         "\t\t\t<property name=\"label\" type=\"string\" length=\"40\" value=\"a &amp; b\" />\n"
                          "\t\t</properties>"),
               std::string::npos)
         << saved;

@@ -69,8 +69,8 @@ TEST(WidgetWriter, WidgetElementWithBindingsAndEvents)
     const std::string properties = archive.substr(archive.find("\t\t\t<property"),
                                                   archive.find("\t\t</properties>") - archive.find("\t\t\t<property"));
     EXPECT_EQ(std::count(properties.begin(), properties.end(), '\n'), 11);
-    EXPECT_EQ(archive.substr(0, archive.find("\t\t\t<property")), "\t<widget name=\"w<1>\"  class=\"\">\r\n\t\t<properties>\r\n")
-        << "name and class are written unescaped";
+    EXPECT_EQ(archive.substr(0, archive.find("\t\t\t<property")), "\t<widget name=\"w&lt;1>\"  class=\"\">\r\n\t\t<properties>\r\n")
+        << "name and class are written as they are, but for the characters that would break the file";
     EXPECT_EQ(archive.substr(archive.find("\t\t</properties>")),
               "\t\t</properties>\r\n"
               "\t\t<dynamics>\r\n"
@@ -81,7 +81,7 @@ TEST(WidgetWriter, WidgetElementWithBindingsAndEvents)
               "\t\t</dynamics>\r\n"
               "\t\t<events>\r\n"
               "\t\t\t<event name=\"buttonup\">\n"
-              "\t\t\t\t<![CDATA[a();\nb();]]>]]>\n"
+              "\t\t\t\t<![CDATA[a();\nb();]]]]><![CDATA[>]]>\n"
               "\t\t\t</event>\r\n"
               "\t\t</events>\r\n"
               "\t</widget>\r\n");
