@@ -57,3 +57,8 @@ void CEditorPrompts::ShowError(QWidget* parent, const QString& text)
 {
     QMessageBox::warning(parent, QStringLiteral("Kelvo HMI Editor"), text);
 }
+
+void CEditorPrompts::ShowInformation(QWidget* parent, const QString& text)
+{
+    QMessageBox::information(parent, QStringLiteral("Kelvo HMI Editor"), text);
+}

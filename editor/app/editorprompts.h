@@ -25,6 +25,8 @@ public:
     // The scale of the zoom command in percent; nothing when the user cancels.
     virtual std::optional<int> AskZoomPercent(QWidget* parent);
     virtual void ShowError(QWidget* parent, const QString& text);
+    // Tells the user something worth knowing that needs no answer.
+    virtual void ShowInformation(QWidget* parent, const QString& text);
 
     // How the dialogs of the property rows and the project run and choose.
     ProjectContext projectDialogs;

@@ -317,7 +317,8 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path)
         return open;
     }
     auto document = std::make_unique<CTamloDoc>();
-    if (const FileResult result = document->Load(ToModelPath(absolute)); !result) {
+    const FileResult result = document->Load(ToModelPath(absolute));
+    if (!result) {
         m_prompts.ShowError(this, QStringLiteral("Cannot open %1:\n%2")
                                       .arg(absolute, QString::fromStdString(result.error)));
         m_recentFiles.Remove(absolute);
@@ -326,7 +327,14 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path)
     }
     m_recentFiles.Add(absolute);
     UpdateRecentFileActions();
-    return AddChild(std::move(document));
+    CChildFrame* child = AddChild(std::move(document));
+    if (!result.notices.empty()) {
+        QString text = QStringLiteral("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
+        for (const std::string& notice : result.notices)
+            text += QStringLiteral("\n\n") + QString::fromStdString(notice);
+        m_prompts.ShowInformation(this, text);
+    }
+    return child;
 }
 
 CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)

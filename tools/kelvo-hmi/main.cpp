@@ -47,12 +47,26 @@ int Fail(const std::string& message)
     return 1;
 }
 
+// Loads a window file; false (having said why) when it cannot be read. What the reader noted
+// about a file it read all the same goes to stderr too.
+bool LoadWindow(CTamloDoc& document, const std::string& path)
+{
+    const FileResult loaded = document.Load(path);
+    if (!loaded) {
+        Fail(loaded.error);
+        return false;
+    }
+    for (const std::string& notice : loaded.notices)
+        std::fprintf(stderr, "kelvo-hmi: %s: note: %s\n", path.c_str(), notice.c_str());
+    return true;
+}
+
 int List(Arguments args)
 {
     UseProjectOf(args[0]);
     CTamloDoc document;
-    if (const FileResult loaded = document.Load(args[0]); !loaded)
-        return Fail(loaded.error);
+    if (!LoadWindow(document, args[0]))
+        return 1;
     for (const HmiWidgetPtr& widget : document.Widgets()) {
         const HmiRect& r = widget->GetWidgetRect();
         std::printf("%s\t%s\t%d\t%d\t%d\t%d\n", widget->GetWidgetName().c_str(),
@@ -65,8 +79,8 @@ int RoundTrip(Arguments args)
 {
     UseProjectOf(args[0]);
     CTamloDoc document;
-    if (const FileResult loaded = document.Load(args[0]); !loaded)
-        return Fail(loaded.error);
+    if (!LoadWindow(document, args[0]))
+        return 1;
     if (const FileResult saved = document.Save(args[1]); !saved)
         return Fail(saved.error);
     return 0;
@@ -98,8 +112,8 @@ int Render(Arguments args)
     else
         UseProjectOf(args[0]);
     CTamloDoc document;
-    if (const FileResult loaded = document.Load(args[0]); !loaded)
-        return Fail(loaded.error);
+    if (!LoadWindow(document, args[0]))
+        return 1;
     if (args.size() == 4)
         document.SetPictureFolder(args[3]);
     const HmiRect window = document.GetWindowWidget()->GetWidgetRect().Normalized();

@@ -28,6 +28,7 @@ struct ScriptedPrompts : CEditorPrompts {
     QString AskOpenFileName(QWidget*, const QString&) override { return openFileName; }
     std::optional<int> AskZoomPercent(QWidget*) override { return zoomPercent; }
     void ShowError(QWidget*, const QString& text) override { errors << text; }
+    void ShowInformation(QWidget*, const QString& text) override { information << text; }
 
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
     QString saveFileName;
@@ -35,6 +36,7 @@ struct ScriptedPrompts : CEditorPrompts {
     std::optional<int> zoomPercent;
     QStringList savedQuestions;
     QStringList errors;
+    QStringList information;
 };
 
 // A shown main frame with profile and files in a temporary folder.

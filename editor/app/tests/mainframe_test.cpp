@@ -269,6 +269,21 @@ private slots:
         QVERIFY(!editor->frame.RecentFiles().Files().contains(paths.first()));
     }
 
+    void openingAFileTellsWhatTheReaderNoted()
+    {
+        const QString path = FilePath(QStringLiteral("euro.xml"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?><hmiwidget><widget name=\"price \xE2\x82\xAC\" "
+                   "class=\"text\"/></hmiwidget>");
+        file.close();
+        QVERIFY(editor->frame.OpenDocument(path));
+        QCOMPARE(editor->prompts.information.size(), 1);
+        QVERIFY(editor->prompts.information.first().contains(QStringLiteral("euro.xml")));
+        QVERIFY(editor->prompts.information.first().contains(QStringLiteral("character references")));
+        QVERIFY(editor->prompts.errors.isEmpty());
+    }
+
     void openProjectWindowOpensTheChosenWindow()
     {
         const QString project = QFINDTESTDATA("../../../examples/demo/hmiwindow.xml").section('/', 0, -2);
