@@ -3,6 +3,8 @@
 // save includes the check that its text reads back as it stands, whose cost has a line of its own.
 
 #include "dynamics/dynamictype.h"
+#include "tests/support/childcost.h"
+#include "tests/support/hostilefiles.h"
 #include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/core/tamlodoc.h"
 
@@ -92,6 +94,29 @@ void Measure(const std::filesystem::path& folder, int widgetCount)
                 widgetCount, checked - serialize, (checked - serialize) / parse, 100 * (checked - serialize) / save);
 }
 
+// A hostile file whose entities would expand into gigabytes, against an ordinary file of the same
+// size, each read in a child process of its own so that its peak memory can be told apart.
+void MeasureEntityExpansion(const std::filesystem::path& folder)
+{
+    const std::string hostile = EntityExpansionFile("hmiwidget", "widget");
+    const std::string ordinary = "<hmiwidget><widget name=\"" + std::string(hostile.size(), 'x') + "\"/></hmiwidget>";
+    const std::string path = (folder / "entities.xml").string();
+    const auto readCost = [&](const std::string& text) {
+        if (!WriteFileAtomically(path, text))
+            return ChildCost{};
+        return RunInChild([&] {
+            CTamloDoc doc;
+            return doc.Load(path) ? 0 : 1;
+        }, 600);
+    };
+    const ChildCost baseline = readCost(ordinary);
+    const ChildCost cost = readCost(hostile);
+    std::printf("entity expansion, %.1f KiB: %s in %.1f ms CPU, peak %ld KiB; an ordinary file of that size: "
+                "%.1f ms, peak %ld KiB\n",
+                double(hostile.size()) / 1024, cost.exited && cost.status == 1 ? "refused" : "READ", cost.cpuSeconds * 1000,
+                cost.peakKiB, baseline.cpuSeconds * 1000, baseline.peakKiB);
+}
+
 } // namespace
 
 int main()
@@ -101,6 +126,8 @@ int main()
     std::filesystem::create_directories(folder);
     std::printf("Window files, median of %d runs; ratios against the bare libxml2 parse of the same file\n",
                 kRepetitions);
+    // First, while the bench itself holds little memory.
+    MeasureEntityExpansion(folder);
     for (int count : {1000, 10000})
         Measure(folder, count);
     std::filesystem::remove_all(folder);

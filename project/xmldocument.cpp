@@ -59,6 +59,15 @@ std::string FromParser(const xmlChar* text)
     return converted;
 }
 
+// Stops the whole-file parser at the first entity declaration, before it builds anything from
+// the entity's references; the parser's user data is the parser context.
+void RefuseEntityDeclaration(void* context, const xmlChar*, int, const xmlChar*, const xmlChar*, xmlChar*)
+{
+    auto* parser = static_cast<xmlParserCtxt*>(context);
+    *static_cast<bool*>(parser->_private) = true;
+    xmlStopParser(parser);
+}
+
 // Texts that libxml2 cannot take in one piece are not XML the editor reads.
 bool FitsTheParser(std::string_view text)
 {
@@ -156,14 +165,17 @@ XmlDocument XmlDocument::Parse(std::string_view text)
     xmlParserCtxt* context = xmlNewParserCtxt();
     if (!context)
         return XmlDocument(nullptr, "Out of memory.");
+    bool declaresEntities = false;
+    context->_private = &declaresEntities;
+    context->sax->entityDecl = RefuseEntityDeclaration;
     xmlDoc* doc = xmlCtxtReadMemory(context, text.data(), int(text.size()), nullptr, nullptr, kParseOptions);
     std::string error;
-    if (!doc) {
-        error = NotWellFormed(xmlCtxtGetLastError(context));
-    } else if (DeclaresEntities(doc->intSubset)) {
+    if (declaresEntities) {
         xmlFreeDoc(doc);
         doc = nullptr;
         error = kEntitiesRefused;
+    } else if (!doc) {
+        error = NotWellFormed(xmlCtxtGetLastError(context));
     }
     xmlFreeParserCtxt(context);
     return XmlDocument(doc, std::move(error));
