@@ -3,6 +3,7 @@
 #include "hmictrlwidget.h"
 #include "hmiview.h"
 #include "widgetfilereader.h"
+#include "windowfilecheck.h"
 #include "widgets/catalogue/hmiwidgetwindow.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "hmiwidget.h"
 #include "project/fileio.h"
 #include "undostep.h"
-#include "widgetfilereader.h"
+#include "windowfilecheck.h"
 
 #include <deque>
 #include <string>

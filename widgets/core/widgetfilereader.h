@@ -4,7 +4,6 @@
 #include "project/fileio.h"
 
 #include <functional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -20,14 +19,7 @@ using WidgetSink = std::function<void(HmiWidgetPtr widget)>;
 FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink);
 FileResult ReadWindowText(std::string_view text, const WidgetSink& sink);
 
-// Where one widget's element starts in a window file text, in the order they were written.
-struct WrittenWidget {
-    const CHmiWidget* widget;
-    std::size_t begin;
-};
-
-// Checks a window file text before it replaces a file: it must parse, and its widget elements,
-// read and written again, must give back the bytes written from `widgets` (which cover the text
-// up to `end`). Fails with the widget and the property, binding or event that would not read
-// back as it stands.
-FileResult CheckWindowFileReadsBack(std::string_view text, std::span<const WrittenWidget> widgets, std::size_t end);
+// Reads the widget elements of a window file text as they come, handing each to the reader,
+// null for one that cannot be read. On failure, errorLine is the line of the text where the
+// reading stopped (0 when it is not known).
+FileResult ReadWidgetElements(std::string_view text, const std::function<void(HmiWidgetPtr)>& reader, int& errorLine);
