@@ -126,9 +126,10 @@ bool ClickWidgetItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item,
             EditDisplayFields(parent, "Setting Alarm Field", AlarmFieldChoices(alarms->m_strDispFields), *alarms,
                               context);
         } else if (auto* history = dynamic_cast<CHmiWidgetHisList*>(&widget); history && fieldsRow) {
-            const std::string database = history->HistoryNames().NameAt(history->m_nHistoryName);
+            // A database the project does not list has no variables to offer.
             EditDisplayFields(parent, "History Data Variable",
-                              HistoryFieldChoices(history->m_strDispFields, GetHistoryVariableNames(database)),
+                              HistoryFieldChoices(history->m_strDispFields,
+                                                  GetHistoryVariableNames(history->HistoryName())),
                               *history, context);
         } else {
             widget.WidgetItemClick(&item);

@@ -37,7 +37,11 @@ std::span<const PropertySpec<CHmiWidgetCurve>> CHmiWidgetCurve::Properties()
              .choices = kDataSourceChoices},
             {.key = "lognamenum", .label = "logname", .description = "Set the log name of In memory data source",
              .itemType = PROP_COMBO, .bindable = 0, .xmlType = "ushort", .number = &W::m_nLogNameNum,
-             .read = kHex},
+             .textLength = TextLength::None,
+             .writeText = [](const W& w) { return std::to_string(w.LogIndex()); },
+             .readText = [](W& w, std::string_view value) {
+                 w.ReadLog(std::int32_t(HmiParseULong(value)), w.m_fileLogName);
+             }},
             {.key = "filepath", .label = "file path", .description = "Set the file path of file data source",
              .itemType = PROP_COMBO, .xmlType = "char", .flag = &W::m_nFilePath, .read = kHex,
              .choices = kFilePathChoices},
@@ -67,10 +71,10 @@ std::span<const PropertySpec<CHmiWidgetCurve>> CHmiWidgetCurve::Properties()
             specs.push_back(CurveAddData<W>(n));
         specs.push_back({.key = "hmaxlines", .label = "", .description = "", .xmlType = "ushort",
                          .number = &W::m_nHMaxLines, .read = kHex, .declared = false});
-        // The log's name goes to the file beside its index; reading takes the index alone.
+        // The log's name goes to the file beside its index.
         specs.push_back({.key = "logname", .label = "", .description = "", .xmlType = "string",
                          .writeText = [](const W& w) { return w.m_logNames.NameAt(w.m_nLogNameNum); },
-                         .readText = [](W&, std::string_view) {},
+                         .readText = [](W& w, std::string_view name) { w.ReadLogName(std::string(name)); },
                          .declared = false});
         return specs;
     }();
@@ -91,9 +95,45 @@ std::span<const char* const> CHmiWidgetCurve::SaveOrder()
     return order;
 }
 
-CHmiWidgetCurve::CHmiWidgetCurve() : m_logNames(GetHmiLognameDesp, kMaxDataLogNames)
+CHmiWidgetCurve::CHmiWidgetCurve() : m_logNames(GetHmiLognameDesp, kMaxDataLogNames, "data log")
 {
     m_logNames.ShowIn(*FindProperty("lognamenum"));
+}
+
+void CHmiWidgetCurve::CopyExtraState(CHmiWidgetCurve& copy) const
+{
+    copy.m_logNames.KeepAsIn(m_logNames);
+    copy.m_nKeptLogIndex = m_nKeptLogIndex;
+}
+
+std::int32_t CHmiWidgetCurve::LogIndex() const
+{
+    return m_logNames.IsKept(m_nLogNameNum) ? m_nKeptLogIndex : m_nLogNameNum;
+}
+
+// The file names the data log twice, by its index (lognamenum) and by its name (logname), and a
+// load and save must hand the panel both as they were. So the pair is kept as the file has it
+// unless the project lists that very name at that very index: when datalog.xml lost, renamed or
+// reordered a log, neither the name alone nor the index alone says which log the user meant.
+// The user sees the kept pair marked in the combo and picks a listed log to replace it. A file
+// without a logname is taken by its index, as the editor always did.
+void CHmiWidgetCurve::ReadLog(std::int32_t index, const std::optional<std::string>& name)
+{
+    if (m_logNames.Offers(index, name)) {
+        m_nLogNameNum = index;
+        return;
+    }
+    m_nKeptLogIndex = index;
+    m_nLogNameNum = m_logNames.Keep(name.value_or(std::string()), "index " + std::to_string(index));
+}
+
+// Files have the name after the index, so the notice goes out with the name.
+void CHmiWidgetCurve::ReadLogName(std::string name)
+{
+    m_fileLogName = std::move(name);
+    ReadLog(LogIndex(), m_fileLogName);
+    if (m_logNames.IsKept(m_nLogNameNum))
+        m_logNames.ReportKept(kKindName, GetWidgetName());
 }
 
 void CHmiWidgetCurve::AddRootItems()

@@ -1,7 +1,5 @@
 #include "hmiwidgethiscurve.h"
 
-#include "project/namelists.h"
-
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetHisCurve, CHmiWidget)
 
 namespace {
@@ -26,15 +24,7 @@ std::span<const PropertySpec<CHmiWidgetHisCurve>> CHmiWidgetHisCurve::Properties
         };
         AppendCurveGridProperties(specs);
         AppendTimeRangeProperties(specs, "curve");
-        specs.push_back({.key = "historyname", .label = "historyname", .description = "Set history name",
-                         .itemType = PROP_COMBO, .bindable = 0, .xmlType = "string", .number = &W::m_nHistoryName,
-                         .writeText = [](const W& w) { return w.m_historyNames.NameAt(w.m_nHistoryName); },
-                         .readText = [](W& w, std::string_view name) {
-                             // A name the project no longer has keeps the current choice.
-                             const std::int32_t index = w.m_historyNames.IndexOf(std::string(name));
-                             if (index >= 0)
-                                 w.m_nHistoryName = index;
-                         }});
+        specs.push_back(HistoryNameProperty<W>());
         specs.push_back({.key = "redrawvar", .label = "redrawvar",
                          .description = "Set redraw variable,redraw curve when variable is 1",
                          .itemType = PROP_VARIABLE, .xmlType = "string", .text = &W::m_strRedrawVar});
@@ -80,9 +70,9 @@ std::span<const char* const> CHmiWidgetHisCurve::SaveOrder()
     return order;
 }
 
-CHmiWidgetHisCurve::CHmiWidgetHisCurve() : m_historyNames(GetHmiHistoryDbname, kMaxHistoryDbNames)
+CHmiWidgetHisCurve::CHmiWidgetHisCurve()
 {
-    m_historyNames.ShowIn(*FindProperty("historyname"));
+    ShowHistoryNamesIn(*FindProperty("historyname"));
 }
 
 void CHmiWidgetHisCurve::AddRootItems()

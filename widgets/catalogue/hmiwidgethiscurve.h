@@ -1,8 +1,8 @@
 #pragma once
 
 #include "curvesettings.h"
+#include "historydatabase.h"
 #include "historytimerange.h"
-#include "projectnamechoice.h"
 #include "propertytable.h"
 
 // The history trend: up to 16 curves of values recorded in one history database between a
@@ -10,25 +10,21 @@
 // settings and previews random samples, as for the realtime curve.
 class CHmiWidgetHisCurve : public CHmiTableWidget<CHmiWidgetHisCurve>,
                            public CurveSettings,
-                           public HistoryTimeRange {
+                           public HistoryTimeRange,
+                           public HistoryDatabaseChoice {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetHisCurve)
 public:
     static constexpr const char* kClassKey = "hiscurve";
     static constexpr const char* kGroup = "History curve basic properties";
     static constexpr const char* kRootText = "History curve basic properties";
+    static constexpr const char* kKindName = "History curve"; // in messages to the user
     static std::span<const PropertySpec<CHmiWidgetHisCurve>> Properties();
     static std::span<const char* const> SaveOrder();
 
     CHmiWidgetHisCurve();
     void AddRootItems();
     void Draw(CHmiDC& dc) override;
+    void CopyExtraState(CHmiWidgetHisCurve& copy) const { CopyHistoryNameTo(copy); }
 
-    // The history databases of the project, read when the widget is made.
-    const ProjectNameChoice& HistoryNames() const { return m_historyNames; }
-
-    std::int32_t m_nHistoryName = 0; // index into HistoryNames(); the file gets the name
     std::string m_strRedrawVar;
-
-private:
-    ProjectNameChoice m_historyNames;
 };

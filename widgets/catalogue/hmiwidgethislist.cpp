@@ -2,8 +2,6 @@
 
 #include "controlpictures.h"
 
-#include "project/namelists.h"
-
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetHisList, CHmiCtrlWidget)
 
 std::span<const PropertySpec<CHmiWidgetHisList>> CHmiWidgetHisList::Properties()
@@ -21,15 +19,7 @@ std::span<const PropertySpec<CHmiWidgetHisList>> CHmiWidgetHisList::Properties()
             {.key = "redrawvar", .label = "redrawvar",
              .description = "Set the redraw variable,redraw history data listview when value=1",
              .itemType = PROP_VARIABLE, .bindable = 0, .xmlType = "string", .text = &W::m_strRedrawVar},
-            {.key = "historyname", .label = "historyname", .description = "Set history name", .itemType = PROP_COMBO,
-             .bindable = 0, .xmlType = "string", .number = &W::m_nHistoryName,
-             .writeText = [](const W& w) { return w.m_historyNames.NameAt(w.m_nHistoryName); },
-             .readText = [](W& w, std::string_view name) {
-                 // A name the project no longer has keeps the current choice.
-                 const std::int32_t index = w.m_historyNames.IndexOf(std::string(name));
-                 if (index >= 0)
-                     w.m_nHistoryName = index;
-             }},
+            HistoryNameProperty<W>(),
         };
         AppendTimeRangeProperties(specs, "list");
         specs.push_back({.key = "auto_update", .label = "auto update",
@@ -53,9 +43,9 @@ std::span<const char* const> CHmiWidgetHisList::SaveOrder()
 }
 
 CHmiWidgetHisList::CHmiWidgetHisList()
-    : ListColumnsState("DateTime", "150"), m_historyNames(GetHmiHistoryDbname, kMaxHistoryDbNames)
+    : ListColumnsState("DateTime", "150")
 {
-    m_historyNames.ShowIn(*FindProperty("historyname"));
+    ShowHistoryNamesIn(*FindProperty("historyname"));
 }
 
 int CHmiWidgetHisList::SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,
@@ -64,6 +54,12 @@ int CHmiWidgetHisList::SetWidgetProperty(std::string_view name, std::string_view
     const int known = CHmiTableWidget::SetWidgetProperty(name, type, value, length);
     PropertyRead(name);
     return known;
+}
+
+void CHmiWidgetHisList::CopyExtraState(CHmiWidgetHisList& copy) const
+{
+    copy.m_columns = m_columns;
+    CopyHistoryNameTo(copy);
 }
 
 void CHmiWidgetHisList::SaveWidgetProperties(std::string& archive) const

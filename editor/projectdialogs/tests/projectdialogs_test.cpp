@@ -129,6 +129,7 @@ private slots:
     void alarmFieldDialogMovesAndChecksFields();
     void historyFieldsOfferVariablesByPrefix();
     void historyFieldDialogAddsARecordedVariable();
+    void historyFieldDialogOfAnUnknownDatabaseOffersNoVariables();
 
     void pictureFromElsewhereIsCopiedIntoTheProject();
     void pictureOfTheSameNameOverwritesTheProjectCopy();
@@ -477,6 +478,22 @@ void ProjectDialogsTest::historyFieldDialogAddsARecordedVariable()
              PropertyLine("dispfields", "string", "DateTime,pressure,", 32));
     QCOMPARE(SavedProperty("records", "fieldswidth"),
              PropertyLine("fieldswidth", "string", "80,80,", 32));
+}
+
+void ProjectDialogsTest::historyFieldDialogOfAnUnknownDatabaseOffersNoVariables()
+{
+    CHmiWidget* records = OpenWidget("trends.xml", "records");
+    QVERIFY(records);
+    records->SetWidgetProperty("historyname", "string", "retired_history", "32");
+    records->SetWidgetProperty("dispfields", "string", "pressure", "32");
+    COptionTreeItem& row = RowOf(*records, "dispfields");
+    ProjectContext context;
+    context.runDialog = DriveWith([](QDialog& dialog) {
+        QCOMPARE(Entries(*dialog.findChild<QListWidget*>()), QStringList({"[x] pressure", "DateTime"}));
+        ClickButton(dialog, "OK");
+    });
+    QVERIFY(SelectWidgetItem(nullptr, *records, row, context));
+    QCOMPARE(SavedProperty("records", "historyname"), PropertyLine("historyname", "string", "retired_history", 32));
 }
 
 // ---------------------------------------------------------------------------------------------

@@ -3,10 +3,12 @@
 
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
+#include "project/projectpath.h"
 #include "tests/support/recordingnamelist.h"
 #include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/catalogue/hmiwidgetbmptext.h"
 #include "widgets/catalogue/hmiwidgetbutton.h"
+#include "widgets/catalogue/hmiwidgethislist.h"
 #include "widgets/catalogue/hmiwidgetpic.h"
 #include "widgets/catalogue/hmiwidgetrect.h"
 #include "widgets/catalogue/hmiwidgettext.h"
@@ -14,12 +16,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QHeaderView>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -311,6 +315,29 @@ private slots:
         QCOMPARE(align->currentText(), QString("Align center"));
         QCOMPARE(text->m_nAlign, 3);
         QCOMPARE(changed.count(), 1);
+    }
+
+    void aNameTheProjectLacksIsOfferedMarkedBesideTheListedOnes()
+    {
+        QTemporaryDir project;
+        QFile history(project.filePath("history.xml"));
+        QVERIFY(history.open(QIODevice::WriteOnly));
+        history.write("<zqhistory><historydb name=\"boiler\"/></zqhistory>");
+        history.close();
+        SetProjectPath(QFile::encodeName(project.path() + "/").toStdString());
+        auto* list = Add<CHmiWidgetHisList>("hislist"); // reads the project's names
+        SetProjectPath("");
+        list->SetWidgetProperty("historyname", "string", "plant2", "32");
+        Show(list);
+
+        QComboBox* names = EditorOf<QComboBox>("historyname");
+        QCOMPARE(names->count(), 2);
+        QCOMPARE(names->currentText(), QString("plant2 (not in the project)"));
+        names->setFocus();
+        QTest::keyClick(names, Qt::Key_Home);
+        QCOMPARE(list->HistoryName(), std::string("boiler"));
+        QTest::keyClick(names, Qt::Key_End);
+        QCOMPARE(list->HistoryName(), std::string("plant2"));
     }
 
     void textCrossesThePaneAsGb2312()

@@ -2,15 +2,18 @@
 // the name lists they offer, their columns and the curve preview.
 
 #include "ownproperties.h"
+#include "project/namelists.h"
 #include "project/projectpath.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/recordingdc.h"
 #include "tests/support/tempdir.h"
+#include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/catalogue/hmiwidgetalarmwnd.h"
 #include "widgets/catalogue/hmiwidgetcontrols.h"
 #include "widgets/catalogue/hmiwidgetcurve.h"
 #include "widgets/catalogue/hmiwidgethiscurve.h"
 #include "widgets/catalogue/hmiwidgethislist.h"
+#include "widgets/core/widgetfilereader.h"
 
 #include <gtest/gtest.h>
 
@@ -117,7 +120,7 @@ TEST_F(ProjectTest, RealtimeCurveWritesItsDefaultsWithTheLogName)
                   Line("indcolor", "ulong", "16711680") + SeriesLines());
 
     curve.SetWidgetProperty("lognamenum", "ushort", "1", "");
-    curve.SetWidgetProperty("logname", "string", "ignored", "");
+    curve.SetWidgetProperty("logname", "string", "slow", "");
     curve.SetWidgetProperty("datacolor16", "ulong", "0xFF00", "");
     curve.SetWidgetProperty("adddata3", "float", "2.5", "");
     curve.SetWidgetProperty("valuevarname1", "string", "$speed", "");
@@ -125,10 +128,6 @@ TEST_F(ProjectTest, RealtimeCurveWritesItsDefaultsWithTheLogName)
     EXPECT_EQ(curve.m_dataColor[15], 0xFF00u);
     EXPECT_FLOAT_EQ(curve.m_addData[2], 2.5f);
     EXPECT_EQ(curve.m_valueVarName[0], "$speed");
-
-    curve.SetWidgetProperty("lognamenum", "ushort", "250", "");
-    EXPECT_NE(OwnPropertyLines(curve).find(Line("logname", "string", "", "32")), std::string::npos)
-        << "an index past the list gives no name";
 }
 
 TEST_F(ProjectTest, RealtimeCurveRecordsAndRows)
@@ -165,7 +164,7 @@ TEST_F(ProjectTest, RealtimeCurveRecordsAndRows)
     EXPECT_FLOAT_EQ(clone.m_fMinValue, -5.5f);
 }
 
-TEST_F(ProjectTest, HistoryCurveWritesTheNameOfItsDatabaseAndFallsBackToTheFirst)
+TEST_F(ProjectTest, HistoryCurveWritesTheNameOfItsDatabase)
 {
     CHmiWidgetHisCurve curve;
     std::string expected = Line("historyname", "string", "boiler", "32") + Line("bkcolor", "ulong", "12648447") +
@@ -184,10 +183,6 @@ TEST_F(ProjectTest, HistoryCurveWritesTheNameOfItsDatabaseAndFallsBackToTheFirst
 
     curve.SetWidgetProperty("historyname", "string", "pumps", "");
     EXPECT_EQ(curve.m_nHistoryName, 1);
-    CHmiWidgetHisCurve unknown;
-    unknown.SetWidgetProperty("historyname", "string", "retired", "");
-    EXPECT_EQ(unknown.m_nHistoryName, 0);
-    EXPECT_NE(OwnPropertyLines(unknown).find(Line("historyname", "string", "boiler", "32")), std::string::npos);
 
     const auto rows = OwnPropertyRows(curve);
     EXPECT_EQ(std::get<3>(rows[2]), 0) << "the history curve's xpoints is not bindable";
@@ -332,4 +327,192 @@ TEST(CurvePreview, GuardsDivisionsAndCapsTheCurves)
         odd.Draw(dc);
         EXPECT_FALSE(dc.shapes.empty());
     }
+}
+
+// ---------------------------------------------------------------------------------------------
+// A history database or data log that a window file names and the project does not list is
+// kept as the file has it, shown marked in the pane and reported.
+
+namespace {
+
+constexpr const char* kTwoDatabases = "<zqhistory><historydb name=\"boiler\"/><historydb name=\"pumps\"/></zqhistory>";
+constexpr const char* kOlderHistory = "<history/>"; // lists one empty name
+constexpr const char* kTwoLogs = "<datalog><log name=\"fast\"/><log name=\"slow\"/></datalog>";
+
+std::string LogLines(const char* index, const std::string& name)
+{
+    return Line("lognamenum", "ushort", index) + Line("logname", "string", name, "32");
+}
+
+// One widget "w1" whose name properties are these lines, in a project with these name files
+// (null: no such file), and what the editor makes of it.
+struct NameCase {
+    const char* title;
+    const char* history;
+    const char* datalog;
+    const char* classKey;
+    std::string lines; // read and written back byte for byte
+    std::vector<std::string> choices; // of the combo row
+    int selection;
+    std::string notice; // none when the project lists the name
+};
+
+std::string Kept(const char* kind, const char* what, const char* name, const char* detail = "")
+{
+    return std::string(kind) + " \"w1\": the " + what + " \"" + name + "\"" + detail +
+           " is not in the project; it is kept as it is.";
+}
+
+const std::vector<NameCase>& NameCases()
+{
+    static const std::vector<NameCase> cases = {
+        {"unknown database of a list", kTwoDatabases, nullptr, "hislist", Line("historyname", "string", "plant2", "32"),
+         {"boiler", "pumps", "plant2 (not in the project)"}, 2, Kept("History list", "history database", "plant2")},
+        {"unknown database of a curve", kTwoDatabases, nullptr, "hiscurve",
+         Line("historyname", "string", "plant2", "32"), {"boiler", "pumps", "plant2 (not in the project)"}, 2,
+         Kept("History curve", "history database", "plant2")},
+        {"listed database", kTwoDatabases, nullptr, "hislist", Line("historyname", "string", "pumps", "32"),
+         {"boiler", "pumps"}, 1, ""},
+        {"no database where the project lists some", kTwoDatabases, nullptr, "hiscurve",
+         Line("historyname", "string", "", "32"), {"boiler", "pumps", "(no name) (not in the project)"}, 2,
+         Kept("History curve", "history database", "")},
+        {"no history.xml", nullptr, nullptr, "hislist", Line("historyname", "string", "boiler", "32"),
+         {"boiler (not in the project)"}, 0, Kept("History list", "history database", "boiler")},
+        {"no history.xml and no name", nullptr, nullptr, "hislist", Line("historyname", "string", "", "32"), {}, -1,
+         ""},
+        {"older history form", kOlderHistory, nullptr, "hiscurve", Line("historyname", "string", "plant2", "32"),
+         {"", "plant2 (not in the project)"}, 1, Kept("History curve", "history database", "plant2")},
+        {"older history form and no name", kOlderHistory, nullptr, "hislist", Line("historyname", "string", "", "32"),
+         {""}, 0, ""},
+        {"unknown log", nullptr, kTwoLogs, "curve", LogLines("3", "plant2"),
+         {"fast", "slow", "plant2 (index 3, not in the project)"}, 2,
+         Kept("Realtime curve", "data log", "plant2", " (index 3)")},
+        {"listed log at another index", nullptr, kTwoLogs, "curve", LogLines("0", "slow"),
+         {"fast", "slow", "slow (index 0, not in the project)"}, 2,
+         Kept("Realtime curve", "data log", "slow", " (index 0)")},
+        {"log index past the list", nullptr, kTwoLogs, "curve", LogLines("5", ""),
+         {"fast", "slow", "(no name) (index 5, not in the project)"}, 2,
+         Kept("Realtime curve", "data log", "", " (index 5)")},
+        {"listed log", nullptr, kTwoLogs, "curve", LogLines("1", "slow"), {"fast", "slow"}, 1, ""},
+        {"log by its index alone", nullptr, kTwoLogs, "curve", Line("lognamenum", "ushort", "1"), {"fast", "slow"}, 1,
+         ""},
+        {"no datalog.xml", nullptr, nullptr, "curve", LogLines("0", "fast"), {"fast (index 0, not in the project)"}, 0,
+         Kept("Realtime curve", "data log", "fast", " (index 0)")},
+        {"no datalog.xml and no name", nullptr, nullptr, "curve", LogLines("0", ""), {}, -1, ""},
+    };
+    return cases;
+}
+
+struct UnlistedNameTest : ::testing::Test {
+    void SetUp() override
+    {
+        CHmiWidget::RemoveAllRunTimeClass();
+        RegisterBuiltinWidgetClasses();
+    }
+    void TearDown() override
+    {
+        SetProjectPath("");
+        CHmiWidget::RemoveAllRunTimeClass();
+    }
+
+    // Makes a project with these name files current (null: no such file).
+    void UseProject(const char* history, const char* datalog)
+    {
+        project = std::make_unique<TempDir>();
+        if (history)
+            project->Write("history.xml", history);
+        if (datalog)
+            project->Write("datalog.xml", datalog);
+        SetProjectPath(project->Path(""));
+    }
+
+    // Reads a window file of one widget "w1" with these property lines.
+    HmiWidgetPtr Read(const char* classKey, const std::string& lines)
+    {
+        return ReadWindow(std::string("\t<widget name=\"w1\"  class=\"") + classKey + "\">\n\t\t<properties>\n" +
+                          lines + "\t\t</properties>\n\t</widget>\n");
+    }
+
+    // Reads widget elements as the editor and its paste command do.
+    HmiWidgetPtr ReadWindow(const std::string& elements)
+    {
+        HmiWidgetPtr widget;
+        const FileResult result = ReadWindowText("<hmiwidget>\n" + elements + "</hmiwidget>\n",
+                                                 [&widget](HmiWidgetPtr read) { widget = std::move(read); });
+        notices = result.notices;
+        return widget;
+    }
+
+    static const char* RowCaption(const NameCase& c)
+    {
+        return std::string_view(c.classKey) == "curve" ? "logname" : "historyname";
+    }
+
+    std::unique_ptr<TempDir> project;
+    std::vector<std::string> notices;
+};
+
+} // namespace
+
+TEST_F(UnlistedNameTest, LoadAndSaveKeepTheNameAndReportIt)
+{
+    for (const NameCase& c : NameCases()) {
+        SCOPED_TRACE(c.title);
+        UseProject(c.history, c.datalog);
+        const HmiWidgetPtr widget = Read(c.classKey, c.lines);
+        ASSERT_NE(widget, nullptr);
+        EXPECT_NE(OwnPropertyLines(*widget).find(c.lines), std::string::npos) << OwnPropertyLines(*widget);
+        EXPECT_EQ(notices, c.notice.empty() ? std::vector<std::string>{} : std::vector<std::string>{c.notice});
+
+        // Copy and paste writes the widget and reads it back; Clone copies it in memory.
+        std::string copied;
+        widget->Serialize(copied);
+        const HmiWidgetPtr pasted = ReadWindow(copied);
+        ASSERT_NE(pasted, nullptr);
+        EXPECT_EQ(OwnPropertyLines(*pasted), OwnPropertyLines(*widget));
+        EXPECT_EQ(OwnPropertyLines(*widget->Clone()), OwnPropertyLines(*widget));
+    }
+}
+
+TEST_F(UnlistedNameTest, PaneMarksAKeptNameAndAPickedOneReplacesIt)
+{
+    for (const NameCase& c : NameCases()) {
+        SCOPED_TRACE(c.title);
+        UseProject(c.history, c.datalog);
+        const HmiWidgetPtr widget = Read(c.classKey, c.lines);
+        for (const HmiWidgetPtr& shown : {widget->Clone(), Read(c.classKey, c.lines)}) {
+            MemoryOptionTree tree;
+            shown->CreateWidgetPropertyTree(tree);
+            MemoryOptionItem* row = tree.Find(RowCaption(c));
+            ASSERT_NE(row, nullptr);
+            EXPECT_EQ(row->choices, c.choices);
+            EXPECT_EQ(row->selection, c.selection);
+            if (c.notice.empty() || c.choices.size() < 2)
+                continue;
+
+            // The first listed name makes it write what a new widget writes; the kept name stays
+            // in the list and brings the file's lines back.
+            row->SetCurSel(0);
+            shown->UpdateWidgetPropByTree(row);
+            const HmiWidgetPtr fresh = CHmiWidget::GetWidgetClass(c.classKey)->CreateObject();
+            EXPECT_EQ(OwnPropertyLines(*shown), OwnPropertyLines(*fresh));
+            shown->UpdateTreeByWidgetProp();
+            EXPECT_EQ(row->choices, c.choices);
+            EXPECT_EQ(row->selection, 0);
+            row->SetCurSel(c.selection);
+            shown->UpdateWidgetPropByTree(row);
+            EXPECT_NE(OwnPropertyLines(*shown).find(c.lines), std::string::npos);
+        }
+    }
+}
+
+TEST_F(UnlistedNameTest, TheHistoryListFindsNoVariablesOfAKeptDatabase)
+{
+    UseProject("<zqhistory><historydb name=\"boiler\"><history dataname=\"temperature\"/></historydb></zqhistory>",
+               nullptr);
+    const HmiWidgetPtr widget = Read("hislist", Line("historyname", "string", "plant2", "32"));
+    const auto& list = dynamic_cast<const CHmiWidgetHisList&>(*widget);
+    EXPECT_EQ(list.HistoryName(), "plant2");
+    EXPECT_TRUE(GetHistoryVariableNames(list.HistoryName()).empty());
+    EXPECT_EQ(GetHistoryVariableNames(list.HistoryNames().NameAt(0)), std::vector<std::string>{"temperature"});
 }
