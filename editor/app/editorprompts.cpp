@@ -57,3 +57,10 @@ void CEditorPrompts::ShowError(QWidget* parent, const QString& text)
 {
     QMessageBox::warning(parent, QStringLiteral("Kelvo HMI Editor"), text);
 }
+
+RecoveryAnswer CEditorPrompts::AskRestoreWindows(QWidget* parent, const QList<RecoveryCopy>& copies)
+{
+    CRecoveryDialog dialog(copies, parent);
+    dialog.exec();
+    return dialog.Answer();
+}

@@ -2,6 +2,7 @@
 
 #include "editor/dynamicdialogs/dialogservices.h"
 #include "editor/projectdialogs/projectcontext.h"
+#include "editor/recovery/recoverydialog.h"
 
 #include <QString>
 
@@ -25,6 +26,8 @@ public:
     // The scale of the zoom command in percent; nothing when the user cancels.
     virtual std::optional<int> AskZoomPercent(QWidget* parent);
     virtual void ShowError(QWidget* parent, const QString& text);
+    // What to do with the windows that editors which are gone left unsaved.
+    virtual RecoveryAnswer AskRestoreWindows(QWidget* parent, const QList<RecoveryCopy>& copies);
 
     // How the dialogs of the property rows and the project run and choose.
     ProjectContext projectDialogs;

@@ -28,13 +28,20 @@ struct ScriptedPrompts : CEditorPrompts {
     QString AskOpenFileName(QWidget*, const QString&) override { return openFileName; }
     std::optional<int> AskZoomPercent(QWidget*) override { return zoomPercent; }
     void ShowError(QWidget*, const QString& text) override { errors << text; }
+    RecoveryAnswer AskRestoreWindows(QWidget*, const QList<RecoveryCopy>& copies) override
+    {
+        offeredCopies << copies;
+        return recoveryAnswer;
+    }
 
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
     QString saveFileName;
     QString openFileName;
     std::optional<int> zoomPercent;
+    RecoveryAnswer recoveryAnswer = RecoveryAnswer::Later;
     QStringList savedQuestions;
     QStringList errors;
+    QList<QList<RecoveryCopy>> offeredCopies;
 };
 
 // A shown main frame with profile and files in a temporary folder.

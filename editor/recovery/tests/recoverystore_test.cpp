@@ -1,5 +1,6 @@
 // Where recovery copies are kept, which of them are offered, and what a damaged one gives.
 #include "editor/recovery/recoverystore.h"
+#include "editor/recovery/tests/recoveryfixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,19 +17,6 @@ mode_t Permissions(const QString& path)
 {
     struct stat info;
     return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
-}
-
-QByteArray Read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
 }
 
 QStringList SessionFolders(const QString& root)
@@ -49,15 +37,6 @@ class RecoveryStoreTest : public QObject {
 private:
     std::unique_ptr<QTemporaryDir> sandbox;
     QString root;
-
-    std::unique_ptr<CRecoverySession> NewSession()
-    {
-        FileResult result;
-        auto session = CRecoverySession::Create(root, result);
-        if (!session)
-            qWarning("%s", result.error.c_str());
-        return session;
-    }
 
 private slots:
     void init()
@@ -93,7 +72,7 @@ private slots:
         QCOMPARE(Permissions(root), mode_t(0700));
 
         const QString file = sandbox->filePath(QStringLiteral("file"));
-        Write(file, "x");
+        QVERIFY(WriteBytes(file, "x"));
         const FileResult notAFolder = MakePrivateFolder(file);
         QVERIFY(!notAFolder);
         QVERIFY2(notAFolder.error.find("not a folder") != std::string::npos, notAFolder.error.c_str());
@@ -104,7 +83,7 @@ private slots:
     {
         if (::getuid() != 0)
             QSKIP("only root can give a folder to another user");
-        auto left = NewSession();
+        auto left = NewSession(root);
         QVERIFY(left);
         QVERIFY(left->Write(1, Record({}, QStringLiteral("Tamlo1")), "<hmiwidget/>"));
         left.reset();
@@ -119,7 +98,7 @@ private slots:
 
     void copiesAreWrittenReplacedAndRemoved()
     {
-        auto session = NewSession();
+        auto session = NewSession(root);
         QVERIFY(session);
         QCOMPARE(QFileInfo(session->Folder()).path(), root);
         QVERIFY(QFileInfo(session->Folder()).fileName().startsWith(QStringLiteral("session-")));
@@ -129,7 +108,7 @@ private slots:
         QVERIFY(session->Write(1, Record(QStringLiteral("/p/main.xml"), QStringLiteral("main.xml")), "second"));
         QVERIFY(session->Write(2, Record({}, QStringLiteral("Tamlo1")), "new"));
         const QString folder = session->Folder();
-        QCOMPARE(Read(folder + QStringLiteral("/1.xml")), QByteArray("second"));
+        QCOMPARE(ReadBytes(folder + QStringLiteral("/1.xml")), QByteArray("second"));
         session->Remove(1);
         QCOMPARE(QDir(folder).entryList(QDir::Files),
                  (QStringList{QStringLiteral("2.record"), QStringLiteral("2.xml"), QStringLiteral("session.lock")}));
@@ -141,8 +120,8 @@ private slots:
 
     void onlyTheCopiesOfEditorsThatAreGoneAreOffered()
     {
-        auto running = NewSession();
-        auto killed = NewSession();
+        auto running = NewSession(root);
+        auto killed = NewSession(root);
         QVERIFY(running && killed);
         QVERIFY(running->Write(1, Record(QStringLiteral("/p/running.xml"), QStringLiteral("running.xml")), "r"));
         const QDateTime copiedAt = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7, 890), Qt::UTC);
@@ -158,7 +137,7 @@ private slots:
             QCOMPARE(main.record.windowPath, QStringLiteral("/p/main.xml"));
             QCOMPARE(main.record.displayName, QStringLiteral("main.xml"));
             QCOMPARE(main.record.copiedAt, copiedAt);
-            QCOMPARE(Read(main.contentPath), QByteArray("m"));
+            QCOMPARE(ReadBytes(main.contentPath), QByteArray("m"));
             QCOMPARE(offered.Copies()[1].record.windowPath, QString());
             QVERIFY2(CAbandonedCopies(root).Copies().isEmpty(), "another editor starting meanwhile");
         }
@@ -176,7 +155,7 @@ private slots:
     {
         const QString path = QStringLiteral("/p/odd name=%41\nline two/\u00e9\u6e29\u5ea6.xml");
         const QString name = QStringLiteral("odd name=%41\n\u6e29\u5ea6");
-        auto session = NewSession();
+        auto session = NewSession(root);
         QVERIFY(session->Write(1, Record(path, name), "x"));
         session.reset();
         CAbandonedCopies offered(root);
@@ -187,15 +166,15 @@ private slots:
 
     void damagedCopiesOfferWhatTheyStillHold()
     {
-        auto session = NewSession();
+        auto session = NewSession(root);
         const QString folder = session->Folder();
         session.reset();
-        Write(folder + QStringLiteral("/1.xml"), "content without a record");
-        Write(folder + QStringLiteral("/2.xml"), "content with a damaged record");
-        Write(folder + QStringLiteral("/2.record"), "path\ncopied=yesterday\n\xff\xfe=%%%\n");
-        Write(folder + QStringLiteral("/3.record"), "path=/p/gone.xml\n");
-        Write(folder + QStringLiteral("/1.xml.Ab12Cd"), "a write that never finished");
-        Write(folder + QStringLiteral("/notes.xml"), "not a copy");
+        QVERIFY(WriteBytes(folder + QStringLiteral("/1.xml"), "content without a record"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/2.xml"), "content with a damaged record"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/2.record"), "path\ncopied=yesterday\n\xff\xfe=%%%\n"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/3.record"), "path=/p/gone.xml\n"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/1.xml.Ab12Cd"), "a write that never finished"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/notes.xml"), "not a copy"));
         const QDateTime written = QFileInfo(folder + QStringLiteral("/1.xml")).lastModified();
 
         CAbandonedCopies offered(root);
