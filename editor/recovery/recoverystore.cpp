@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -168,10 +169,13 @@ std::unique_ptr<CRecoverySession> CRecoverySession::Create(const QString& root, 
         return nullptr;
     }
     const QString buildingFolder = QFile::decodeName(building.c_str());
-    std::optional<CSessionLock> lock = CSessionLock::TryLock(buildingFolder);
     const QString folder = root + QLatin1Char('/') + kSessionPrefix + buildingFolder.right(6);
-    if (!lock || ::rename(building.c_str(), Local(folder).c_str()) != 0) {
-        result = Failure("Cannot set up", building, errno);
+    std::optional<CSessionLock> lock = CSessionLock::TryLock(buildingFolder);
+    if (!lock)
+        result = FileResult::Failure("Cannot lock " + building);
+    else if (::rename(building.c_str(), Local(folder).c_str()) != 0)
+        result = Failure("Cannot rename", building, errno);
+    if (!result) {
         QDir(buildingFolder).removeRecursively();
         return nullptr;
     }
