@@ -111,4 +111,5 @@ void CChildFrame::closeEvent(QCloseEvent* event)
     if (!MaybeSave())
         return event->ignore();
     QMdiSubWindow::closeEvent(event);
+    emit closedByUser();
 }

@@ -33,6 +33,8 @@ public:
 
 signals:
     void documentSaved(const QString& path);
+    // The user closed the window, and its changes were saved or discarded.
+    void closedByUser();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -62,3 +62,10 @@ void CEditorPrompts::ShowInformation(QWidget* parent, const QString& text)
 {
     QMessageBox::information(parent, QStringLiteral("Kelvo HMI Editor"), text);
 }
+
+RecoveryAnswer CEditorPrompts::AskRestoreWindows(QWidget* parent, const QList<RecoveryCopy>& copies)
+{
+    CRecoveryDialog dialog(copies, parent);
+    dialog.exec();
+    return dialog.Answer();
+}

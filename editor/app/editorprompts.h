@@ -2,6 +2,7 @@
 
 #include "editor/dynamicdialogs/dialogservices.h"
 #include "editor/projectdialogs/projectcontext.h"
+#include "editor/recovery/recoverydialog.h"
 
 #include <QString>
 
@@ -27,6 +28,8 @@ public:
     virtual void ShowError(QWidget* parent, const QString& text);
     // Tells the user something worth knowing that needs no answer.
     virtual void ShowInformation(QWidget* parent, const QString& text);
+    // What to do with the windows that editors which are gone left unsaved.
+    virtual RecoveryAnswer AskRestoreWindows(QWidget* parent, const QList<RecoveryCopy>& copies);
 
     // How the dialogs of the property rows and the project run and choose.
     ProjectContext projectDialogs;

@@ -478,6 +478,7 @@ void CMainFrame::closeEvent(QCloseEvent* event)
     m_settings.setValue(kGeometryKey, saveGeometry());
     m_settings.setValue(kStateKey, saveState());
     event->accept();
+    emit closedByUser();
 }
 
 void CMainFrame::FileNew()

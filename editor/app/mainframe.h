@@ -40,6 +40,10 @@ public:
     // Opens a window file, or shows it if it is open already. Null when it cannot be read
     // (the user has been told why).
     CChildFrame* OpenDocument(const QString& path);
+    // Shows a document that is in memory already in a new child window.
+    CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);
+    // The child window that shows the window file, or null.
+    CChildFrame* FindChild(const QString& path) const;
     CChildFrame* ActiveChild() const;
     CTamloView* ActiveView() const;
     QList<CChildFrame*> Children() const;
@@ -56,6 +60,10 @@ public:
     // Brings the window to the front after another editor start handed a file over.
     void RaiseAndRestore();
 
+signals:
+    // The user closed the editor, and every window's changes were saved or discarded.
+    void closedByUser();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -71,8 +79,6 @@ private:
                              void (CMainFrame::*slot)());
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
-    CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);
-    CChildFrame* FindChild(const QString& path) const;
     void ChildActivated(QMdiSubWindow* window);
     void ShowSelection(CHmiWidget* widget);
     void SelectWidgetByName(const std::string& name);

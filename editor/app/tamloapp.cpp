@@ -1,10 +1,15 @@
 #include "tamloapp.h"
 
 #include "childframe.h"
+#include "editorprompts.h"
 #include "mainframe.h"
 #include "pathtext.h"
+#include "recoverykeeper.h"
+#include "recoveryoffer.h"
 
 #include "editor/dynamicdialogs/scriptfunctions.h"
+#include "editor/recovery/recoverystore.h"
+#include "editor/recovery/terminationsignals.h"
 #include "project/projectpath.h"
 
 #include <QApplication>
@@ -76,7 +81,32 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     if (!started)
         return StartResult::Failed;
     m_mainFrame->show();
-    return StartResult::Started;
+    StartRecovery();
+    return m_ended ? StartResult::Ended : StartResult::Started;
+}
+
+void CTamloApp::StartRecovery()
+{
+    const QString root = RecoveryRoot();
+    FileResult result;
+    std::unique_ptr<CRecoverySession> session = CRecoverySession::Create(root, result);
+    if (!session) {
+        m_prompts.ShowError(m_mainFrame.get(), QStringLiteral("Unsaved changes cannot be kept for recovery:\n%1")
+                                                   .arg(QString::fromStdString(result.error)));
+        return;
+    }
+    m_recovery = std::make_unique<CRecoveryKeeper>(*m_mainFrame, std::move(session));
+    m_termination = std::make_unique<CTerminationSignals>();
+    connect(m_termination.get(), &CTerminationSignals::terminationRequested, this, &CTamloApp::EndWithoutQuestions);
+    OfferAbandonedWindows(root, *m_mainFrame, *m_recovery, m_prompts);
+}
+
+void CTamloApp::EndWithoutQuestions()
+{
+    m_recovery->KeepCopies();
+    m_ended = true;
+    // Leaves every event loop, a dialog's included; a start in progress returns Ended.
+    QCoreApplication::exit(0);
 }
 
 bool CTamloApp::HandOverToRunningEditor(const QString& fileArgument) const

@@ -10,10 +10,13 @@
 
 class CEditorPrompts;
 class CMainFrame;
+class CRecoveryKeeper;
+class CTerminationSignals;
 class QSettings;
 
-// The editor application: starts up in a fixed order, owns the main frame, and opens the
-// files that later editor starts hand over.
+// The editor application: starts up in a fixed order, owns the main frame, opens the files that
+// later editor starts hand over, and keeps recovery copies of the unsaved windows. SIGTERM and
+// SIGHUP end it without questions, once the copies are up to date.
 class CTamloApp : public QObject {
     Q_OBJECT
 public:
@@ -21,6 +24,7 @@ public:
         Started,    // the main frame is shown
         HandedOver, // another editor runs and was given the file argument
         Failed,     // the file argument could not be opened
+        Ended,      // a termination signal came while starting; the copies are kept
     };
 
     explicit CTamloApp(CEditorPrompts& prompts, const QString& instanceName = CInstanceGuard::ServerName());
@@ -40,10 +44,16 @@ private:
     // Sets the project folder that the file argument names (by default the demo project) and
     // returns the window file to open; empty for a new window.
     QString ApplyProjectArgument(const QString& fileArgument);
+    // Starts keeping recovery copies and offers the windows that editors which are gone left.
+    void StartRecovery();
+    void EndWithoutQuestions();
 
     CEditorPrompts& m_prompts;
     CInstanceGuard m_guard;
     WidgetLibraryLoadReport m_libraries;
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<CMainFrame> m_mainFrame;
+    std::unique_ptr<CRecoveryKeeper> m_recovery;
+    std::unique_ptr<CTerminationSignals> m_termination;
+    bool m_ended = false;
 };

@@ -69,7 +69,7 @@ bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, bool select)
     }
     if (m_pNameList)
         m_pNameList->AddWidgetName(added.GetWidgetName(), select);
-    m_bModified = true;
+    SetModifiedFlag();
     return true;
 }
 
@@ -86,7 +86,7 @@ void CTamloDoc::RemoveWidget(CHmiWidget* widget)
         view->WidgetRemoved(widget);
     std::erase_if(m_undoStep, [widget](const HmiUndoEntry& entry) { return entry.widget == widget; });
     m_widgets.erase(found);
-    m_bModified = true;
+    SetModifiedFlag();
 }
 
 void CTamloDoc::DestroyDeletedWidgets()
@@ -131,7 +131,7 @@ void CTamloDoc::EndUndoStep()
         return entry.operation != UndoOperation::Changed || entry.rectBefore != entry.widget->GetWidgetRect();
     });
     if (changed)
-        m_bModified = true;
+        SetModifiedFlag();
 }
 
 bool CTamloDoc::IsWidgetDeleted(const CHmiWidget* widget) const
@@ -165,7 +165,7 @@ void CTamloDoc::Undo()
             break;
         }
     }
-    m_bModified = true;
+    SetModifiedFlag();
 }
 
 CHmiWidget* CTamloDoc::DocumentHitTest(HmiPoint point) const
@@ -193,7 +193,7 @@ bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
     HmiWidgetPtr moved = std::move(*found);
     m_widgets.erase(found);
     m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
-    m_bModified = true;
+    SetModifiedFlag();
     return true;
 }
 

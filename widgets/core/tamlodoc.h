@@ -6,6 +6,7 @@
 #include "undostep.h"
 #include "windowfilecheck.h"
 
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -58,6 +59,9 @@ public:
     // The window file the document was last loaded from or saved to; empty for a new window.
     // Pictures are found in its folder.
     const std::string& GetPathName() const { return m_strPathName; }
+    // Makes path the document's window file without reading it, as for a window whose content
+    // came from elsewhere (a recovery copy) and that saves to its own file.
+    void SetPathName(std::string path) { m_strPathName = std::move(path); }
     // Where the window's pictures are: the folder of its window file (ending in "/"), unless
     // another folder was set.
     std::string GetPictureFolder() const;
@@ -76,7 +80,15 @@ public:
     void UpdateAllViews(const HmiRect& area) const;
 
     bool IsModified() const { return m_bModified; }
-    void SetModifiedFlag(bool modified = true) { m_bModified = modified; }
+    void SetModifiedFlag(bool modified = true)
+    {
+        m_bModified = modified;
+        if (modified)
+            ++m_nRevision;
+    }
+    // Grows each time the document is marked modified, so that an observer can tell whether it
+    // changed since the observer last looked. Saving leaves it as it is.
+    std::uint64_t Revision() const { return m_nRevision; }
 
     void SetWidgetNameList(CWidgetNameList* list) { m_pNameList = list; }
     CWidgetNameList* GetWidgetNameList() const { return m_pNameList; }
@@ -117,6 +129,7 @@ private:
     std::string m_strPictureFolder;
     CWidgetNameList* m_pNameList = nullptr;
     bool m_bModified = false;
+    std::uint64_t m_nRevision = 0;
     std::vector<HmiUndoEntry> m_undoStep;
     bool m_bUndoStepOpen = false;
 };

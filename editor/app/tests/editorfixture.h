@@ -29,14 +29,21 @@ struct ScriptedPrompts : CEditorPrompts {
     std::optional<int> AskZoomPercent(QWidget*) override { return zoomPercent; }
     void ShowError(QWidget*, const QString& text) override { errors << text; }
     void ShowInformation(QWidget*, const QString& text) override { information << text; }
+    RecoveryAnswer AskRestoreWindows(QWidget*, const QList<RecoveryCopy>& copies) override
+    {
+        offeredCopies << copies;
+        return recoveryAnswer;
+    }
 
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
     QString saveFileName;
     QString openFileName;
     std::optional<int> zoomPercent;
+    RecoveryAnswer recoveryAnswer = RecoveryAnswer::Later;
     QStringList savedQuestions;
     QStringList errors;
     QStringList information;
+    QList<QList<RecoveryCopy>> offeredCopies;
 };
 
 // A shown main frame with profile and files in a temporary folder.

@@ -44,6 +44,7 @@ private slots:
     {
         QVERIFY(!kDemo.isEmpty());
         qputenv("XDG_CONFIG_HOME", sandbox.filePath(QStringLiteral("config")).toLocal8Bit());
+        qputenv("XDG_STATE_HOME", sandbox.filePath(QStringLiteral("state")).toLocal8Bit());
         qputenv("TMPDIR", sandbox.path().toLocal8Bit());
     }
 

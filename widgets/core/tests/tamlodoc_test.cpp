@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <utility>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -293,4 +296,42 @@ TEST_F(TamloDocTest, LongValuesLoadUpToTheParsersLimit)
     const FileResult refused = doc.Load(dir.Write("longer.xml", fileWithValueOf(11000000)));
     EXPECT_FALSE(refused);
     EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window"}));
+}
+
+TEST_F(TamloDocTest, EveryWayOfMarkingTheDocumentModifiedCountsARevision)
+{
+    CTamloDoc doc;
+    doc.OnNewDocument();
+    std::uint64_t seen = doc.Revision();
+    const auto counted = [&doc, &seen] { return std::exchange(seen, doc.Revision()) != doc.Revision(); };
+
+    ASSERT_TRUE(doc.AddWidget(MakeGauge("g"), true, false));
+    CHmiWidget* gauge = doc.Widgets().back().get();
+    EXPECT_TRUE(counted()) << "adding";
+    doc.MoveWidget(gauge, 0);
+    EXPECT_TRUE(counted()) << "reordering";
+    {
+        CUndoStepGuard click(doc);
+        click.Record(UndoOperation::Changed, gauge);
+    }
+    EXPECT_FALSE(counted()) << "a click that moved nothing";
+    {
+        CUndoStepGuard drag(doc);
+        drag.Record(UndoOperation::Changed, gauge);
+        gauge->SetWidgetRect({1, 2, 30, 40});
+    }
+    EXPECT_TRUE(counted()) << "an undo step that changed a rectangle";
+    doc.Undo();
+    EXPECT_TRUE(counted()) << "undo";
+    gauge->MoveTo({5, 5, 50, 50}, nullptr);
+    EXPECT_TRUE(counted()) << "a widget editing itself";
+    doc.SetModifiedFlag();
+    EXPECT_TRUE(counted()) << "a further change to a document that is modified already";
+
+    ASSERT_TRUE(doc.Save(dir.Path("revision.xml")));
+    EXPECT_FALSE(counted()) << "saving";
+    doc.SetModifiedFlag(false);
+    EXPECT_FALSE(counted()) << "clearing the flag";
+    doc.RemoveWidget(gauge);
+    EXPECT_TRUE(counted()) << "removing";
 }

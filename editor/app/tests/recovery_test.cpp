@@ -1,0 +1,348 @@
+// Recovery copies of unsaved windows: kept while the editor runs, removed when the user closes
+// cleanly, kept when the editor is ended or killed, and offered at the next start.
+#include "editorfixture.h"
+
+#include "editor/app/recoverykeeper.h"
+#include "editor/app/tamloapp.h"
+#include "editor/recovery/recoverystore.h"
+#include "editor/recovery/tests/recoveryfixture.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Long enough that only the test decides when copies are brought up to date.
+constexpr auto kNeverByItself = 1h;
+constexpr int kProcessTimeoutMs = 30000;
+
+// The content files of every session under the root.
+QStringList CopiesUnder(const QString& root)
+{
+    QStringList copies;
+    for (const QFileInfo& session : QDir(root).entryInfoList({QStringLiteral("session-*")}, QDir::Dirs))
+        for (const QString& name : QDir(session.filePath()).entryList({QStringLiteral("*.xml")}, QDir::Files))
+            copies << session.filePath() + QLatin1Char('/') + name;
+    return copies;
+}
+
+const CHmiWidget* FindWidget(const CTamloDoc& document, const std::string& name)
+{
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        if (widget->GetWidgetName() == name)
+            return widget.get();
+    return nullptr;
+}
+
+// An editor started in this process on a window file, answering the offer of left windows.
+struct StartedEditor {
+    StartedEditor(RecoveryAnswer answer, const QString& window) : app(prompts, QStringLiteral("recovery-test"))
+    {
+        prompts.recoveryAnswer = answer;
+        result = app.Start({QStringLiteral("kelvo-hmi-editor"), window});
+    }
+    QList<CChildFrame*> Children() const { return app.MainFrame()->Children(); }
+
+    ScriptedPrompts prompts;
+    CTamloApp app;
+    CTamloApp::StartResult result;
+};
+
+} // namespace
+
+class RecoveryTest : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir sandbox;
+    std::unique_ptr<QTemporaryDir> state; // each test's own XDG_STATE_HOME
+    QString root;
+
+    // Starts the real program on a window file in a home of its own, with the drifting widget
+    // library, which modifies the window as soon as it is drawn.
+    void StartEditor(QProcess& editor, const QString& window)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("XDG_CONFIG_HOME"));
+        environment.insert(QStringLiteral("HOME"), sandbox.filePath(QStringLiteral("home")));
+        environment.insert(QStringLiteral("XDG_STATE_HOME"), state->path());
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), sandbox.filePath(QStringLiteral("runtime")));
+        environment.insert(QStringLiteral("TMPDIR"), sandbox.filePath(QStringLiteral("tmp")));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        editor.setProcessEnvironment(environment);
+        editor.setWorkingDirectory(QStringLiteral(KELVO_DRIFTING_RUN_DIR));
+        editor.setProcessChannelMode(QProcess::ForwardedChannels);
+        editor.start(QStringLiteral(KELVO_EDITOR_PROGRAM), {window});
+        QVERIFY(editor.waitForStarted(kProcessTimeoutMs));
+    }
+
+    // A window with one drifting widget, away from its resting place.
+    QString WriteDriftingWindow()
+    {
+        const QString path = sandbox.filePath(QStringLiteral("drift.xml"));
+        QByteArray file = "<hmiwidget><widget name=\"drifter1\" class=\"drifter\"><properties>";
+        for (const auto& [side, value] : {std::pair("left", 10), {"top", 20}, {"right", 60}, {"bottom", 80}})
+            file += QStringLiteral("<property name=\"%1\" type=\"short\" value=\"%2\"/>").arg(side).arg(value).toLatin1();
+        file += "</properties></widget></hmiwidget>";
+        if (!WriteBytes(path, file))
+            qWarning("cannot write %s", qPrintable(path));
+        return path;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(QDir(sandbox.path()).mkpath(QStringLiteral("home")));
+        QVERIFY(QDir(sandbox.path()).mkpath(QStringLiteral("tmp")));
+        QVERIFY(QDir(sandbox.path()).mkpath(QStringLiteral("runtime")));
+        QFile::setPermissions(sandbox.filePath(QStringLiteral("runtime")), QFileDevice::ReadOwner |
+                                                                              QFileDevice::WriteOwner |
+                                                                              QFileDevice::ExeOwner);
+        qputenv("XDG_CONFIG_HOME", sandbox.filePath(QStringLiteral("config")).toLocal8Bit());
+        qputenv("TMPDIR", sandbox.filePath(QStringLiteral("tmp")).toLocal8Bit());
+    }
+
+    void init()
+    {
+        state = std::make_unique<QTemporaryDir>(sandbox.filePath(QStringLiteral("state-XXXXXX")));
+        qputenv("XDG_STATE_HOME", state->path().toLocal8Bit());
+        root = RecoveryRoot();
+    }
+
+    void aModifiedWindowGetsACopyThatFollowsItsChanges()
+    {
+        EditorUnderTest editor;
+        CRecoveryKeeper keeper(editor.frame, NewSession(root), 10ms);
+        CChildFrame& child = editor.NewWindow();
+        QVERIFY(keeper.UpdateCopies());
+        QVERIFY2(CopiesUnder(root).isEmpty(), "an unmodified window needs no copy");
+
+        AddRect(child.Document(), {10, 10, 50, 50});
+        QTRY_COMPARE(CopiesUnder(root).size(), 1);
+        const QString copy = CopiesUnder(root).first();
+        QCOMPARE(ReadBytes(copy), QByteArray::fromStdString(child.Document().Serialize()));
+        AddRect(child.Document(), {60, 60, 90, 90});
+        QTRY_COMPARE(ReadBytes(copy), QByteArray::fromStdString(child.Document().Serialize()));
+        {
+            CAbandonedCopies offered(root);
+            QVERIFY2(offered.Copies().isEmpty(), "a running editor's copies are not offered");
+        }
+
+        const QString path = editor.folder.filePath(QStringLiteral("saved.xml"));
+        editor.prompts.saveFileName = path;
+        QVERIFY(child.SaveAs());
+        QTRY_VERIFY(CopiesUnder(root).isEmpty());
+
+        // Saved under a new name and changed at once: one copy, of the new file.
+        AddRect(child.Document(), {5, 5, 9, 9});
+        QVERIFY(keeper.UpdateCopies());
+        editor.prompts.saveFileName = editor.folder.filePath(QStringLiteral("renamed.xml"));
+        QVERIFY(child.SaveAs());
+        AddRect(child.Document(), {6, 6, 9, 9});
+        QVERIFY(keeper.UpdateCopies());
+        QCOMPARE(CopiesUnder(root).size(), 1);
+        const QFileInfo renamed(CopiesUnder(root).first());
+        QVERIFY(ReadBytes(renamed.path() + QLatin1Char('/') + renamed.completeBaseName() + QStringLiteral(".record"))
+                    .contains("/renamed.xml\n"));
+    }
+
+    void windowsTheUserClosesLoseTheirCopies()
+    {
+        EditorUnderTest editor;
+        auto session = NewSession(root);
+        const QString folder = session->Folder();
+        CRecoveryKeeper keeper(editor.frame, std::move(session), kNeverByItself);
+        CChildFrame& discarded = editor.NewWindow();
+        CChildFrame& kept = editor.NewWindow();
+        AddRect(discarded.Document(), {10, 10, 50, 50});
+        AddRect(kept.Document(), {10, 10, 50, 50});
+        QVERIFY(keeper.UpdateCopies());
+        QCOMPARE(CopiesUnder(root).size(), 2);
+
+        editor.prompts.saveAnswer = CEditorPrompts::SaveAnswer::Cancel;
+        QVERIFY(!kept.close());
+        editor.prompts.saveAnswer = CEditorPrompts::SaveAnswer::Discard;
+        QVERIFY(discarded.close());
+        QCOMPARE(CopiesUnder(root).size(), 1);
+        QVERIFY(keeper.UpdateCopies());
+        QCOMPARE(CopiesUnder(root).size(), 1);
+
+        QVERIFY(editor.frame.close());
+        QVERIFY2(!QFileInfo::exists(folder), "a clean quit leaves nothing behind");
+    }
+
+    void copiesAreKeptWhenTheEditorEndsWithoutQuestions()
+    {
+        QString copy;
+        {
+            EditorUnderTest editor;
+            CRecoveryKeeper keeper(editor.frame, NewSession(root), kNeverByItself);
+            CChildFrame& child = editor.NewWindow();
+            QVERIFY(keeper.UpdateCopies());
+            AddRect(child.Document(), {10, 10, 50, 50});
+            keeper.KeepCopies();
+            QCOMPARE(CopiesUnder(root).size(), 1);
+            copy = CopiesUnder(root).first();
+            QCOMPARE(ReadBytes(copy), QByteArray::fromStdString(child.Document().Serialize()));
+            AddRect(child.Document(), {60, 60, 90, 90});
+        }
+        QCOMPARE(CopiesUnder(root), QStringList{copy});
+        CAbandonedCopies offered(root);
+        QCOMPARE(offered.Copies().size(), 1);
+    }
+
+    void leftWindowsWaitUntilTheUserDecides()
+    {
+        {
+            auto left = NewSession(root);
+            QVERIFY(left->Write(1, {{}, QStringLiteral("Tamlo1"), QDateTime::currentDateTimeUtc()}, "<hmiwidget/>"));
+        }
+        const QString demo = CTamloApp::DemoProjectFolder() + QStringLiteral("/main.xml");
+        for (const RecoveryAnswer answer : {RecoveryAnswer::Later, RecoveryAnswer::Later, RecoveryAnswer::Discard}) {
+            StartedEditor editor(answer, demo);
+            QCOMPARE(editor.result, CTamloApp::StartResult::Started);
+            QCOMPARE(editor.prompts.offeredCopies.size(), 1);
+            QCOMPARE(editor.prompts.offeredCopies[0][0].record.displayName, QStringLiteral("Tamlo1"));
+            QCOMPARE(editor.Children().size(), 1);
+        }
+        QVERIFY(CopiesUnder(root).isEmpty());
+        StartedEditor again(RecoveryAnswer::Restore, demo);
+        QVERIFY2(again.prompts.offeredCopies.isEmpty(), "discarded copies are gone");
+    }
+
+    void restoredWindowsOpenModifiedAndSaveToTheirFiles()
+    {
+        const QString window = sandbox.filePath(QStringLiteral("restored.xml"));
+        QVERIFY(WriteBytes(window, "<hmiwidget/>"));
+        CTamloDoc changed;
+        changed.OnNewDocument();
+        AddRect(changed, {1, 2, 3, 4});
+        const std::string content = changed.Serialize();
+        QString leftFolder;
+        {
+            auto left = NewSession(root);
+            leftFolder = left->Folder();
+            const QDateTime now = QDateTime::currentDateTimeUtc();
+            QVERIFY(left->Write(1, {window, QStringLiteral("restored.xml"), now.addSecs(-2)}, content));
+            QVERIFY(left->Write(2, {{}, QStringLiteral("Tamlo7"), now.addSecs(-1)}, content));
+            QVERIFY(left->Write(3, {sandbox.filePath(QStringLiteral("broken.xml")), QStringLiteral("broken.xml"), now},
+                                "<hmiwidget"));
+        }
+
+        StartedEditor editor(RecoveryAnswer::Restore, window);
+        QCOMPARE(editor.result, CTamloApp::StartResult::Started);
+        QCOMPARE(editor.prompts.offeredCopies.size(), 1);
+        QCOMPARE(editor.prompts.offeredCopies[0].size(), 3);
+        QCOMPARE(editor.prompts.errors.size(), 1);
+        QVERIFY2(editor.prompts.errors[0].contains(QStringLiteral("broken.xml")), qPrintable(editor.prompts.errors[0]));
+
+        // The restored window takes the place of the unmodified one read from the same file.
+        QTRY_COMPARE(editor.Children().size(), 2);
+        CChildFrame* restored = editor.Children()[0];
+        CChildFrame* untitled = editor.Children()[1];
+        QCOMPARE(restored->FilePath(), window);
+        QVERIFY(restored->Document().IsModified());
+        QVERIFY(restored->isWindowModified());
+        QCOMPARE(restored->Document().Serialize(), content);
+        QCOMPARE(untitled->FilePath(), QString());
+        QVERIFY(untitled->DisplayName().startsWith(QStringLiteral("Tamlo")));
+        QVERIFY(untitled->Document().IsModified());
+
+        const QStringList copies = CopiesUnder(root);
+        QCOMPARE(copies.size(), 3);
+        QCOMPARE(copies.filter(leftFolder), QStringList{leftFolder + QStringLiteral("/3.xml")});
+
+        QVERIFY(restored->Save());
+        QCOMPARE(ReadBytes(window), QByteArray::fromStdString(content));
+    }
+
+    void theOfferListsEachWindowAndTakesTheAnswer()
+    {
+        const QDateTime copiedAt(QDate(2026, 5, 6), QTime(7, 8, 9));
+        const QList<RecoveryCopy> copies = {{{QStringLiteral("/p/main.xml"), QStringLiteral("main.xml"), copiedAt}, {}},
+                                            {{{}, QStringLiteral("Tamlo2"), copiedAt}, {}}};
+        const QStringList main = {QStringLiteral("main.xml"), QStringLiteral("/p/main.xml"),
+                                  QStringLiteral("2026-05-06 07:08:09")};
+        const QStringList untitled = {QStringLiteral("Tamlo2"), QStringLiteral("(never saved)"),
+                                      QStringLiteral("2026-05-06 07:08:09")};
+        const std::pair<QString, RecoveryAnswer> choices[] = {{QStringLiteral("&Restore"), RecoveryAnswer::Restore},
+                                                              {QStringLiteral("&Discard"), RecoveryAnswer::Discard},
+                                                              {QStringLiteral("Decide &Later"), RecoveryAnswer::Later},
+                                                              {QString(), RecoveryAnswer::Later}};
+        for (const auto& [button, answer] : choices) {
+            CRecoveryDialog dialog(copies);
+            dialog.show();
+            const auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("recoveryList"));
+            QCOMPARE(list->topLevelItemCount(), 2);
+            for (int column = 0; column < 3; ++column) {
+                QCOMPARE(list->topLevelItem(0)->text(column), main[column]);
+                QCOMPARE(list->topLevelItem(1)->text(column), untitled[column]);
+            }
+            if (button.isEmpty()) {
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            } else {
+                const QList<QPushButton*> buttons = dialog.findChildren<QPushButton*>();
+                const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                                [&](QPushButton* each) { return each->text() == button; });
+                QVERIFY(found != buttons.end());
+                (*found)->click();
+            }
+            QVERIFY(!dialog.isVisible());
+            QCOMPARE(dialog.Answer(), answer);
+        }
+    }
+
+    void aKilledEditorsWindowIsRestored()
+    {
+        const QString window = WriteDriftingWindow();
+        QProcess editor;
+        StartEditor(editor, window);
+        QTRY_VERIFY_WITH_TIMEOUT(!CopiesUnder(root).isEmpty(), kProcessTimeoutMs);
+        const QByteArray copied = ReadBytes(CopiesUnder(root).first());
+        editor.kill();
+        QVERIFY(editor.waitForFinished(kProcessTimeoutMs));
+
+        StartedEditor restarted(RecoveryAnswer::Restore, window);
+        QCOMPARE(restarted.result, CTamloApp::StartResult::Started);
+        const QList<QList<RecoveryCopy>>& offered = restarted.prompts.offeredCopies;
+        QCOMPARE(offered.size(), 1);
+        QCOMPARE(offered[0].size(), 1);
+        QCOMPARE(offered[0][0].record.windowPath, window);
+        QCOMPARE(offered[0][0].record.displayName, QStringLiteral("drift.xml"));
+        QTRY_COMPARE(restarted.Children().size(), 1);
+        const CChildFrame* restored = restarted.Children()[0];
+        QCOMPARE(restored->FilePath(), window);
+        QVERIFY(restored->Document().IsModified());
+        QCOMPARE(QByteArray::fromStdString(restored->Document().Serialize()), copied);
+        const CHmiWidget* drifter = FindWidget(restored->Document(), "drifter1");
+        QVERIFY(drifter);
+        QCOMPARE(drifter->GetWidgetRect().left, 100);
+    }
+
+    void aTerminatedEditorKeepsItsCopies()
+    {
+        const QString window = WriteDriftingWindow();
+        QProcess editor;
+        StartEditor(editor, window);
+        QTRY_VERIFY_WITH_TIMEOUT(!CopiesUnder(root).isEmpty(), kProcessTimeoutMs);
+        editor.terminate();
+        QVERIFY(editor.waitForFinished(kProcessTimeoutMs));
+        QCOMPARE(editor.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(editor.exitCode(), 0);
+
+        CAbandonedCopies offered(root);
+        QCOMPARE(offered.Copies().size(), 1);
+        QCOMPARE(offered.Copies()[0].record.windowPath, window);
+    }
+};
+
+QTEST_MAIN(RecoveryTest)
+#include "recovery_test.moc"

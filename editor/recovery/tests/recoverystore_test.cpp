@@ -1,0 +1,193 @@
+// Where recovery copies are kept, which of them are offered, and what a damaged one gives.
+#include "editor/recovery/recoverystore.h"
+#include "editor/recovery/tests/recoveryfixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+mode_t Permissions(const QString& path)
+{
+    struct stat info;
+    return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
+}
+
+QStringList SessionFolders(const QString& root)
+{
+    return QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden);
+}
+
+RecoveryRecord Record(const QString& path, const QString& name)
+{
+    return {path, name, QDateTime::currentDateTimeUtc()};
+}
+
+} // namespace
+
+class RecoveryStoreTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> sandbox;
+    QString root;
+
+private slots:
+    void init()
+    {
+        sandbox = std::make_unique<QTemporaryDir>();
+        root = sandbox->filePath(QStringLiteral("state/kelvo-hmi-editor/recovery"));
+    }
+
+    void theRootFollowsTheStateHome()
+    {
+        const QByteArray home = qgetenv("HOME");
+        const QByteArray state = qgetenv("XDG_STATE_HOME");
+        qputenv("HOME", "/home/someone");
+        qputenv("XDG_STATE_HOME", "/var/state");
+        QCOMPARE(RecoveryRoot(), QStringLiteral("/var/state/kelvo-hmi-editor/recovery"));
+        qputenv("XDG_STATE_HOME", "relative/state");
+        QCOMPARE(RecoveryRoot(), QStringLiteral("/home/someone/.local/state/kelvo-hmi-editor/recovery"));
+        qunsetenv("XDG_STATE_HOME");
+        QCOMPARE(RecoveryRoot(), QStringLiteral("/home/someone/.local/state/kelvo-hmi-editor/recovery"));
+        qputenv("HOME", home);
+        if (!state.isNull())
+            qputenv("XDG_STATE_HOME", state);
+    }
+
+    void theRootIsMadePrivate()
+    {
+        QVERIFY(MakePrivateFolder(root));
+        for (QString level = root; level != sandbox->path(); level = QFileInfo(level).path())
+            QCOMPARE(Permissions(level), mode_t(0700));
+
+        QVERIFY(::chmod(QFile::encodeName(root).constData(), 0755) == 0);
+        QVERIFY(MakePrivateFolder(root));
+        QCOMPARE(Permissions(root), mode_t(0700));
+
+        const QString file = sandbox->filePath(QStringLiteral("file"));
+        QVERIFY(WriteBytes(file, "x"));
+        const FileResult notAFolder = MakePrivateFolder(file);
+        QVERIFY(!notAFolder);
+        QVERIFY2(notAFolder.error.find("not a folder") != std::string::npos, notAFolder.error.c_str());
+        QVERIFY(!MakePrivateFolder(file + QStringLiteral("/below")));
+    }
+
+    void aRootOfAnotherUserIsNeitherWrittenNorRead()
+    {
+        if (::getuid() != 0)
+            QSKIP("only root can give a folder to another user");
+        auto left = NewSession(root);
+        QVERIFY(left);
+        QVERIFY(left->Write(1, Record({}, QStringLiteral("Tamlo1")), "<hmiwidget/>"));
+        left.reset();
+        constexpr uid_t kNobody = 65534;
+        QVERIFY(::chown(QFile::encodeName(root).constData(), kNobody, kNobody) == 0);
+
+        FileResult result;
+        QVERIFY(!CRecoverySession::Create(root, result));
+        QVERIFY2(result.error.find("belongs to another user") != std::string::npos, result.error.c_str());
+        QVERIFY(CAbandonedCopies(root).Copies().isEmpty());
+    }
+
+    void copiesAreWrittenReplacedAndRemoved()
+    {
+        auto session = NewSession(root);
+        QVERIFY(session);
+        QCOMPARE(QFileInfo(session->Folder()).path(), root);
+        QVERIFY(QFileInfo(session->Folder()).fileName().startsWith(QStringLiteral("session-")));
+        QCOMPARE(Permissions(session->Folder()), mode_t(0700));
+
+        QVERIFY(session->Write(1, Record(QStringLiteral("/p/main.xml"), QStringLiteral("main.xml")), "first"));
+        QVERIFY(session->Write(1, Record(QStringLiteral("/p/main.xml"), QStringLiteral("main.xml")), "second"));
+        QVERIFY(session->Write(2, Record({}, QStringLiteral("Tamlo1")), "new"));
+        const QString folder = session->Folder();
+        QCOMPARE(ReadBytes(folder + QStringLiteral("/1.xml")), QByteArray("second"));
+        session->Remove(1);
+        QCOMPARE(QDir(folder).entryList(QDir::Files),
+                 (QStringList{QStringLiteral("2.record"), QStringLiteral("2.xml"), QStringLiteral("session.lock")}));
+
+        session->RemoveFolder();
+        QVERIFY(!QFileInfo::exists(folder));
+        QVERIFY2(!session->Write(3, Record({}, QStringLiteral("Tamlo2")), "late"), "nothing recreates the folder");
+    }
+
+    void onlyTheCopiesOfEditorsThatAreGoneAreOffered()
+    {
+        auto running = NewSession(root);
+        auto killed = NewSession(root);
+        QVERIFY(running && killed);
+        QVERIFY(running->Write(1, Record(QStringLiteral("/p/running.xml"), QStringLiteral("running.xml")), "r"));
+        const QDateTime copiedAt = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7, 890), Qt::UTC);
+        QVERIFY(killed->Write(4, {QStringLiteral("/p/main.xml"), QStringLiteral("main.xml"), copiedAt}, "m"));
+        QVERIFY(killed->Write(5, Record({}, QStringLiteral("Tamlo1")), "t"));
+        const QString killedFolder = killed->Folder();
+        killed.reset(); // the lock goes with the process; the folder stays
+
+        {
+            CAbandonedCopies offered(root);
+            QCOMPARE(offered.Copies().size(), 2);
+            const RecoveryCopy& main = offered.Copies()[0];
+            QCOMPARE(main.record.windowPath, QStringLiteral("/p/main.xml"));
+            QCOMPARE(main.record.displayName, QStringLiteral("main.xml"));
+            QCOMPARE(main.record.copiedAt, copiedAt);
+            QCOMPARE(ReadBytes(main.contentPath), QByteArray("m"));
+            QCOMPARE(offered.Copies()[1].record.windowPath, QString());
+            QVERIFY2(CAbandonedCopies(root).Copies().isEmpty(), "another editor starting meanwhile");
+        }
+        {
+            CAbandonedCopies again(root);
+            QVERIFY2(again.Copies().size() == 2, "copies that were neither restored nor discarded stay");
+            for (const RecoveryCopy& copy : again.Copies())
+                again.Remove(copy);
+        }
+        QVERIFY2(!QFileInfo::exists(killedFolder), "a folder left without copies goes");
+        QCOMPARE(SessionFolders(root), QStringList{QFileInfo(running->Folder()).fileName()});
+    }
+
+    void recordsKeepAnyNameExactly()
+    {
+        const QString path = QStringLiteral("/p/odd name=%41\nline two/\u00e9\u6e29\u5ea6.xml");
+        const QString name = QStringLiteral("odd name=%41\n\u6e29\u5ea6");
+        auto session = NewSession(root);
+        QVERIFY(session->Write(1, Record(path, name), "x"));
+        session.reset();
+        CAbandonedCopies offered(root);
+        QCOMPARE(offered.Copies().size(), 1);
+        QCOMPARE(offered.Copies()[0].record.windowPath, path);
+        QCOMPARE(offered.Copies()[0].record.displayName, name);
+    }
+
+    void damagedCopiesOfferWhatTheyStillHold()
+    {
+        auto session = NewSession(root);
+        const QString folder = session->Folder();
+        session.reset();
+        QVERIFY(WriteBytes(folder + QStringLiteral("/1.xml"), "content without a record"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/2.xml"), "content with a damaged record"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/2.record"), "path\ncopied=yesterday\n\xff\xfe=%%%\n"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/3.record"), "path=/p/gone.xml\n"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/1.xml.Ab12Cd"), "a write that never finished"));
+        QVERIFY(WriteBytes(folder + QStringLiteral("/notes.xml"), "not a copy"));
+        const QDateTime written = QFileInfo(folder + QStringLiteral("/1.xml")).lastModified();
+
+        CAbandonedCopies offered(root);
+        QCOMPARE(offered.Copies().size(), 2);
+        for (const RecoveryCopy& copy : offered.Copies()) {
+            const QString id = QFileInfo(copy.contentPath).completeBaseName();
+            QCOMPARE(copy.record.windowPath, QString());
+            QCOMPARE(copy.record.displayName, QStringLiteral("Window ") + id);
+            QVERIFY(copy.record.copiedAt.isValid());
+        }
+        QCOMPARE(offered.Copies()[0].record.copiedAt, written);
+    }
+};
+
+QTEST_GUILESS_MAIN(RecoveryStoreTest)
+#include "recoverystore_test.moc"
