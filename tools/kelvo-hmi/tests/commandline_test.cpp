@@ -1,5 +1,6 @@
 // The command-line tool as scripts use it: its output, its files and its exit status.
 
+#include "tests/support/fulldiskscope.h"
 #include "tests/support/tempdir.h"
 
 #include <QImage>
@@ -74,6 +75,21 @@ TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
     EXPECT_EQ(RunTool("render a b --folder c").status, 2);
     EXPECT_EQ(RunTool("frobnicate").status, 2);
     EXPECT_EQ(RunTool("--version").status, 0);
+}
+
+TEST(CommandLine, RenderingOnAFullDiskKeepsTheOlderImage)
+{
+    TempDir dir;
+    const std::string in = dir.Write("w.xml", kWindowFile);
+    const std::string out = dir.Write("w.png", "older image");
+    ToolRun run;
+    {
+        FullDiskScope full;
+        run = RunTool("render '" + in + "' '" + out + "'");
+    }
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(dir.Read("w.png"), "older image");
+    EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"w.png", "w.xml"})) << "no temporary file is left";
 }
 
 TEST(CommandLine, ListsTheVariablesOfTheDemoProject)
