@@ -1,28 +1,63 @@
 #include "fileio.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-std::string Describe(const char* step, const std::string& path, int error)
+static_assert(kMaxFileSize % (1 << 20) == 0, "the limit is told in MiB");
+
+constexpr mode_t kNewFileMode = 0644;
+
+std::string Describe(const char* step, const std::string& path, std::string_view why)
 {
-    return std::string(step) + " " + path + ": " + std::strerror(error);
+    return std::string(step) + " " + path + ": " + std::string(why);
 }
 
-// The file a save really replaces: the target of a symbolic link, else the path itself.
-std::string ResolveTarget(const std::string& path)
+FileResult Fail(const char* step, const std::string& path, int error)
 {
-    char resolved[PATH_MAX];
-    if (realpath(path.c_str(), resolved))
-        return resolved;
-    return path;
+    return FileResult::Failure(Describe(step, path, std::strerror(error)));
 }
+
+FileResult FailTooLarge(const std::string& path)
+{
+    return FileResult::Failure(Describe("Cannot open", path, "it is larger than the limit of " + MaxFileSizeText()));
+}
+
+// Why a file may be neither read nor replaced, or nullptr for a regular file.
+const char* WhyNotRegular(const struct stat& info)
+{
+    if (S_ISREG(info.st_mode))
+        return nullptr;
+    return S_ISDIR(info.st_mode) ? "it is a folder" : "it is not a regular file";
+}
+
+// A file descriptor, closed when it goes out of scope.
+class OpenFile {
+public:
+    explicit OpenFile(int fd) : m_fd(fd) {}
+    ~OpenFile()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int Fd() const { return m_fd; }
+    explicit operator bool() const { return m_fd >= 0; }
+
+private:
+    int m_fd;
+};
 
 bool WriteAll(int fd, std::string_view bytes)
 {
@@ -38,71 +73,170 @@ bool WriteAll(int fd, std::string_view bytes)
     return true;
 }
 
+// Where a save may write: the path itself when nothing is there yet, else the regular file it
+// leads to through symbolic links. Also gives the permissions the new file takes over.
+FileResult FindSaveTarget(const std::string& path, std::string& target, mode_t& mode)
+{
+    struct stat info;
+    if (::lstat(path.c_str(), &info) != 0) {
+        if (errno != ENOENT)
+            return Fail("Cannot write", path, errno);
+        target = path;
+        mode = kNewFileMode;
+        return FileResult::Success();
+    }
+    if (S_ISLNK(info.st_mode) && ::stat(path.c_str(), &info) != 0) {
+        if (errno == ENOENT)
+            return FileResult::Failure(Describe("Cannot write", path, "it is a symbolic link to a missing file"));
+        return Fail("Cannot write", path, errno);
+    }
+    if (const char* why = WhyNotRegular(info))
+        return FileResult::Failure(Describe("Cannot write", path, why));
+    // Root may write anything, so a file that nobody may write counts as read-only as well.
+    if ((info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 ||
+        ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
+        return FileResult::Failure(Describe("Cannot write", path, "the file is read-only"));
+    char resolved[PATH_MAX];
+    if (!::realpath(path.c_str(), resolved))
+        return Fail("Cannot write", path, errno);
+    target = resolved;
+    mode = info.st_mode & 07777;
+    return FileResult::Success();
+}
+
+// The hidden files that saves of one target write beside it: ".<name>.kelvo-save-XXXXXX".
+class SaveTemporaries {
+public:
+    explicit SaveTemporaries(const std::string& target)
+    {
+        const std::size_t slash = target.rfind('/');
+        m_folder = slash == std::string::npos ? std::string() : target.substr(0, slash + 1);
+        m_prefix = "." + target.substr(slash + 1) + ".kelvo-save-";
+    }
+
+    // Removes the temporaries of saves that were killed before they finished: a temporary whose
+    // lock is free has no writer any more.
+    void RemoveStale() const
+    {
+        DIR* folder = ::opendir(m_folder.empty() ? "." : m_folder.c_str());
+        if (!folder)
+            return;
+        const int folderFd = ::dirfd(folder);
+        while (const dirent* entry = ::readdir(folder)) {
+            const std::string_view name = entry->d_name;
+            if (name.size() != m_prefix.size() + kRandomPart.size() || !name.starts_with(m_prefix))
+                continue;
+            const OpenFile file(::openat(folderFd, entry->d_name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+            if (file && ::flock(file.Fd(), LOCK_EX | LOCK_NB) == 0 && IsNamed(folderFd, entry->d_name, file.Fd()))
+                ::unlinkat(folderFd, entry->d_name, 0);
+        }
+        ::closedir(folder);
+    }
+
+    // Creates a new temporary and locks it for as long as it stays open; -1 with errno on
+    // failure. On a file system without locks the temporary is written unlocked: no save there
+    // can lock a stale one either, so none is removed.
+    int CreateLocked(std::string& path) const
+    {
+        for (int attempt = 0; attempt < kAttempts; ++attempt) {
+            path = m_folder + m_prefix + std::string(kRandomPart);
+            const int fd = ::mkostemp(path.data(), O_CLOEXEC);
+            if (fd < 0)
+                return -1;
+            const bool locked = ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+            if (locked ? IsNamed(AT_FDCWD, path.c_str(), fd) : errno != EWOULDBLOCK)
+                return fd;
+            // Until it was locked, another save could take the new file for a stale one: it is
+            // gone or about to go, so make another.
+            ::close(fd);
+        }
+        errno = EAGAIN;
+        return -1;
+    }
+
+private:
+    static constexpr std::string_view kRandomPart = "XXXXXX";
+    static constexpr int kAttempts = 8;
+
+    // Whether the name still leads to the open file, which is a regular one.
+    static bool IsNamed(int folderFd, const char* name, int fd)
+    {
+        struct stat named, open;
+        return ::fstatat(folderFd, name, &named, AT_SYMLINK_NOFOLLOW) == 0 && ::fstat(fd, &open) == 0 &&
+               S_ISREG(open.st_mode) && named.st_dev == open.st_dev && named.st_ino == open.st_ino;
+    }
+
+    std::string m_folder; // with its trailing slash, or empty for the current folder
+    std::string m_prefix;
+};
+
 } // namespace
+
+std::string MaxFileSizeText()
+{
+    return std::to_string(kMaxFileSize >> 20) + " MiB";
+}
 
 FileResult ReadWholeFile(const std::string& path, std::string& bytes)
 {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0)
-        return FileResult::Failure(Describe("Cannot open", path, errno));
+    // Non-blocking, so that a FIFO is refused at once instead of waiting for a writer.
+    const OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!file)
+        return Fail("Cannot open", path, errno);
     struct stat info;
-    if (::fstat(fd, &info) == 0 && S_ISDIR(info.st_mode)) {
-        ::close(fd);
-        return FileResult::Failure("Cannot open " + path + ": it is a folder");
-    }
+    if (::fstat(file.Fd(), &info) != 0)
+        return Fail("Cannot open", path, errno);
+    if (const char* why = WhyNotRegular(info))
+        return FileResult::Failure(Describe("Cannot open", path, why));
+    if (std::uint64_t(info.st_size) > kMaxFileSize)
+        return FailTooLarge(path);
     bytes.clear();
-    if (info.st_size > 0)
-        bytes.reserve(std::size_t(info.st_size));
+    bytes.reserve(std::size_t(info.st_size));
     char buffer[1 << 16];
     for (;;) {
-        const ssize_t got = ::read(fd, buffer, sizeof buffer);
+        const ssize_t got = ::read(file.Fd(), buffer, sizeof buffer);
         if (got < 0 && errno == EINTR)
             continue;
-        if (got < 0) {
-            const int error = errno;
-            ::close(fd);
-            return FileResult::Failure(Describe("Cannot read", path, error));
-        }
+        if (got < 0)
+            return Fail("Cannot read", path, errno);
         if (got == 0)
-            break;
-        bytes.append(buffer, std::size_t(got));
+            return FileResult::Success();
+        // One byte beyond the limit at most is kept: enough to tell a file that grew too large
+        // while it was read.
+        bytes.append(buffer, std::min<std::uint64_t>(std::uint64_t(got), kMaxFileSize + 1 - bytes.size()));
+        if (bytes.size() > kMaxFileSize) {
+            bytes = std::string();
+            return FailTooLarge(path);
+        }
     }
-    ::close(fd);
-    return FileResult::Success();
 }
 
 FileResult WriteFileAtomically(const std::string& path, std::string_view bytes)
 {
-    const std::string target = ResolveTarget(path);
-    std::string temporary = target + ".XXXXXX";
-    const int fd = mkstemp(temporary.data());
-    if (fd < 0)
-        return FileResult::Failure(Describe("Cannot create a file beside", target, errno));
-
-    struct stat existing;
-    const mode_t mode = ::stat(target.c_str(), &existing) == 0 ? (existing.st_mode & 07777) : 0644;
+    std::string target;
+    mode_t mode = kNewFileMode;
+    if (FileResult found = FindSaveTarget(path, target, mode); !found)
+        return found;
+    const SaveTemporaries temporaries(target);
+    temporaries.RemoveStale();
+    std::string temporary;
+    // The temporary closes, and its lock goes, only after the rename, so that no other save
+    // takes it for a stale one; its bytes are on disk by then.
+    const OpenFile file(temporaries.CreateLocked(temporary));
+    if (!file)
+        return Fail("Cannot create a file beside", target, errno);
     const char* failedStep = nullptr;
-    int error = 0;
-    if (::fchmod(fd, mode) != 0)
+    if (::fchmod(file.Fd(), mode) != 0)
         failedStep = "Cannot set the permissions of";
-    else if (!WriteAll(fd, bytes))
+    else if (!WriteAll(file.Fd(), bytes))
         failedStep = "Cannot write";
-    else if (::fsync(fd) != 0)
+    else if (::fsync(file.Fd()) != 0)
         failedStep = "Cannot flush";
-    if (failedStep)
-        error = errno;
-    if (::close(fd) != 0 && !failedStep) {
-        failedStep = "Cannot close";
-        error = errno;
-    }
-    if (failedStep) {
-        ::unlink(temporary.c_str());
-        return FileResult::Failure(Describe(failedStep, target, error));
-    }
-    if (::rename(temporary.c_str(), target.c_str()) != 0) {
-        const int renameError = errno;
-        ::unlink(temporary.c_str());
-        return FileResult::Failure(Describe("Cannot replace", target, renameError));
-    }
-    return FileResult::Success();
+    else if (::rename(temporary.c_str(), target.c_str()) != 0)
+        failedStep = "Cannot replace";
+    if (!failedStep)
+        return FileResult::Success();
+    const int error = errno;
+    ::unlink(temporary.c_str());
+    return Fail(failedStep, target, error);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,12 +17,26 @@ struct FileResult {
     explicit operator bool() const { return ok; }
 };
 
-// Reads a whole file into memory. Fails with the reason when the path is missing, unreadable
-// or a folder.
+// The largest file ReadWholeFile takes in. A window of 10,000 widgets is about 17 MB; the limit
+// keeps a hostile or mistaken path from filling the memory.
+inline constexpr std::uint64_t kMaxFileSize = std::uint64_t(64) << 20;
+// kMaxFileSize for messages and documentation: "64 MiB".
+std::string MaxFileSizeText();
+
+// Reads a whole file into memory. Fails with the reason when the path is missing or unreadable,
+// when it is not a regular file (a folder, a device, a FIFO: opening never waits for a writer),
+// or when the file holds more than kMaxFileSize bytes, even if it grows while it is read.
 FileResult ReadWholeFile(const std::string& path, std::string& bytes);
 
 // Replaces a file's content without ever leaving it half written: the bytes go to a new file
 // beside it, which is flushed to disk and then renamed over the old one. The old file keeps its
-// permissions; when the path is a symbolic link, the file it points to is replaced. On any
-// failure the old file is left as it was and the new one is removed.
+// permissions; when the path is a symbolic link, the file it points to is replaced and the link
+// stays. Only a regular file or a path where nothing is yet may be written: a folder, a device,
+// a FIFO, a symbolic link that leads nowhere and a read-only file (no write permission for the
+// caller, or none for anybody, so that root is refused as well) are refused. On any failure the
+// old file is left as it was and the new one is removed.
+//
+// The new file is hidden and named after the target, ".<name>.kelvo-save-XXXXXX"; it is locked
+// (flock) while it is written. A save killed before it finished leaves such a file unlocked, and
+// the next save of the same target removes it.
 FileResult WriteFileAtomically(const std::string& path, std::string_view bytes);

@@ -68,9 +68,16 @@ FileResult ImportPictureFile(const std::string& chosenPath, const std::string& p
     const fs::path target = fs::path(Gb2312ToUtf8OrKeep(projectFolder)) / chosen.filename();
     std::error_code error;
     const bool alreadyThere = fs::exists(target, error) && fs::equivalent(chosen, target, error);
-    if (!alreadyThere && !fs::copy_file(chosen, target, fs::copy_options::overwrite_existing, error))
-        return FileResult::Failure("Cannot copy " + chosen.string() + " to " + target.string() + ": " +
-                                   error.message());
+    if (!alreadyThere) {
+        // Read and saved as a window file is: a regular file within the size limit, and a picture
+        // of the same name is replaced whole or not at all.
+        std::string bytes;
+        FileResult copied = ReadWholeFile(chosen.string(), bytes);
+        if (copied)
+            copied = WriteFileAtomically(target.string(), bytes);
+        if (!copied)
+            return copied;
+    }
     name = Utf8ToGb2312OrKeep(chosen.filename().string());
     return FileResult::Success();
 }

@@ -24,7 +24,7 @@ public:
     HmiColor m_transparentColor = 0x00000000;
 };
 
-// Brings a chosen picture file into the project folder (ending in "/"): copied under the same
-// name, replacing a file of that name, unless it already lies there. On success, name is the
-// file name alone.
+// Brings a chosen picture file into the project folder (ending in "/"): read as ReadWholeFile
+// reads, and saved under the same name as WriteFileAtomically saves, replacing a file of that
+// name, unless it already lies there. On success, name is the file name alone.
 FileResult ImportPictureFile(const std::string& chosenPath, const std::string& projectFolder, std::string& name);

@@ -2,6 +2,7 @@
 
 #include "hmipainterdc.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -52,9 +53,13 @@ HmiColor CHmiImageDC::GetPixel(int x, int y) const
 
 FileResult CHmiImageDC::SavePng(const std::string& path) const
 {
-    if (!m_canvas->image.save(QString::fromStdString(path), "PNG"))
+    // Encoded in memory and then saved whole, so that a full disk leaves an older image as it was.
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    if (!m_canvas->image.save(&buffer, "PNG"))
         return FileResult::Failure("Cannot write the image " + path);
-    return FileResult::Success();
+    return WriteFileAtomically(path, std::string_view(png.constData(), std::size_t(png.size())));
 }
 
 // Everything else is the painter's, on the image.

@@ -1,7 +1,9 @@
 #include "hmipainterdc.h"
 
+#include "project/fileio.h"
 #include "project/textcodec.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QImageReader>
@@ -94,14 +96,29 @@ QFont ToQFont(const HmiFont& font)
     return qfont;
 }
 
+// A picture file read as every file is (a regular file within the size limit), so that a window
+// naming a device or a FIFO as its picture neither stalls nor exhausts drawing. Null when the
+// file cannot be read or decoded.
+QImage ReadPicture(const std::string& path)
+{
+    std::string bytes;
+    if (!ReadWholeFile(path, bytes))
+        return {};
+    QByteArray data = QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size()));
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    return reader.read();
+}
+
 // Decoded pictures, so that repainting a canvas does not decode its files again. An entry
 // is replaced when its file changes on disk.
 class PictureCache {
 public:
     const QImage* Find(const std::string& path)
     {
-        const QString name = QString::fromStdString(path);
-        const QFileInfo info(name);
+        const QFileInfo info(QString::fromStdString(path));
         if (!info.isFile())
             return nullptr;
         const QDateTime modified = info.lastModified();
@@ -109,9 +126,7 @@ public:
         if (found == m_entries.end() || found->second.modified != modified) {
             if (m_entries.size() >= kMaxEntries)
                 m_entries.clear();
-            QImageReader reader(name);
-            reader.setAutoTransform(true);
-            found = m_entries.insert_or_assign(path, Entry{modified, reader.read()}).first;
+            found = m_entries.insert_or_assign(path, Entry{modified, ReadPicture(path)}).first;
         }
         return found->second.image.isNull() ? nullptr : &found->second.image;
     }

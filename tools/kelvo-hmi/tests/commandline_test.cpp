@@ -1,6 +1,7 @@
 // The command-line tool as scripts use it: its output, its files and its exit status.
 
 #include "tests/support/commalocale.h"
+#include "tests/support/fulldiskscope.h"
 #include "tests/support/tempdir.h"
 
 #include <QImage>
@@ -92,6 +93,21 @@ TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)
         EXPECT_EQ(dir.Read(std::string("comma-") + window), dir.Read(std::string("plain-") + window)) << window;
     }
     EXPECT_NE(dir.Read("comma-trends.xml").find("type=\"float\" value=\"150.000000\""), std::string::npos);
+}
+
+TEST(CommandLine, RenderingOnAFullDiskKeepsTheOlderImage)
+{
+    TempDir dir;
+    const std::string in = dir.Write("w.xml", kWindowFile);
+    const std::string out = dir.Write("w.png", "older image");
+    ToolRun run;
+    {
+        FullDiskScope full;
+        run = RunTool("render '" + in + "' '" + out + "'");
+    }
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(dir.Read("w.png"), "older image");
+    EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"w.png", "w.xml"})) << "no temporary file is left";
 }
 
 TEST(CommandLine, ListsTheVariablesOfTheDemoProject)

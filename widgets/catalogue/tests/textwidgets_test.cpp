@@ -2,6 +2,7 @@
 // their drawing steps.
 
 #include "ownproperties.h"
+#include "tests/support/fulldiskscope.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/recordingdc.h"
 #include "tests/support/tempdir.h"
@@ -15,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace {
 
@@ -260,4 +262,39 @@ TEST(Picture, ChosenFilesAreCopiedIntoTheProjectUnlessAlreadyThere)
     file->SetEditText(dir.Path("elsewhere/missing.png"));
     picture->UpdateWidgetPropByTree(file);
     EXPECT_EQ(picture->m_strFileName, "valve.png") << "a file that cannot be copied changes nothing";
+}
+
+TEST(Picture, AnImportThatFailsKeepsThePictureOfTheSameName)
+{
+    TempDir dir;
+    std::filesystem::create_directories(dir.Path("project"));
+    const std::string project = dir.Path("project/");
+    dir.Write("project/logo.png", "the picture the window shows");
+    std::filesystem::create_directories(dir.Path("fifo"));
+    std::filesystem::create_directories(dir.Path("large"));
+    ASSERT_EQ(::mkfifo(dir.Path("fifo/logo.png").c_str(), 0644), 0);
+    std::filesystem::resize_file(dir.Write("large/logo.png", ""), kMaxFileSize + 1);
+    const std::string newer = dir.Write("logo.png", "a newer picture, longer than a full disk takes");
+
+    std::string name;
+    FileResult onFullDisk;
+    {
+        FullDiskScope full;
+        onFullDisk = ImportPictureFile(newer, project, name);
+    }
+    EXPECT_FALSE(onFullDisk);
+    const struct {
+        std::string chosen;
+        const char* reason;
+    } refused[] = {
+        {dir.Path("fifo/logo.png"), "it is not a regular file"},
+        {dir.Path("large/logo.png"), "larger than the limit"},
+    };
+    for (const auto& [chosen, reason] : refused) {
+        const FileResult imported = ImportPictureFile(chosen, project, name);
+        EXPECT_FALSE(imported) << chosen;
+        EXPECT_NE(imported.error.find(reason), std::string::npos) << imported.error;
+    }
+    EXPECT_TRUE(dir.Read("project/logo.png") == "the picture the window shows") << "the old picture is kept";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(project), {}), 1) << "no temporary file is left";
 }

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
+#include <sys/stat.h>
 
 namespace {
 
@@ -209,4 +211,29 @@ TEST(PainterDC, PicturesAreStretchedWithTheirTransparentColourLeftOut)
     EXPECT_FALSE(missing.DrawPictureFile(dir.Path("none.png"), {0, 0, 6, 6}, nullptr));
     EXPECT_FALSE(missing.DrawPictureFile(dir.Write("bad.png", "not a picture"), {0, 0, 6, 6}, nullptr));
     EXPECT_EQ(ColoursIn(missing), std::set<HmiColor>{kWhite});
+}
+
+TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
+{
+    TempDir dir;
+    QImage red(2, 2, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    // A picture followed by zeros up to a given size: its decoder stops at the picture's end.
+    auto paddedPicture = [&](const char* name, std::uint64_t size) {
+        const std::string path = dir.Path(name);
+        EXPECT_TRUE(red.save(QString::fromStdString(path), "PNG"));
+        std::filesystem::resize_file(path, size);
+        return path;
+    };
+    CHmiImageDC atLimit(6, 6);
+    EXPECT_TRUE(atLimit.DrawPictureFile(paddedPicture("limit.png", kMaxFileSize), {0, 0, 6, 6}, nullptr));
+    EXPECT_EQ(ColoursIn(atLimit), std::set<HmiColor>{kRed});
+
+    ASSERT_EQ(::mkfifo(dir.Path("fifo.png").c_str(), 0644), 0);
+    for (const std::string& path : {paddedPicture("over.png", kMaxFileSize + 1), dir.Path("fifo.png"),
+                                    std::string("/dev/zero")}) {
+        CHmiImageDC refused(6, 6);
+        EXPECT_FALSE(refused.DrawPictureFile(path, {0, 0, 6, 6}, nullptr)) << path;
+        EXPECT_EQ(ColoursIn(refused), std::set<HmiColor>{kWhite}) << path;
+    }
 }

@@ -1,14 +1,13 @@
 // A save that fails at any step leaves the previous window file byte for byte as it was, no
 // temporary file behind, and the document still modified.
 
+#include "tests/support/fulldiskscope.h"
 #include "tests/support/tempdir.h"
 #include "widgets/catalogue/builtinwidgets.h"
 #include "widgets/core/tamlodoc.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -20,6 +19,8 @@ struct SaveFaultTest : ::testing::Test {
     {
         RegisterBuiltinWidgetClasses();
         path = dir.Write("window.xml", kOldBytes);
+        // Writable by the user, so that what a test puts in the way is the only obstacle.
+        ::chmod(path.c_str(), 0666);
         doc.OnNewDocument();
         doc.SetModifiedFlag();
     }
@@ -37,28 +38,6 @@ struct SaveFaultTest : ::testing::Test {
     TempDir dir;
     std::string path;
     CTamloDoc doc;
-};
-
-// Makes every write beyond a few bytes fail as on a full disk, for its lifetime.
-class FullDiskScope {
-public:
-    FullDiskScope()
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_saved);
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit small = m_saved;
-        small.rlim_cur = 16;
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDiskScope()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_saved);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-
-private:
-    rlimit m_saved{};
-    void (*m_oldHandler)(int) = nullptr;
 };
 
 } // namespace

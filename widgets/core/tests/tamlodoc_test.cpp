@@ -231,6 +231,7 @@ TEST_F(TamloDocTest, ChineseTextSurvivesLoadAndSaveByteForByte)
 TEST_F(TamloDocTest, AFailedSaveKeepsTheOldFileAndTheModifiedFlag)
 {
     const std::string path = dir.Write("keep.xml", "old bytes");
+    ::chmod(path.c_str(), 0666);
     CTamloDoc doc;
     doc.OnNewDocument();
     doc.AddWidget(MakeGauge(), true, false);
