@@ -75,6 +75,7 @@ void CHmiImageDC::DrawText(std::string_view text, const HmiRect& rect, std::uint
     m_canvas->dc->DrawText(text, rect, format);
 }
 HmiPoint CHmiImageDC::GetTextExtent(std::string_view text) { return m_canvas->dc->GetTextExtent(text); }
+HmiRect CHmiImageDC::GetClipBox() const { return m_canvas->dc->GetClipBox(); }
 bool CHmiImageDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
     return m_canvas->dc->DrawPictureFile(path, rect, transparent);

@@ -37,6 +37,7 @@ public:
     void DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format) override;
     HmiPoint GetTextExtent(std::string_view text) override;
     bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
+    HmiRect GetClipBox() const override;
 
 private:
     struct Canvas;
