@@ -7,7 +7,8 @@
 
 // An off-screen drawing target: an image of a fixed size, white to begin with, that can be
 // read back pixel by pixel (the bitmap text encodes its rendering this way) or saved as PNG.
-// Drawing needs a running QGuiApplication for fonts.
+// Text needs a running QGuiApplication for fonts: without one, text is left out and measures
+// nothing, and everything else is drawn.
 class CHmiImageDC : public CHmiDC {
 public:
     CHmiImageDC(int width, int height);
