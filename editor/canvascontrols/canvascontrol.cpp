@@ -17,7 +17,7 @@ void CCanvasControl::MoveTo(const HmiRect& clientRect)
     m_clientRect = clientRect;
     if (!m_widget)
         return;
-    const HmiRect r = clientRect.Normalized();
+    const HmiRect r = clientRect.ForDrawing().Normalized(); // as far as the canvas draws
     m_widget->setGeometry(r.left, r.top, r.Width(), r.Height());
     m_widget->update();
 }

@@ -9,6 +9,7 @@
 #include "widgets/catalogue/builtinwidgets.h"
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 
@@ -312,6 +313,29 @@ private slots:
         names.setCurrentIndex(names.findText(QStringLiteral("pump")));
         emit names.activated(names.currentIndex());
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{a});
+    }
+
+    // Window files with huge coordinates and counts: the canvas holds to the largest window
+    // drawn whole, and draws every widget, selected with its handles, in bounded work.
+    void hostileWindowsGetABoundedCanvas_data()
+    {
+        QTest::addColumn<QString>("file");
+        const QDir corpus(QStringLiteral(KELVO_HOSTILE_WINDOWS_DIR));
+        for (const QString& name : corpus.entryList({QStringLiteral("huge-*"), QStringLiteral("reversed-*")}))
+            QTest::newRow(qPrintable(name)) << corpus.filePath(name);
+    }
+
+    void hostileWindowsGetABoundedCanvas()
+    {
+        QFETCH(QString, file);
+        CChildFrame* opened = editor->frame.OpenDocument(file);
+        QVERIFY(opened);
+        CTamloView& canvas = opened->View();
+        QVERIFY(canvas.width() <= 4096 + 8);
+        QVERIFY(canvas.height() <= 4096 + 8);
+        for (const HmiWidgetPtr& widget : canvas.Document().Widgets())
+            canvas.Selection().Select(widget.get(), true);
+        QVERIFY(!canvas.grab(QRect(0, 0, 640, 480)).isNull());
     }
 
     void newWidgetsGetUniqueNames()
