@@ -122,7 +122,7 @@ void CurveSettings::DrawPreview(CHmiDC& dc, const HmiRect& rect) const
         }
         // The time labels stand under the left edge and each vertical line, all showing now.
         if (c == 0 && m_nHLines > 0 && m_nXPoints / m_nHLines > 0) {
-            const std::int64_t labels = std::min(m_nHLines, m_nXPoints / (m_nXPoints / m_nHLines)) + 1;
+            const std::int64_t labels = std::int64_t(std::min(m_nHLines, m_nXPoints / (m_nXPoints / m_nHLines))) + 1;
             const std::time_t now = std::time(nullptr);
             std::tm local{};
             localtime_r(&now, &local);
