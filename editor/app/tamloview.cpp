@@ -199,7 +199,7 @@ void CTamloView::DrawTrackers(QPainter& painter) const
         // The window widget draws at the canvas origin, wherever it stands on the panel.
         const HmiPoint origin = CanvasOrigin(*widget);
         painter.save();
-        painter.translate(-origin.x, -origin.y);
+        painter.translate(-double(origin.x), -double(origin.y));
         CHmiPainterDC dc(painter);
         widget->DrawTracker(dc, widget == widgets.back() ? TrackerState::active : TrackerState::selected);
         painter.restore();
