@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <ranges>
 
 // Drawing in numbered steps (the pixels of a line, the bands of a gradient, the lines of a grid)
 // that leaves out the steps that cannot be seen. Where a step lands moves monotonically with its
@@ -24,11 +23,14 @@ struct HmiSteps {
 template <class Predicate>
 std::int64_t HmiFirstStepWhere(std::int64_t first, std::int64_t end, Predicate reached)
 {
-    if (first >= end)
-        return end;
-    const auto steps = std::views::iota(first, end);
-    const auto found = std::ranges::partition_point(steps, [&](std::int64_t step) { return !reached(step); });
-    return first + std::ranges::distance(steps.begin(), found);
+    while (first < end) {
+        const std::int64_t middle = first + (end - first) / 2;
+        if (reached(middle))
+            end = middle;
+        else
+            first = middle + 1;
+    }
+    return first;
 }
 
 // The steps from first to end - 1 whose place, place(step), lies from low to high - 1, for a place
