@@ -1,6 +1,7 @@
 // Measures the canvas on a crowded window: a full repaint, and a rubber-band selection with the
-// repaints that follow it, against plain rectangles drawn through the same painter. Prints
-// figures only; nothing here is a pass or a fail.
+// repaints that follow it, against plain rectangles drawn through the same painter; and a full
+// repaint of a window whose widgets are as large, and whose counts as high, as a window file can
+// make them. Prints figures only; nothing here is a pass or a fail.
 
 #include "editor/app/tamloview.h"
 #include "widgets/catalogue/builtinwidgets.h"
@@ -60,6 +61,10 @@ constexpr WidgetKind kMix[] = {
     {"bmptext", 100, 24, 2},
     {"picture", 100, 60, 2},
 };
+
+// A coordinate far outside any window, and a count as high as a file can hold.
+constexpr int kHugeCoordinate = 1000000000;
+constexpr const char* kHugeCount = "2147483647";
 
 struct Timing {
     double median = 0;
@@ -145,16 +150,30 @@ void PrintRow(int widgetCount, const char* label, const Timing& timing, const Ti
                 timing.median / baseline.median);
 }
 
-void MeasureCanvas(int widgetCount)
+// One widget of each kind of the mix over the whole drawing range and far beyond, with every
+// count of grid lines and points as high as a file can hold.
+void FillWithHugeWidgets(CTamloDoc& document)
 {
-    CTamloDoc document;
-    FillDocument(document, widgetCount);
-    CTamloView view(document);
-    view.show();
-    QCoreApplication::processEvents();
-    QImage image(view.size(), kImageFormat);
+    document.OnNewDocument();
+    document.GetWindowWidget()->SetWidgetRect({0, 0, kWindowWidth, kWindowHeight});
+    for (const WidgetKind& kind : kMix) {
+        HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(kind.key)->CreateObject();
+        widget->SetWidgetRect({-kHugeCoordinate, -kHugeCoordinate, kHugeCoordinate, kHugeCoordinate});
+        for (const char* count : {"hlines", "vlines", "xpoints"})
+            widget->SetWidgetProperty(count, "ushort", kHugeCount, "");
+        document.AddWidget(std::move(widget), true, false);
+    }
+}
 
-    // The same rectangles as the widgets, drawn plainly with the painter's default pen and brush.
+// A full repaint of the canvas against plain rectangles drawn through the same painter, with
+// the same rectangles as the widgets and the painter's default pen and brush.
+struct RepaintTimings {
+    Timing baseline;
+    Timing repaint;
+};
+
+RepaintTimings MeasureRepaint(const CTamloDoc& document, CTamloView& view, QImage& image)
+{
     std::vector<HmiRect> rects;
     for (const HmiWidgetPtr& widget : document.Widgets())
         if (widget.get() != document.GetWindowWidget())
@@ -165,7 +184,32 @@ void MeasureCanvas(int widgetCount)
         for (const HmiRect& rect : rects)
             dc.Rectangle(rect);
     });
-    const Timing repaint = Measure(kRepaintRepetitions, [&] { view.render(&image); });
+    return {baseline, Measure(kRepaintRepetitions, [&] { view.render(&image); })};
+}
+
+void MeasureHugeWidgets()
+{
+    CTamloDoc document;
+    FillWithHugeWidgets(document);
+    CTamloView view(document);
+    view.show();
+    QCoreApplication::processEvents();
+    QImage image(view.size(), kImageFormat);
+    const auto [baseline, repaint] = MeasureRepaint(document, view, image);
+    const int widgetCount = int(std::size(kMix));
+    PrintRow(widgetCount, "huge: plain rectangles", baseline, baseline);
+    PrintRow(widgetCount, "huge: full canvas repaint", repaint, baseline);
+}
+
+void MeasureCanvas(int widgetCount)
+{
+    CTamloDoc document;
+    FillDocument(document, widgetCount);
+    CTamloView view(document);
+    view.show();
+    QCoreApplication::processEvents();
+    QImage image(view.size(), kImageFormat);
+    const auto [baseline, repaint] = MeasureRepaint(document, view, image);
 
     PaintCounter paints;
     view.installEventFilter(&paints);
@@ -196,5 +240,6 @@ int main(int argc, char* argv[])
     std::printf("%7s  %-26s %9s %9s %10s\n", "widgets", "case", "median ms", "min ms", "/ plain");
     for (int count : {1000, 5000})
         MeasureCanvas(count);
+    MeasureHugeWidgets();
     return 0;
 }

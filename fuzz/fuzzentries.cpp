@@ -6,9 +6,11 @@
 #include "project/windowlist.h"
 #include "project/xmldocument.h"
 #include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/core/hmiimagedc.h"
 #include "widgets/core/numberparsers.h"
 #include "widgets/core/tamlodoc.h"
 #include "widgets/core/widgetfilereader.h"
+#include "widgets/core/windowpainter.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -54,6 +56,10 @@ void FuzzWindowFile(const std::uint8_t* data, std::size_t size)
     (void)registered;
     CTamloDoc document;
     ReadWindowText(Text(data, size), [&](HmiWidgetPtr widget) { document.AddWidget(std::move(widget), false, false); });
+    // Drawn into a small image, as the canvas would show its corner: the work must follow the
+    // image however large the widgets and their counts are (text is left out without fonts).
+    CHmiImageDC image(64, 48);
+    DrawWindow(document, image);
     // Whatever was read is either written so that it reads back the same, or refused.
     std::string text;
     if (!document.SerializeChecked(text))

@@ -13,7 +13,7 @@ struct FuzzEntry {
     void (*run)(const std::uint8_t* data, std::size_t size);
 };
 
-// The window-file reader followed by a save of what it read.
+// The window-file reader, a drawing of what it read, and a save of it.
 void FuzzWindowFile(const std::uint8_t* data, std::size_t size);
 void FuzzNumberParsers(const std::uint8_t* data, std::size_t size);
 void FuzzProjectArgument(const std::uint8_t* data, std::size_t size);

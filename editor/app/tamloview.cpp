@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -23,7 +24,7 @@ constexpr int kCanvasMargin = 8;
 
 QRect ToQRect(const HmiRect& rect)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     return QRect(QPoint(r.left, r.top), QPoint(r.right - 1, r.bottom - 1));
 }
 
@@ -101,8 +102,9 @@ CTamloView::~CTamloView()
 void CTamloView::FitToWindow()
 {
     const CHmiWidget* window = m_document.FindWindowWidget();
-    const HmiRect rect = window ? CanvasRect(*window).Normalized() : HmiRect{};
-    const QSize size(rect.right + kCanvasMargin, rect.bottom + kCanvasMargin);
+    const HmiRect rect = window ? CanvasRect(*window) : HmiRect{};
+    const QSize size(std::clamp(rect.right, 0, kMaxDrawnWindowExtent) + kCanvasMargin,
+                     std::clamp(rect.bottom, 0, kMaxDrawnWindowExtent) + kCanvasMargin);
     if (size != this->size())
         setFixedSize(size);
 }
@@ -178,12 +180,16 @@ void CTamloView::paintEvent(QPaintEvent* event)
 
 void CTamloView::PaintCanvas(QPainter& painter, const QRect& area) const
 {
+    // Only the area to repaint is drawn: the drawing target takes the clip as what it shows.
+    painter.save();
+    painter.setClipRect(area);
     painter.fillRect(area, palette().color(QPalette::Dark));
     {
         CHmiPainterDC dc(painter);
         DrawWindow(m_document, dc);
     }
     DrawTrackers(painter);
+    painter.restore();
 }
 
 void CTamloView::DrawTrackers(QPainter& painter) const
@@ -193,7 +199,7 @@ void CTamloView::DrawTrackers(QPainter& painter) const
         // The window widget draws at the canvas origin, wherever it stands on the panel.
         const HmiPoint origin = CanvasOrigin(*widget);
         painter.save();
-        painter.translate(-origin.x, -origin.y);
+        painter.translate(-double(origin.x), -double(origin.y));
         CHmiPainterDC dc(painter);
         widget->DrawTracker(dc, widget == widgets.back() ? TrackerState::active : TrackerState::selected);
         painter.restore();

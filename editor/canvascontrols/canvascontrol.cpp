@@ -1,5 +1,9 @@
 #include "canvascontrol.h"
 
+#include "widgets/core/windowpainter.h"
+
+#include <algorithm>
+
 CCanvasControl::CCanvasControl(QWidget* widget) : m_widget(widget) {}
 
 CCanvasControl::~CCanvasControl()
@@ -17,8 +21,11 @@ void CCanvasControl::MoveTo(const HmiRect& clientRect)
     m_clientRect = clientRect;
     if (!m_widget)
         return;
-    const HmiRect r = clientRect.Normalized();
-    m_widget->setGeometry(r.left, r.top, r.Width(), r.Height());
+    // Where the canvas draws, and no larger than the largest window drawn whole: the controls
+    // may paint through an image of their own size.
+    const HmiRect r = clientRect.ForDrawing().Normalized();
+    m_widget->setGeometry(r.left, r.top, std::min(r.Width(), kMaxDrawnWindowExtent),
+                          std::min(r.Height(), kMaxDrawnWindowExtent));
     m_widget->update();
 }
 

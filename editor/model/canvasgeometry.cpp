@@ -11,9 +11,10 @@ HmiPoint CanvasOrigin(const CHmiWidget& widget)
 
 HmiRect CanvasRect(const CHmiWidget& widget)
 {
-    const HmiPoint origin = CanvasOrigin(widget);
     const HmiRect& rect = widget.GetWidgetRect();
-    return {rect.left - origin.x, rect.top - origin.y, rect.right - origin.x, rect.bottom - origin.y};
+    if (CanvasOrigin(widget) != HmiPoint{})
+        return {0, 0, rect.Width(), rect.Height()}; // the window from its own top-left corner
+    return rect;
 }
 
 HmiPoint ToWidgetSpace(const CHmiWidget& widget, HmiPoint canvasPoint)

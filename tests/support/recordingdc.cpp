@@ -105,3 +105,8 @@ RecordingDC::Shape& RecordingDC::Record(const char* kind, const HmiRect& rect)
     shape.bkMode = bkMode;
     return shape;
 }
+
+HmiRect RecordingDC::GetClipBox() const
+{
+    return clipBox;
+}

@@ -39,6 +39,7 @@ public:
     // Every character is 8 by 16 pixels.
     HmiPoint GetTextExtent(std::string_view text) override;
     bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
+    HmiRect GetClipBox() const override;
 
     // The shapes of one kind, in drawing order.
     std::vector<Shape> ShapesOfKind(const std::string& kind) const;
@@ -52,6 +53,8 @@ public:
     HmiColor bkColor = 0x00FFFFFF;
     HmiBkMode bkMode = HmiBkMode::Opaque;
     HmiPoint position;
+    // What the target offers as its visible area: the whole drawing range unless a test narrows it.
+    HmiRect clipBox{kHmiDrawingMin, kHmiDrawingMin, kHmiDrawingMax, kHmiDrawingMax};
 
 private:
     Shape& Record(const char* kind, const HmiRect& rect);

@@ -9,6 +9,7 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <sys/stat.h>
@@ -117,7 +118,12 @@ int Render(Arguments args)
     if (args.size() == 4)
         document.SetPictureFolder(args[3]);
     const HmiRect window = document.GetWindowWidget()->GetWidgetRect().Normalized();
-    CHmiImageDC image(window.Width(), window.Height());
+    const std::int32_t width = std::min(window.Width(), kMaxDrawnWindowExtent);
+    const std::int32_t height = std::min(window.Height(), kMaxDrawnWindowExtent);
+    if (width < window.Width() || height < window.Height())
+        std::fprintf(stderr, "kelvo-hmi: the window is %d x %d pixels; drawn clipped to its top-left %d x %d\n",
+                     window.Width(), window.Height(), width, height);
+    CHmiImageDC image(width, height);
     DrawWindow(document, image);
     if (const FileResult saved = image.SavePng(args[1]); !saved)
         return Fail(saved.error);

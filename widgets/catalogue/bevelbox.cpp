@@ -2,8 +2,10 @@
 
 #include "widgets/core/hmidraw.h"
 
-void DrawBevelBox(CHmiDC& dc, const HmiRect& r, const BevelColors& colors, std::int32_t w)
+void DrawBevelBox(CHmiDC& dc, const HmiRect& rect, const BevelColors& colors, std::int32_t shadowWidth)
 {
+    const HmiRect r = rect.ForDrawing();
+    const std::int32_t w = HmiDrawingCoordinate(shadowWidth);
     HmiDrawRect(&dc, r.left - 1, r.top - 1, r.right + 2, r.bottom + 2, colors.edge, colors.back);
     const HmiPoint left[] = {{r.left, r.top}, {r.left + w, r.top + w}, {r.left + w, r.bottom - w}, {r.left, r.bottom}};
     const HmiPoint top[] = {{r.left, r.top}, {r.left + w, r.top + w}, {r.right - w, r.top + w}, {r.right, r.top}};

@@ -24,7 +24,7 @@ void DrawLabel(CHmiDC& dc, std::string_view text, const HmiRect& rect, std::uint
 
 void DrawCheckboxPicture(CHmiDC& dc, const HmiRect& rect, std::string_view caption)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     const std::int32_t top = r.top + (r.Height() - kBoxSize) / 2;
     HmiDrawRect(&dc, r.left, top, r.left + kBoxSize, top + kBoxSize, kBorder, kWhite);
     DrawLabel(dc, caption, {r.left + kBoxSize + 4, r.top, r.right, r.bottom}, HMI_DT_LEFT);
@@ -32,7 +32,7 @@ void DrawCheckboxPicture(CHmiDC& dc, const HmiRect& rect, std::string_view capti
 
 void DrawComboPicture(CHmiDC& dc, const HmiRect& rect, std::string_view firstItem)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     const std::int32_t button = std::min(r.Height(), r.Width());
     HmiDrawRect(&dc, r.left, r.top, r.right, r.bottom, kBorder, kWhite);
     HmiDrawRect(&dc, r.right - button, r.top, r.right, r.bottom, kBorder, kFace);
@@ -45,22 +45,30 @@ void DrawComboPicture(CHmiDC& dc, const HmiRect& rect, std::string_view firstIte
 
 void DrawEditPicture(CHmiDC& dc, const HmiRect& rect)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     HmiDrawRect(&dc, r.left, r.top, r.right, r.bottom, kBorder, kWhite);
 }
 
 void DrawListPicture(CHmiDC& dc, const HmiRect& rect, const std::vector<ListColumn>& columns)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     HmiDrawRect(&dc, r.left, r.top, r.right, r.bottom, kBorder, kWhite);
     const std::int32_t headerBottom = std::min(r.bottom, r.top + kHeaderHeight);
+    // The headings end at the list's right edge, or earlier where the target shows no more.
+    const HmiRect box = dc.GetClipBox();
+    const std::int32_t end = std::min(r.right, box.right);
     std::int32_t x = r.left;
     for (const ListColumn& column : columns) {
-        if (x >= r.right)
+        if (x >= end)
             break;
-        const std::int32_t right = std::min(r.right, x + std::max(column.width, 0));
-        HmiDrawRect(&dc, x, r.top, right, headerBottom, kBorder, kFace);
-        DrawLabel(dc, column.field, {x + 2, r.top, right - 2, headerBottom}, HMI_DT_CENTER);
+        const auto right = std::int32_t(std::min<std::int64_t>(r.right, std::int64_t(x) + column.width));
+        // A column without width shows nothing, as in the list itself.
+        if (right <= x)
+            continue;
+        if (right > box.left) {
+            HmiDrawRect(&dc, x, r.top, right, headerBottom, kBorder, kFace);
+            DrawLabel(dc, column.field, {x + 2, r.top, right - 2, headerBottom}, HMI_DT_CENTER);
+        }
         x = right;
     }
 }

@@ -34,7 +34,8 @@ struct CurveSettings {
 
     // The preview: background, value labels, plot area, grid, random curves and time labels
     // under the first curve. Divisions that the settings would make by zero leave out what
-    // they would place, and at most 16 curves are drawn.
+    // they would place, at most 16 curves of at most 65535 points are drawn, and the work
+    // follows what the target can show, however large the counts.
     void DrawPreview(CHmiDC& dc, const HmiRect& rect) const;
 
     // Where the preview's samples come from: numbers from 0 to 32767. Tests replace it.

@@ -5,7 +5,9 @@
 #include <cstdint>
 
 // Gradients painted the way the panel paints them: line by line (or, for one ellipse mode,
-// ring by ring), each in its own solid colour, never with the platform's gradient fill.
+// ring by ring), each in its own solid colour, never with the platform's gradient fill. Only
+// the lines and rings that can reach the target's visible area are painted, so that the work
+// follows what can be seen, however large the rectangle; it is held to the drawing range.
 
 // The colour of each of N + 1 steps from a start to an end colour. Per channel the step is
 // (end - start) / N, divided in double precision and kept in single precision; the colour of

@@ -5,6 +5,7 @@
 #include "widgets/core/numberparsers.h"
 #include "widgets/core/optiontree.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <iterator>
 
@@ -17,6 +18,9 @@ constexpr const char* kAlignChoices[] = {"Left", "Right", "Center"};
 constexpr HmiColor kBackground = 0x00FFFFFF;
 // Marks a point that carries its own colour; coordinates must stay below it.
 constexpr int kColouredPoint = 0x800;
+// A point's coordinates are written in three hexadecimal digits: the rendering stops where
+// they would run over, so that a huge widget renders no more than this.
+constexpr std::int32_t kMaxBitmapExtent = 0x1000;
 
 // The font as the property list shows it: face, height and weight.
 std::string DescribeFont(const HmiFont& font)
@@ -137,7 +141,7 @@ void CHmiWidgetBmpText::UpdateWidgetPropByTree(COptionTreeItem* item)
 std::string CHmiWidgetBmpText::RenderBitmap() const
 {
     const HmiRect r = m_rect.Normalized();
-    CHmiImageDC image(r.Width(), r.Height());
+    CHmiImageDC image(std::min(r.Width(), kMaxBitmapExtent), std::min(r.Height(), kMaxBitmapExtent));
     DrawAt(image, {0, 0, r.Width(), r.Height()});
     return EncodeBitmapPoints(image);
 }

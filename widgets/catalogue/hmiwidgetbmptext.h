@@ -27,7 +27,8 @@ public:
 
     // The point list of the text drawn at the origin over white: column by column, each black
     // pixel as "%03X%03X" (x, y) and each other non-white one as x + 0x800, y and its colour
-    // "%06X"; white is left out.
+    // "%06X"; white is left out, and so is every pixel beyond 0xFFF in either direction, which
+    // three digits cannot hold.
     std::string RenderBitmap() const;
 
     HmiFont m_font = HmiFont::DefaultGui();

@@ -24,7 +24,7 @@ HmiWidgetPtr CHmiWidgetValve::Clone() const
 void CHmiWidgetValve::Draw(CHmiDC& dc)
 {
     constexpr HmiColor kGrey = 0x007E7E7E;
-    const auto [left, top, right, bottom] = m_rect;
+    const auto [left, top, right, bottom] = m_rect.ForDrawing();
     const std::int32_t w = right - left;
     const std::int32_t h = bottom - top;
     const std::int32_t hw = w / 2;

@@ -17,6 +17,8 @@
 //   a rectangle with r < l or b < t covers the same area as its normalised copy;
 // - a line does not paint its end point; LineTo leaves the current position at the end point;
 // - a pen of width 0 paints one pixel wide, like a pen of width 1.
+// Coordinates may be anything: a target draws with them held to the drawing range (hmitypes.h),
+// and its work stays within what can be seen, however large a shape is.
 enum class HmiPenStyle { Solid, Dash, Dot, Null };
 
 struct HmiPen {
@@ -102,4 +104,9 @@ public:
     // transparent colour is given, pixels of exactly that colour leave the target unchanged.
     // A file that is missing or cannot be decoded paints nothing. Returns whether it painted.
     virtual bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) = 0;
+
+    // The part of the target that drawing can change, in the target's coordinates: drawing
+    // outside it changes nothing. Routines that draw in many steps leave out the steps that lie
+    // wholly outside it.
+    virtual HmiRect GetClipBox() const = 0;
 };

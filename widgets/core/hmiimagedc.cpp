@@ -77,9 +77,14 @@ void CHmiImageDC::Polygon(std::span<const HmiPoint> points) { m_canvas->dc->Poly
 void CHmiImageDC::FillSolidRect(const HmiRect& rect, HmiColor color) { m_canvas->dc->FillSolidRect(rect, color); }
 void CHmiImageDC::DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format)
 {
-    m_canvas->dc->DrawText(text, rect, format);
+    if (CanDrawText())
+        m_canvas->dc->DrawText(text, rect, format);
 }
-HmiPoint CHmiImageDC::GetTextExtent(std::string_view text) { return m_canvas->dc->GetTextExtent(text); }
+HmiPoint CHmiImageDC::GetTextExtent(std::string_view text)
+{
+    return CanDrawText() ? m_canvas->dc->GetTextExtent(text) : HmiPoint{};
+}
+HmiRect CHmiImageDC::GetClipBox() const { return m_canvas->dc->GetClipBox(); }
 bool CHmiImageDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
     return m_canvas->dc->DrawPictureFile(path, rect, transparent);

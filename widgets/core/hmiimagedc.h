@@ -7,7 +7,8 @@
 
 // An off-screen drawing target: an image of a fixed size, white to begin with, that can be
 // read back pixel by pixel (the bitmap text encodes its rendering this way) or saved as PNG.
-// Drawing needs a running QGuiApplication for fonts.
+// Text needs a running QGuiApplication for fonts: without one, text is left out and measures
+// nothing, and everything else is drawn.
 class CHmiImageDC : public CHmiDC {
 public:
     CHmiImageDC(int width, int height);
@@ -37,6 +38,7 @@ public:
     void DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format) override;
     HmiPoint GetTextExtent(std::string_view text) override;
     bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
+    HmiRect GetClipBox() const override;
 
 private:
     struct Canvas;

@@ -1,5 +1,6 @@
 #include "hmipainterdc.h"
 
+#include "hmisteps.h"
 #include "project/fileio.h"
 #include "project/textcodec.h"
 
@@ -10,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <map>
 #include <utility>
@@ -24,8 +26,28 @@ QColor ToQColor(HmiColor color)
 
 QRect ToQRect(const HmiRect& rect)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     return QRect(r.left, r.top, r.Width(), r.Height());
+}
+
+std::int32_t DrawingCoordinateOf(double value)
+{
+    return std::int32_t(std::clamp<double>(value, kHmiDrawingMin, kHmiDrawingMax));
+}
+
+// What the painter can change, in its own coordinates: its device as far as its clip lets
+// through. A device's size in device pixels is at least its size in the painter's units.
+HmiRect VisibleArea(const QPainter& painter)
+{
+    bool invertible = false;
+    const QTransform toPainter = painter.combinedTransform().inverted(&invertible);
+    if (!invertible)
+        return {kHmiDrawingMin, kHmiDrawingMin, kHmiDrawingMax, kHmiDrawingMax};
+    QRectF area = toPainter.mapRect(QRectF(0, 0, painter.device()->width(), painter.device()->height()));
+    if (painter.hasClipping())
+        area &= painter.clipBoundingRect();
+    return {DrawingCoordinateOf(std::floor(area.left())), DrawingCoordinateOf(std::floor(area.top())),
+            DrawingCoordinateOf(std::ceil(area.right())), DrawingCoordinateOf(std::ceil(area.bottom()))};
 }
 
 QString ToQString(std::string_view gb2312)
@@ -68,6 +90,12 @@ Qt::PenStyle ToQtPenStyle(HmiPenStyle style)
     }
 }
 
+// A pen paints at least one pixel wide, and no wider than the drawing range.
+int PenWidth(const HmiPen& pen)
+{
+    return std::clamp(pen.width, 1, kHmiDrawingMax);
+}
+
 // Rounds a / b to the nearest integer, halves away from zero (b > 0).
 int RoundedQuotient(long long a, long long b)
 {
@@ -82,14 +110,16 @@ QFont ToQFont(const HmiFont& font)
     qfont.setItalic(font.italic != 0);
     qfont.setUnderline(font.underline != 0);
     qfont.setStrikeOut(font.strikeOut != 0);
-    if (font.height < 0) {
-        qfont.setPixelSize(-font.height); // the height of the characters themselves
-    } else if (font.height > 0) {
+    // No taller than the drawing range reaches.
+    const std::int32_t height = HmiDrawingCoordinate(font.height);
+    if (height < 0) {
+        qfont.setPixelSize(-height); // the height of the characters themselves
+    } else if (height > 0) {
         // A positive height is the whole cell, leading included: scale the characters to it.
-        qfont.setPixelSize(font.height);
+        qfont.setPixelSize(height);
         const int cell = QFontMetrics(qfont).height();
-        if (cell > font.height)
-            qfont.setPixelSize(std::max(1, font.height * font.height / cell));
+        if (cell > height)
+            qfont.setPixelSize(std::max(1, height * height / cell));
     } else {
         qfont.setPixelSize(12);
     }
@@ -148,7 +178,7 @@ PictureCache& Pictures()
 
 } // namespace
 
-CHmiPainterDC::CHmiPainterDC(QPainter& painter) : m_painter(painter)
+CHmiPainterDC::CHmiPainterDC(QPainter& painter) : m_painter(painter), m_clipBox(VisibleArea(painter))
 {
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     m_painter.setRenderHint(QPainter::TextAntialiasing, false);
@@ -194,7 +224,7 @@ HmiPoint CHmiPainterDC::MoveTo(HmiPoint point)
 
 void CHmiPainterDC::LineTo(HmiPoint point)
 {
-    DrawPenLine(m_position, point);
+    DrawPenLine(m_position.ForDrawing(), point.ForDrawing());
     m_position = point;
 }
 
@@ -206,7 +236,7 @@ void CHmiPainterDC::DrawPenLine(HmiPoint from, HmiPoint to)
         DrawThinLine(from, to);
         return;
     }
-    QPen pen(ToQColor(m_pen.color), m_pen.width, ToQtPenStyle(m_pen.style), Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(ToQColor(m_pen.color), PenWidth(m_pen), ToQtPenStyle(m_pen.style), Qt::RoundCap, Qt::RoundJoin);
     m_painter.setPen(pen);
     m_painter.drawLine(from.x, from.y, to.x, to.y);
 }
@@ -224,13 +254,20 @@ void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
         m_painter.fillRect(run, ToQColor(m_pen.color));
         return;
     }
+    const auto pixelAt = [&](std::int64_t i) {
+        return QPoint(from.x + RoundedQuotient(i * dx, steps), from.y + RoundedQuotient(i * dy, steps));
+    };
+    // Only the pixels that can be seen: along the line, x and y each move one way only.
+    const HmiSteps columns = HmiStepsWithin(0, steps, m_clipBox.left, m_clipBox.right,
+                                            [&](std::int64_t i) { return pixelAt(i).x(); });
+    const HmiSteps seen = HmiStepsWithin(columns.first, columns.end, m_clipBox.top, m_clipBox.bottom,
+                                         [&](std::int64_t i) { return pixelAt(i).y(); });
     std::vector<QPoint> on;
     std::vector<QPoint> off;
-    on.reserve(std::size_t(steps));
-    for (int i = 0; i < steps; ++i) {
-        const QPoint pixel(from.x + RoundedQuotient(1LL * i * dx, steps), from.y + RoundedQuotient(1LL * i * dy, steps));
+    on.reserve(std::size_t(seen.end - seen.first));
+    for (std::int64_t i = seen.first; i < seen.end; ++i) {
         const bool isOn = !pattern || (m_patternPhase + i) % pattern->period < pattern->on;
-        (isOn ? on : off).push_back(pixel);
+        (isOn ? on : off).push_back(pixelAt(i));
     }
     if (pattern)
         m_patternPhase = (m_patternPhase + steps) % pattern->period;
@@ -247,7 +284,7 @@ void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
 
 void CHmiPainterDC::ApplyPenAndBrush()
 {
-    QPen pen(ToQColor(m_pen.color), std::max(1, m_pen.width), ToQtPenStyle(m_pen.style));
+    QPen pen(ToQColor(m_pen.color), PenWidth(m_pen), ToQtPenStyle(m_pen.style));
     pen.setCosmetic(m_pen.width <= 1);
     m_painter.setPen(pen);
     m_painter.setBrush(m_brush.hollow ? QBrush(Qt::NoBrush) : QBrush(ToQColor(m_brush.color)));
@@ -255,7 +292,7 @@ void CHmiPainterDC::ApplyPenAndBrush()
 
 void CHmiPainterDC::Rectangle(const HmiRect& rect)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     if (r.Width() <= 0 || r.Height() <= 0)
         return;
     if (!m_brush.hollow)
@@ -282,7 +319,7 @@ void CHmiPainterDC::Rectangle(const HmiRect& rect)
 
 void CHmiPainterDC::Ellipse(const HmiRect& rect)
 {
-    const HmiRect r = rect.Normalized();
+    const HmiRect r = rect.ForDrawing().Normalized();
     if (r.Width() <= 0 || r.Height() <= 0)
         return;
     ApplyPenAndBrush();
@@ -295,8 +332,10 @@ void CHmiPainterDC::Polygon(std::span<const HmiPoint> points)
         return;
     QPolygon polygon;
     polygon.reserve(int(points.size()));
-    for (const HmiPoint& point : points)
-        polygon.append(QPoint(point.x, point.y));
+    for (const HmiPoint& point : points) {
+        const HmiPoint p = point.ForDrawing();
+        polygon.append(QPoint(p.x, p.y));
+    }
     ApplyPenAndBrush();
     m_painter.drawPolygon(polygon, Qt::OddEvenFill);
 }
@@ -327,7 +366,7 @@ void CHmiPainterDC::DrawText(std::string_view text, const HmiRect& rect, std::ui
 
     const QString string = ToQString(text);
     m_painter.save();
-    m_painter.setClipRect(box);
+    m_painter.setClipRect(box, Qt::IntersectClip);
     m_painter.setFont(ToQFont(m_font));
     if (m_bkMode == HmiBkMode::Opaque)
         m_painter.fillRect(m_painter.boundingRect(box, flags, string), ToQColor(m_bkColor));
@@ -362,4 +401,9 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
     }
     m_painter.drawImage(target, masked);
     return true;
+}
+
+HmiRect CHmiPainterDC::GetClipBox() const
+{
+    return m_clipBox;
 }

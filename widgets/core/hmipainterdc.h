@@ -7,7 +7,8 @@ class QPainter;
 // The drawing target over a QPainter, with antialiasing off and the device-context pixel
 // rules of CHmiDC: the canvas creates one on its own painter, and CHmiImageDC on an image.
 // One-pixel lines are rasterised here rather than by Qt, so that the end point is left out
-// and dotted and dashed patterns run along the line as on the panel.
+// and dotted and dashed patterns run along the line as on the panel. The visible area is the
+// painter's device, clip and transformation as they stand when the target is made.
 class CHmiPainterDC : public CHmiDC {
 public:
     explicit CHmiPainterDC(QPainter& painter);
@@ -27,6 +28,7 @@ public:
     void DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format) override;
     HmiPoint GetTextExtent(std::string_view text) override;
     bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
+    HmiRect GetClipBox() const override;
 
 private:
     // A line from one point up to, not including, the other, in the current pen.
@@ -35,6 +37,7 @@ private:
     void ApplyPenAndBrush();
 
     QPainter& m_painter;
+    HmiRect m_clipBox;
     HmiPen m_pen;
     HmiBrush m_brush;
     HmiFont m_font = HmiFont::DefaultGui();

@@ -144,8 +144,8 @@ int CHmiWidget::GetHandleCount() const
 HmiPoint CHmiWidget::GetHandle(int handle) const
 {
     const HmiRect& r = m_rect;
-    const std::int32_t xCenter = r.left + (r.right - r.left) / 2;
-    const std::int32_t yCenter = r.top + (r.bottom - r.top) / 2;
+    const auto xCenter = std::int32_t(r.left + (std::int64_t(r.right) - r.left) / 2);
+    const auto yCenter = std::int32_t(r.top + (std::int64_t(r.bottom) - r.top) / 2);
     switch (handle) {
     case 2: return {xCenter, r.top};
     case 3: return {r.right, r.top};
@@ -176,6 +176,7 @@ HmiRect CHmiWidget::GetHandleRect(int handle, const CHmiView* view) const
     HmiPoint point = GetHandle(handle);
     if (view)
         point = view->DocToClient(point);
+    point = point.ForDrawing(); // where the handle is drawn
     HmiPoint topLeft{point.x - kHandleHalfSize, point.y - kHandleHalfSize};
     HmiPoint bottomRight{point.x + kHandleHalfSize, point.y + kHandleHalfSize};
     if (view) {
@@ -263,6 +264,7 @@ void CHmiWidget::DrawTracker(CHmiDC& dc, TrackerState state) const
         HmiPoint p = GetHandle(handle);
         if (m_pView)
             p = m_pView->DocToClient(p);
+        p = p.ForDrawing();
         dc.Rectangle({p.x - kHandleHalfSize, p.y - kHandleHalfSize, p.x + kHandleHalfSize + 1,
                       p.y + kHandleHalfSize + 1});
     }

@@ -7,8 +7,12 @@
 #include "editor/propertypane/propertypaneitem.h"
 #include "editor/model/canvastools.h"
 #include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/catalogue/hmiwidgetgradrect.h"
+#include "widgets/core/hmiimagedc.h"
+#include "widgets/core/windowpainter.h"
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 
@@ -312,6 +316,53 @@ private slots:
         names.setCurrentIndex(names.findText(QStringLiteral("pump")));
         emit names.activated(names.currentIndex());
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{a});
+    }
+
+    // The canvas leaves out what lies outside the area it repaints; what it shows inside is
+    // what a rendered image of the window shows.
+    void theCanvasShowsWhatARenderedImageShows()
+    {
+        auto gradient = std::make_unique<CHmiWidgetGradRect>();
+        gradient->SetWidgetRect({-300, 40, 900, 700});
+        gradient->m_nDirection = 44;
+        document->AddWidget(HmiWidgetPtr(gradient.release()), true, false);
+        AddRect(*document, {150, -20, 2000, 130});
+        view->Selection().Deselect(document->GetWindowWidget());
+        CHmiImageDC rendered(1024, 768);
+        DrawWindow(*document, rendered);
+        for (const QRect& area : {QRect(0, 0, 1024, 768), QRect(130, 90, 210, 160)}) {
+            const QImage shot = view->grab(area).toImage();
+            for (int y = 0; y < area.height(); ++y)
+                for (int x = 0; x < area.width(); ++x) {
+                    const HmiColor pixel = rendered.GetPixel(area.x() + x, area.y() + y);
+                    const QRgb expected = qRgb(pixel & 0xFF, (pixel >> 8) & 0xFF, (pixel >> 16) & 0xFF);
+                    if (shot.pixel(x, y) != expected)
+                        QFAIL(qPrintable(QString("%1, %2 of %3, %4").arg(x).arg(y).arg(area.x()).arg(area.y())));
+                }
+        }
+    }
+
+    // Window files with huge coordinates and counts: the canvas holds to the largest window
+    // drawn whole, and draws every widget, selected with its handles, in bounded work.
+    void hostileWindowsGetABoundedCanvas_data()
+    {
+        QTest::addColumn<QString>("file");
+        const QDir corpus(QStringLiteral(KELVO_HOSTILE_WINDOWS_DIR));
+        for (const QString& name : corpus.entryList({QStringLiteral("huge-*"), QStringLiteral("reversed-*")}))
+            QTest::newRow(qPrintable(name)) << corpus.filePath(name);
+    }
+
+    void hostileWindowsGetABoundedCanvas()
+    {
+        QFETCH(QString, file);
+        CChildFrame* opened = editor->frame.OpenDocument(file);
+        QVERIFY(opened);
+        CTamloView& canvas = opened->View();
+        QVERIFY(canvas.width() <= 4096 + 8);
+        QVERIFY(canvas.height() <= 4096 + 8);
+        for (const HmiWidgetPtr& widget : canvas.Document().Widgets())
+            canvas.Selection().Select(widget.get(), true);
+        QVERIFY(!canvas.grab(QRect(0, 0, 640, 480)).isNull());
     }
 
     void newWidgetsGetUniqueNames()

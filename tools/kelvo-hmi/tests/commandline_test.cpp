@@ -9,20 +9,25 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <sys/wait.h>
 
 namespace {
 
 struct ToolRun {
-    int status = -1;
+    int status = -1; // -1 when the tool did not exit by itself
     std::string output;
+    std::string errors;
 };
 
-// Runs the tool with the arguments (already quoted for the shell), capturing stdout.
-ToolRun RunTool(const std::string& arguments)
+// Runs the tool with the arguments (already quoted for the shell), capturing stdout and
+// stderr, after the shell commands in limits (ulimit settings for the tool).
+ToolRun RunTool(const std::string& arguments, const std::string& limits = "")
 {
     ToolRun run;
-    const std::string command = std::string(KELVO_HMI_TOOL) + " " + arguments + " 2>/dev/null";
+    const TempDir dir;
+    const std::string command = limits + std::string(KELVO_HMI_TOOL) + " " + arguments + " 2>'" +
+                                dir.Path("errors") + "'";
     FILE* pipe = popen(command.c_str(), "r");
     if (!pipe)
         return run;
@@ -31,8 +36,29 @@ ToolRun RunTool(const std::string& arguments)
         run.output.append(buffer, got);
     const int status = pclose(pipe);
     run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    run.errors = dir.Read("errors");
     return run;
 }
+
+// The window files of the fuzz corpus with huge coordinates and counts.
+std::vector<std::string> HostileWindowFiles()
+{
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(KELVO_HOSTILE_WINDOWS_DIR)) {
+        const std::string name = entry.path().filename().string();
+        if (name.starts_with("huge-") || name.starts_with("reversed-"))
+            files.push_back(entry.path().string());
+    }
+    return files;
+}
+
+// Half a minute of processor time and a gigabyte of address space are far more than any of them
+// needs; address-sanitised programs reserve terabytes up front, so there only the time counts.
+#if defined(__SANITIZE_ADDRESS__)
+const char* const kRenderLimits = "ulimit -t 30; ";
+#else
+const char* const kRenderLimits = "ulimit -t 30; ulimit -v 1048576; ";
+#endif
 
 const char* kWindowFile = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
                           "<widget name=\"window\" class=\"window\"><properties>"
@@ -118,4 +144,36 @@ TEST(CommandLine, ListsTheVariablesOfTheDemoProject)
                                   "$pump1\n", "$setpoint\n", "$current_window\n"})
         EXPECT_NE(vars.output.find(reference), std::string::npos) << reference;
     EXPECT_EQ(RunTool("vars /nonexistent/project").status, 1);
+}
+
+TEST(CommandLine, RendersHostileWindowsWithinBoundedMemoryAndTime)
+{
+    const std::vector<std::string> files = HostileWindowFiles();
+    ASSERT_GE(files.size(), 8u);
+    for (const std::string& file : files) {
+        SCOPED_TRACE(file);
+        TempDir dir;
+        const ToolRun run = RunTool("render '" + file + "' '" + dir.Path("out.png") + "'", kRenderLimits);
+        EXPECT_EQ(run.status, 0) << run.errors;
+        const QImage image(QString::fromStdString(dir.Path("out.png")));
+        EXPECT_FALSE(image.isNull());
+        EXPECT_LE(image.width(), 4096);
+        EXPECT_LE(image.height(), 4096);
+    }
+}
+
+TEST(CommandLine, DrawsAHugeWindowClippedToItsTopLeftAndSaysSo)
+{
+    TempDir dir;
+    const std::string in = dir.Write("w.xml", "<hmiwidget><widget name=\"window\" class=\"window\"><properties>"
+                                              "<property name=\"right\" type=\"short\" value=\"100000\"/>"
+                                              "<property name=\"bottom\" type=\"short\" value=\"300\"/>"
+                                              "<property name=\"bkcolor\" type=\"ulong\" value=\"255\"/>"
+                                              "</properties></widget></hmiwidget>");
+    const ToolRun run = RunTool("render '" + in + "' '" + dir.Path("w.png") + "'", kRenderLimits);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors, "kelvo-hmi: the window is 100000 x 300 pixels; drawn clipped to its top-left 4096 x 300\n");
+    const QImage image(QString::fromStdString(dir.Path("w.png")));
+    EXPECT_EQ(image.size(), QSize(4096, 300));
+    EXPECT_EQ(image.pixel(4095, 150), qRgb(255, 0, 0));
 }

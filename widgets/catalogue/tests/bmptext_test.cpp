@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 TEST(BmpText, EncodesBlackPointsShortAndColouredPointsWithTheirColour)
 {
     CHmiImageDC image(2, 2);
@@ -62,4 +64,18 @@ TEST(BmpText, KeepsItsFontColourAndPointsThroughAFile)
     EXPECT_EQ(widget.m_nAlign, 3);
     const HmiWidgetPtr copy = widget.Clone();
     EXPECT_EQ(dynamic_cast<const CHmiWidgetBmpText&>(*copy).m_strBitmap, "000000");
+}
+
+TEST(BmpText, AHugeWidgetRendersOnlyWhatThePointListCanHold)
+{
+    auto rendered = [](const HmiRect& rect) {
+        CHmiWidgetBmpText widget;
+        widget.SetWidgetRect(rect);
+        widget.m_font = {"DejaVu Sans", -16, 700};
+        return widget.RenderBitmap();
+    };
+    const std::string whole = rendered({0, 0, 0x1000, 0x1000});
+    ASSERT_FALSE(whole.empty());
+    EXPECT_EQ(rendered({0, 0, INT_MAX, INT_MAX}), whole) << "the text at the top left, no more";
+    EXPECT_EQ(rendered({INT_MAX, INT_MAX, INT_MIN, INT_MIN}), whole);
 }

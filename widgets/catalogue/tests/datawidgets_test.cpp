@@ -8,6 +8,7 @@
 #include "tests/support/recordingdc.h"
 #include "tests/support/tempdir.h"
 #include "widgets/catalogue/builtinwidgets.h"
+#include "widgets/catalogue/controlpictures.h"
 #include "widgets/catalogue/hmiwidgetalarmwnd.h"
 #include "widgets/catalogue/hmiwidgetcontrols.h"
 #include "widgets/catalogue/hmiwidgetcurve.h"
@@ -16,6 +17,8 @@
 #include "widgets/core/widgetfilereader.h"
 
 #include <gtest/gtest.h>
+
+#include <climits>
 
 namespace {
 
@@ -51,15 +54,17 @@ struct ProjectTest : ::testing::Test {
     TempDir dir;
 };
 
-// A fixed sequence of samples for the curve preview.
+// A fixed sequence of samples for the curve preview, counting those taken.
 struct FixedSamples {
     explicit FixedSamples(std::vector<int> values) : saved(CurveSettings::RandomSample())
     {
-        CurveSettings::RandomSample() = [values, next = std::size_t(0)]() mutable {
-            return values[next++ % values.size()];
-        };
+        CurveSettings::RandomSample() = [this, values]() { return values[taken++ % values.size()]; };
     }
     ~FixedSamples() { CurveSettings::RandomSample() = saved; }
+    FixedSamples(const FixedSamples&) = delete;
+    FixedSamples& operator=(const FixedSamples&) = delete;
+
+    mutable std::size_t taken = 0;
 
     std::function<int()> saved;
 };
@@ -515,4 +520,74 @@ TEST_F(UnlistedNameTest, TheHistoryListFindsNoVariablesOfAKeptDatabase)
     EXPECT_EQ(list.HistoryName(), "plant2");
     EXPECT_TRUE(GetHistoryVariableNames(list.HistoryName()).empty());
     EXPECT_EQ(GetHistoryVariableNames(list.HistoryNames().NameAt(0)), std::vector<std::string>{"temperature"});
+}
+
+TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
+{
+    // A plot of 540 x 370 pixels, at (30, 15), in a view of 640 x 480.
+    CHmiWidgetCurve curve;
+    curve.SetWidgetRect({0, 0, 600, 400});
+    curve.m_nHLines = INT_MAX;
+    curve.m_nVLines = INT_MAX;
+    curve.m_nXPoints = INT_MAX;
+    curve.m_nCurveNum = 1;
+    const FixedSamples samples({0, 32767});
+    RecordingDC dc;
+    dc.clipBox = {0, 0, 640, 480};
+    curve.Draw(dc);
+
+    std::size_t gridLines = 0;
+    for (const RecordingDC::Shape& line : dc.ShapesOfKind("line"))
+        gridLines += line.pen.width == 1 ? 1 : 0;
+    EXPECT_LE(gridLines, 540u + 370u) << "one grid line per pixel column and row of the plot";
+    EXPECT_LE(dc.ShapesOfKind("text").size(), 2u * 640u) << "one label per pixel row and column";
+    EXPECT_EQ(samples.taken, 65535u) << "the panel's 16-bit count of points";
+
+    CHmiWidgetHisCurve margins;
+    margins.SetWidgetRect({INT_MIN, INT_MIN, INT_MAX, INT_MAX});
+    margins.m_nFrameHSpace = INT_MAX;
+    margins.m_nFrameVSpace = INT_MIN;
+    margins.m_nHLines = 1000000000;
+    margins.m_nVLines = -1000000000;
+    margins.m_nXPoints = INT_MAX;
+    margins.m_fMinValue = -3e38f;
+    margins.m_fMaxValue = 3e38f;
+    RecordingDC view;
+    view.clipBox = {0, 0, 640, 480};
+    margins.Draw(view);
+    EXPECT_LE(view.shapes.size(), 2u * 65535u + 2u * (640u + 480u));
+}
+
+TEST(CurvePreview, PointsPastTheViewAreNeitherSampledNorDrawn)
+{
+    CHmiWidgetCurve curve;
+    curve.SetWidgetRect({0, 0, 600, 400});
+    curve.m_nXPoints = 541; // one point per pixel column of the plot, x = 30 + p
+    curve.m_nCurveNum = 1;
+    const FixedSamples samples({16384});
+    RecordingDC dc;
+    dc.clipBox = {0, 0, 100, 100};
+    curve.Draw(dc);
+    EXPECT_EQ(samples.taken, 71u) << "the points at x 30 to 99 and the next one";
+    EXPECT_EQ(dc.ShapesOfKind("line").back().rect.right, 100);
+}
+
+TEST(ListPicture, HeadingsStopAtTheEdgeOfTheListOrOfTheView)
+{
+    RecordingDC ends;
+    ends.clipBox = {0, 0, 640, 480};
+    DrawListPicture(ends, {INT_MIN, 0, INT_MAX, INT_MAX}, {{"a", INT_MAX}, {"b", INT_MAX}, {"c", INT_MIN}, {"d", 0}});
+    const auto headings = ends.ShapesOfKind("text");
+    ASSERT_EQ(headings.size(), 1u) << "the first column spans the list";
+    EXPECT_EQ(headings[0].text, "a");
+
+    RecordingDC view;
+    view.clipBox = {0, 0, 100, 100};
+    DrawListPicture(view, {0, 0, INT_MAX, 100}, std::vector<ListColumn>(100000, {"n", 10}));
+    EXPECT_EQ(view.ShapesOfKind("text").size(), 10u) << "the headings that reach into the view";
+
+    RecordingDC hidden;
+    DrawListPicture(hidden, {0, 0, 200, 100}, {{"a", 40}, {"hidden", 0}, {"b", 40}});
+    ASSERT_EQ(hidden.ShapesOfKind("text").size(), 2u) << "a column without width shows nothing";
+    EXPECT_EQ(hidden.ShapesOfKind("rectangle")[2].rect, (HmiRect{40, 0, 80, 20}));
 }

@@ -1,10 +1,15 @@
 // Gradient colours at exact pixels of images painted by the real painter target.
 
+#include "tests/support/clippeddrawing.h"
+#include "tests/support/recordingdc.h"
 #include "widgets/catalogue/gradientpainter.h"
 #include "widgets/catalogue/hmiwidgetgradrect.h"
 #include "widgets/core/hmiimagedc.h"
 
 #include <gtest/gtest.h>
+
+#include <climits>
+#include <functional>
 
 namespace {
 
@@ -30,6 +35,27 @@ bool AllWhite(const CHmiImageDC& dc)
             if (dc.GetPixel(x, y) != kWhite)
                 return false;
     return true;
+}
+
+using GradientPainter = std::function<void(CHmiDC&, const HmiRect&, HmiColor, HmiColor, std::int32_t)>;
+
+struct GradientMode {
+    const char* painter;
+    GradientPainter paint;
+    std::int32_t code;
+};
+
+// Every direction of the three gradient widgets.
+std::vector<GradientMode> AllModes()
+{
+    std::vector<GradientMode> modes;
+    for (std::int32_t code = 32; code <= 47; ++code)
+        modes.push_back({"rectangle", PaintRectGradient, code});
+    for (std::int32_t code = 0; code <= 2; ++code)
+        modes.push_back({"ellipse", PaintEllipseGradient, code});
+    for (std::int32_t code = 1; code <= 4; ++code)
+        modes.push_back({"triangle", PaintTriangleGradient, code});
+    return modes;
 }
 
 } // namespace
@@ -204,4 +230,41 @@ TEST(GradientPixels, WidgetDrawsItsStoredDirection)
     CHmiImageDC dc(12, 6);
     widget.Draw(dc);
     EXPECT_EQ(dc.GetPixel(7, 2), HmiRgb(178, 0, 76)) << "right to left: step 3 at right - 3";
+}
+
+TEST(GradientPixels, GradientsRunningPastTheImageKeepEveryPixelInside)
+{
+    // Square, wide, flat, tall, narrow and reversed rectangles around and across the small
+    // image. No side has a negative odd sum of ends, whose half would not shift with them.
+    const HmiRect rects[] = {{-90, -70, 110, 95}, {-125, 3, 160, 26}, {-130, 12, 170, 14}, {15, -100, 31, 130},
+                             {-4, -98, 2, 127}, {60, 50, -40, -60}};
+    for (const GradientMode& mode : AllModes()) {
+        for (const HmiRect& r : rects) {
+            const std::string changed = FirstPixelChangedByClipping([&](CHmiDC& dc, HmiPoint at) {
+                mode.paint(dc, {r.left + at.x, r.top + at.y, r.right + at.x, r.bottom + at.y}, kRed, kBlue, mode.code);
+            });
+            EXPECT_EQ(changed, "") << mode.painter << " " << mode.code << " in " << r.left << "," << r.top << ","
+                                   << r.right << "," << r.bottom;
+        }
+    }
+}
+
+TEST(GradientWork, HugeGradientsDrawOnlyWhatReachesTheTarget)
+{
+    // A bound on the lines (or rings) of a 640 x 480 view: one per pixel across and down the
+    // view, for each of the two halves that some modes paint in pairs, and a few more.
+    constexpr std::size_t kBound = 2 * 2 * (640 + 480) + 64;
+    const HmiRect rects[] = {{-1000000000, -1000000000, 1000000000, 1000000000},
+                             {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
+                             {-1000000000, 100, 300, 1000000000},
+                             {INT_MAX, INT_MAX, INT_MIN, INT_MIN}};
+    for (const GradientMode& mode : AllModes()) {
+        for (const HmiRect& r : rects) {
+            RecordingDC dc;
+            dc.clipBox = {0, 0, 640, 480};
+            mode.paint(dc, r, kRed, kBlue, mode.code);
+            EXPECT_LE(dc.shapes.size(), kBound) << mode.painter << " " << mode.code << " in " << r.left << ","
+                                                << r.top << "," << r.right << "," << r.bottom;
+        }
+    }
 }

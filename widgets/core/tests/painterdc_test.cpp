@@ -1,12 +1,16 @@
 // Pixels painted by the real painter target on an image.
 
+#include "tests/support/clippeddrawing.h"
 #include "tests/support/tempdir.h"
 #include "widgets/core/hmiimagedc.h"
+#include "widgets/core/hmipainterdc.h"
 
 #include <QImage>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <filesystem>
 #include <set>
 #include <sys/stat.h>
@@ -236,4 +240,89 @@ TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
         EXPECT_FALSE(refused.DrawPictureFile(path, {0, 0, 6, 6}, nullptr)) << path;
         EXPECT_EQ(ColoursIn(refused), std::set<HmiColor>{kWhite}) << path;
     }
+}
+
+TEST(PainterDC, ShapesRunningPastTheImageKeepEveryPixelInside)
+{
+    struct Pen {
+        HmiPenStyle style;
+        std::int32_t width;
+        HmiBkMode mode;
+    };
+    for (const Pen pen : {Pen{HmiPenStyle::Solid, 1, HmiBkMode::Opaque}, Pen{HmiPenStyle::Dot, 1, HmiBkMode::Opaque},
+                          Pen{HmiPenStyle::Dash, 0, HmiBkMode::Transparent}, Pen{HmiPenStyle::Solid, 5, HmiBkMode::Opaque},
+                          Pen{HmiPenStyle::Dot, 3, HmiBkMode::Opaque}}) {
+        const std::string changed = FirstPixelChangedByClipping([&](CHmiDC& dc, HmiPoint at) {
+            const auto p = [&](std::int32_t x, std::int32_t y) { return HmiPoint{at.x + x, at.y + y}; };
+            dc.SelectPen({pen.style, pen.width, kBlack});
+            dc.SetBkMode(pen.mode);
+            dc.SetBkColor(kBlue);
+            dc.SelectBrush({true, 0});
+            for (const HmiPoint to : {p(170, 130), p(-130, 120), p(160, -100), p(37, 129), p(-129, -99)}) {
+                dc.MoveTo(p(-7, -3));
+                dc.LineTo(to);
+                dc.LineTo(p(25, 20));
+            }
+            dc.Rectangle({p(-117, -93).x, p(-117, -93).y, p(161, 111).x, p(161, 111).y});
+            dc.SelectBrush({false, kRed});
+            dc.Ellipse({p(-90, -61).x, p(-90, -61).y, p(104, 83).x, p(104, 83).y});
+            // Qt patterns a polygon's outline from where it enters the image: drawn solid.
+            dc.SelectPen({HmiPenStyle::Solid, pen.width, kBlack});
+            const HmiPoint polygon[] = {p(-120, 10), p(20, -95), p(165, 125), p(30, 12)};
+            dc.Polygon(polygon);
+        });
+        EXPECT_EQ(changed, "") << "pen style " << int(pen.style) << ", width " << pen.width;
+    }
+}
+
+TEST(PainterDC, CoordinatesAreHeldToTheDrawingRangeAndOnlyTheImageIsDrawn)
+{
+    CHmiImageDC diagonal(40, 30);
+    DrawLine(diagonal, {INT_MIN, INT_MIN}, {INT_MAX, INT_MAX});
+    std::set<std::string> expected;
+    for (int i = 0; i < 30; ++i)
+        expected.insert(std::to_string(i) + "," + std::to_string(i));
+    EXPECT_EQ(PixelsOf(diagonal, kBlack), expected) << "from corner to corner of the drawing range";
+
+    CHmiImageDC dotted(40, 30);
+    dotted.SelectPen({HmiPenStyle::Dot, 1, kBlack});
+    dotted.SetBkMode(HmiBkMode::Transparent);
+    DrawLine(dotted, {INT_MIN, 5}, {INT_MAX, 5});
+    expected.clear();
+    for (int x = 0; x < 40; ++x)
+        if ((x - kHmiDrawingMin) % 6 < 3)
+            expected.insert(std::to_string(x) + ",5");
+    EXPECT_EQ(PixelsOf(dotted, kBlack), expected) << "the pattern runs on from the range's left end";
+
+    for (const HmiRect huge : {HmiRect{INT_MIN, INT_MIN, INT_MAX, INT_MAX}, HmiRect{INT_MAX, INT_MAX, INT_MIN, INT_MIN}}) {
+        CHmiImageDC shapes(40, 30);
+        shapes.SelectPen({HmiPenStyle::Dash, INT_MAX, kBlack});
+        shapes.SelectBrush({false, kRed});
+        shapes.Rectangle(huge);
+        EXPECT_EQ(ColoursIn(shapes), std::set<HmiColor>{kRed}) << "the outline lies outside";
+        shapes.SelectBrush({false, kBlue});
+        shapes.Ellipse(huge);
+        EXPECT_EQ(ColoursIn(shapes), std::set<HmiColor>{kBlue});
+        DrawLine(shapes, {INT_MIN, 20}, {INT_MAX, 20});
+        EXPECT_EQ(ColoursIn(shapes), std::set<HmiColor>{kBlack}) << "a pen as wide as the range";
+        shapes.FillSolidRect(huge, kWhite);
+        shapes.SelectPen({});
+        const HmiPoint triangle[] = {{INT_MIN, INT_MIN}, {INT_MAX, 0}, {0, INT_MAX}};
+        shapes.Polygon(triangle);
+        EXPECT_EQ(shapes.GetPixel(39, 29), kBlue);
+        shapes.SelectFont({"DejaVu Sans", INT_MIN, 400});
+        shapes.DrawText("text", huge, HMI_DT_CENTER | HMI_DT_WORDBREAK);
+        EXPECT_FALSE(shapes.DrawPictureFile("missing.png", huge, nullptr));
+    }
+}
+
+TEST(PainterDC, TheClipBoxIsThePainterDeviceAsFarAsItsClipLetsThrough)
+{
+    QImage image(50, 40, QImage::Format_RGB32);
+    QPainter painter(&image);
+    EXPECT_EQ(CHmiPainterDC(painter).GetClipBox(), (HmiRect{0, 0, 50, 40}));
+    painter.translate(-20, 5);
+    painter.setClipRect(QRect(25, 0, 100, 10));
+    EXPECT_EQ(CHmiPainterDC(painter).GetClipBox(), (HmiRect{25, 0, 70, 10}));
+    EXPECT_EQ(CHmiImageDC(30, 20).GetClipBox(), (HmiRect{0, 0, 30, 20}));
 }
