@@ -332,7 +332,8 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path)
         QString text = QStringLiteral("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
         for (const std::string& notice : result.notices)
             text += QStringLiteral("\n\n") + QString::fromStdString(notice);
-        m_prompts.ShowInformation(this, text);
+        // Once the window is in place: at start-up the main window is not shown yet.
+        QTimer::singleShot(0, this, [this, text] { m_prompts.ShowInformation(this, text); });
     }
     return child;
 }

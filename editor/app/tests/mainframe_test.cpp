@@ -278,7 +278,7 @@ private slots:
                    "class=\"text\"/></hmiwidget>");
         file.close();
         QVERIFY(editor->frame.OpenDocument(path));
-        QCOMPARE(editor->prompts.information.size(), 1);
+        QTRY_COMPARE(editor->prompts.information.size(), 1);
         QVERIFY(editor->prompts.information.first().contains(QStringLiteral("euro.xml")));
         QVERIFY(editor->prompts.information.first().contains(QStringLiteral("character references")));
         QVERIFY(editor->prompts.errors.isEmpty());
