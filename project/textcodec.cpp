@@ -1,6 +1,7 @@
 #include "textcodec.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <iconv.h>
 
 namespace {
@@ -76,24 +77,30 @@ public:
     Converter& operator=(const Converter&) = delete;
 
     // Converts as much of the input as it can and appends it to out; in keeps what is left from
-    // the first character that does not convert on. False when the converter is unusable.
+    // the first character that does not convert on. The C library converts through a buffer of
+    // its own and finds where a conversion stopped by starting again, so it is handed the input
+    // in slices: text with many characters that stop it costs no more than text with none.
     bool ConvertPrefix(std::string_view& in, std::string& out)
     {
         if (m_cd == kInvalid)
             return false;
         iconv(m_cd, nullptr, nullptr, nullptr, nullptr);
-        // GB2312 never needs more bytes than UTF-8 for the same text; UTF-8 needs at most
-        // 3 bytes for every 2 of GB2312 and 1 for 1.
-        const std::size_t start = out.size();
-        out.resize(start + in.size() * 2 + 4);
-        char* src = const_cast<char*>(in.data());
-        std::size_t srcLeft = in.size();
-        char* dst = out.data() + start;
-        std::size_t dstLeft = out.size() - start;
-        iconv(m_cd, &src, &srcLeft, &dst, &dstLeft);
-        iconv(m_cd, nullptr, nullptr, &dst, &dstLeft);
-        out.resize(out.size() - dstLeft);
-        in.remove_prefix(in.size() - srcLeft);
+        constexpr std::size_t kSlice = 1024;
+        char buffer[4 * kSlice];
+        while (!in.empty()) {
+            char* src = const_cast<char*>(in.data());
+            const std::size_t slice = std::min(in.size(), kSlice);
+            std::size_t srcLeft = slice;
+            char* dst = buffer;
+            std::size_t dstLeft = sizeof buffer;
+            const bool stopped = iconv(m_cd, &src, &srcLeft, &dst, &dstLeft) == std::size_t(-1);
+            out.append(buffer, std::size_t(dst - buffer));
+            in.remove_prefix(slice - srcLeft);
+            // A character cut by the end of the slice is taken whole with the next one.
+            const bool cutBySlice = stopped && errno == EINVAL && in.size() > srcLeft;
+            if (stopped && !cutBySlice)
+                break;
+        }
         return true;
     }
 
