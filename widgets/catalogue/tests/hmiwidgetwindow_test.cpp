@@ -33,7 +33,6 @@ TEST(HmiWidgetWindow, PropertyListShowsAndTakesTheWindowValues)
     window.m_nSecurityMode = 2;
     MemoryOptionTree tree;
     window.CreateWidgetPropertyTree(tree);
-    EXPECT_EQ(tree.Find("Window")->info, "Window properties");
     EXPECT_EQ(tree.Find("security handle mode", "Window")->selection, 2);
 
     MemoryOptionItem* caption = tree.Find("caption", "Window");
