@@ -56,10 +56,6 @@ TEST(Shapes, PropertyRowsShowListIndexesAndEditsStoreCodes)
     width->SetEditText("4px");
     line.UpdateWidgetPropByTree(width);
     EXPECT_EQ(line.m_nLineWidth, 4);
-    MemoryOptionItem* style = lineTree.Find("style", "Line");
-    style->SetCurSel(2);
-    line.UpdateWidgetPropByTree(style);
-    EXPECT_EQ(line.m_nStyle, 3);
 }
 
 TEST(Shapes, LineIsGrabbedInABandAroundThinLinesAndAnywhereInItsBox)

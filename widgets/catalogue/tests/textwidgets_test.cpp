@@ -91,14 +91,6 @@ TEST(Text, ReadsAlignAndFontSizeBackToKnownValues)
     text.SetWidgetProperty("text", "string", "Boiler", "40");
     EXPECT_EQ(OwnPropertyLines(text), Line("color", "ulong", "0") + Line("text", "string", "Boiler", "40") +
                                           Line("align", "ulong", "3") + Line("fontsize", "ulong", "16"));
-
-    MemoryOptionTree tree;
-    text.CreateWidgetPropertyTree(tree);
-    MemoryOptionItem* align = tree.Find("align", "Text");
-    EXPECT_EQ(align->selection, 2) << "align 3 is the third entry";
-    align->SetCurSel(1);
-    text.UpdateWidgetPropByTree(align);
-    EXPECT_EQ(text.m_nAlign, 2);
 }
 
 TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
