@@ -10,7 +10,7 @@ const std::string kEuroUtf8 = "\xE2\x82\xAC"; // not in GB2312
 
 } // namespace
 
-TEST(TextCodec, ChineseTextRoundTrips)
+TEST(TextCodec, ChineseTextRoundTripsAndAsciiPassesUnchanged)
 {
     std::string gb;
     ASSERT_TRUE(Utf8ToGb2312("T=" + kTemperatureUtf8, gb));
@@ -18,6 +18,10 @@ TEST(TextCodec, ChineseTextRoundTrips)
     std::string utf8;
     ASSERT_TRUE(Gb2312ToUtf8(gb, utf8));
     EXPECT_EQ(utf8, "T=" + kTemperatureUtf8);
+
+    EXPECT_EQ(Utf8ToGb2312OrKeep(""), "");
+    EXPECT_EQ(Utf8ToGb2312OrKeep("plain <text> & 123"), "plain <text> & 123");
+    EXPECT_EQ(Gb2312ToUtf8OrKeep("plain"), "plain");
 }
 
 TEST(TextCodec, CharactersOutsideGb2312AreMarkedAndComeBackAsThemselves)
@@ -41,11 +45,4 @@ TEST(TextCodec, CharactersOutsideGb2312AreMarkedAndComeBackAsThemselves)
     const std::string truncatedGb = kTemperatureGb.substr(0, 3);
     EXPECT_FALSE(Gb2312ToUtf8(truncatedGb, out));
     EXPECT_EQ(Gb2312ToUtf8OrKeep(truncatedGb), kTemperatureUtf8.substr(0, 3) + "\xB6") << "bad bytes are kept";
-}
-
-TEST(TextCodec, AsciiAndEmptyTextPassUnchanged)
-{
-    EXPECT_EQ(Utf8ToGb2312OrKeep(""), "");
-    EXPECT_EQ(Utf8ToGb2312OrKeep("plain <text> & 123"), "plain <text> & 123");
-    EXPECT_EQ(Gb2312ToUtf8OrKeep("plain"), "plain");
 }

@@ -21,6 +21,18 @@ std::vector<std::vector<std::string>> CellsOf(const VariableNode& node)
     return cells;
 }
 
+// Groups nested this deep around the given content.
+std::string Groups(int depth, const std::string& content = {})
+{
+    std::string text;
+    for (int i = 0; i < depth; ++i)
+        text += "<datagroup name=\"g\">";
+    text += content;
+    for (int i = 0; i < depth; ++i)
+        text += "</datagroup>";
+    return text;
+}
+
 } // namespace
 
 TEST(VariableDatabase, DataRowsFollowTheTypeTable)
@@ -119,34 +131,17 @@ TEST(VariableDatabase, HostileNestingGivesADefinedResult)
 {
     TempDir dir;
     constexpr int kDepth = 100000;
-    std::string deep = "<rtdbs><rtdb name=\"d\">";
-    for (int i = 0; i < kDepth; ++i)
-        deep += "<datagroup name=\"g\">";
-    for (int i = 0; i < kDepth; ++i)
-        deep += "</datagroup>";
-    deep += "</rtdb></rtdbs>";
     CHmiVariableDatabase db;
-    db.ReadRealtimeDatabase(dir.Write("deep.xml", deep));
+    db.ReadRealtimeDatabase(dir.Write("deep.xml", "<rtdbs><rtdb name=\"d\">" + Groups(kDepth) + "</rtdb></rtdbs>"));
     // The parser refuses such depth; whatever it lets through is walked without recursion.
     EXPECT_LE(db.RealtimeRoot().children.size(), 1u);
-
-    std::string deepHmi = "<hmidb><datagroup name=\"memory\">";
-    for (int i = 0; i < kDepth; ++i)
-        deepHmi += "<datagroup name=\"g\">";
-    for (int i = 0; i < kDepth; ++i)
-        deepHmi += "</datagroup>";
-    deepHmi += "</datagroup></hmidb>";
+    const std::string deepHmi = "<hmidb><datagroup name=\"memory\">" + Groups(kDepth) + "</datagroup></hmidb>";
     db.ReadHmiDatabase(dir.Write("deephmi.xml", deepHmi));
     EXPECT_EQ(db.AllReferenceTexts().size(), 0u);
 
     // Within the parser's depth, groups nest as deep as the file has them.
-    std::string nested = "<hmidb><datagroup name=\"memory\">";
-    for (int i = 0; i < 200; ++i)
-        nested += "<datagroup name=\"g\">";
-    nested += "<data name=\"bottom\"/>";
-    for (int i = 0; i < 200; ++i)
-        nested += "</datagroup>";
-    nested += "</datagroup></hmidb>";
+    const std::string nested =
+        "<hmidb><datagroup name=\"memory\">" + Groups(200, "<data name=\"bottom\"/>") + "</datagroup></hmidb>";
     CHmiVariableDatabase walked;
     ASSERT_EQ(walked.ReadHmiDatabase(dir.Write("nested.xml", nested)), 1);
     EXPECT_EQ(walked.AllReferenceTexts(), std::vector<std::string>{"$bottom"});

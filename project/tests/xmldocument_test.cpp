@@ -103,12 +103,6 @@ TEST(XmlDocument, ChildElementsSkipTextCommentsAndBlanks)
     EXPECT_TRUE(ChildNames(doc.Root().FirstChild()).empty());
 }
 
-TEST(XmlDocument, TextIncludesCdataWithoutTheBlanksAroundIt)
-{
-    const XmlDocument doc = XmlDocument::Parse("<r>\n\t\t\t\t<![CDATA[a < b\r\nc();]]>\n\t\t\t</r>");
-    EXPECT_EQ(doc.Root().Text(), "a < b\nc();") << "the parser normalises line ends to LF";
-}
-
 TEST(XmlDocument, BrokenInputGivesAnInvalidDocumentAndWhy)
 {
     for (const char* text : {"", "not xml", "<r>", "<r></s>", "<?xml version=\"1.0\"?>"}) {

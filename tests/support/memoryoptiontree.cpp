@@ -9,16 +9,6 @@ MemoryOptionItem::MemoryOptionItem(OptionItemKind kind, MemoryOptionItem* parent
 {
 }
 
-void MemoryOptionItem::SetCurSel(int index)
-{
-    selection = index >= 0 && index < int(choices.size()) ? index : -1;
-}
-
-COptionTreeItem* MemoryOptionTree::CreateNewRootItem(const std::string& caption, const std::string& info)
-{
-    return CreateNewItem(OptionItemKind::Root, nullptr, caption, info);
-}
-
 COptionTreeItem* MemoryOptionTree::CreateNewItem(OptionItemKind kind, COptionTreeItem* parent,
                                                  const std::string& caption, const std::string& info)
 {

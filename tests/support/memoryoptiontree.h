@@ -25,7 +25,7 @@ public:
     void SetCheck(bool value) override { checked = value; }
     void AddString(const std::string& text) override { choices.push_back(text); }
     int GetCurSel() const override { return selection; }
-    void SetCurSel(int index) override;
+    void SetCurSel(int index) override { selection = index >= 0 && index < int(choices.size()) ? index : -1; }
     void SetStaticText(const std::string& text) override { staticText = text; }
 
     OptionItemKind kind;
@@ -45,7 +45,10 @@ public:
 
 class MemoryOptionTree : public COptionTree {
 public:
-    COptionTreeItem* CreateNewRootItem(const std::string& caption, const std::string& info) override;
+    COptionTreeItem* CreateNewRootItem(const std::string& caption, const std::string& info) override
+    {
+        return CreateNewItem(OptionItemKind::Root, nullptr, caption, info);
+    }
     COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
                                    const std::string& info) override;
 

@@ -3,6 +3,7 @@
 #include "widgets/core/hmidc.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 // A drawing target that records what is drawn, with the state in effect (pen, brush, font,
@@ -23,23 +24,23 @@ public:
         bool transparent = false;     // "picture": a transparent colour was given (in color)
     };
 
-    HmiPen SelectPen(const HmiPen& pen) override;
-    HmiBrush SelectBrush(const HmiBrush& brush) override;
-    HmiFont SelectFont(const HmiFont& font) override;
-    HmiColor SetTextColor(HmiColor color) override;
-    HmiColor SetBkColor(HmiColor color) override;
-    HmiBkMode SetBkMode(HmiBkMode mode) override;
-    HmiPoint MoveTo(HmiPoint point) override;
+    HmiPen SelectPen(const HmiPen& newPen) override { return std::exchange(pen, newPen); }
+    HmiBrush SelectBrush(const HmiBrush& newBrush) override { return std::exchange(brush, newBrush); }
+    HmiFont SelectFont(const HmiFont& newFont) override { return std::exchange(font, newFont); }
+    HmiColor SetTextColor(HmiColor color) override { return std::exchange(textColor, color); }
+    HmiColor SetBkColor(HmiColor color) override { return std::exchange(bkColor, color); }
+    HmiBkMode SetBkMode(HmiBkMode mode) override { return std::exchange(bkMode, mode); }
+    HmiPoint MoveTo(HmiPoint point) override { return std::exchange(position, point); }
     void LineTo(HmiPoint point) override;
-    void Rectangle(const HmiRect& rect) override;
-    void Ellipse(const HmiRect& rect) override;
+    void Rectangle(const HmiRect& rect) override { Record("rectangle", rect); }
+    void Ellipse(const HmiRect& rect) override { Record("ellipse", rect); }
     void Polygon(std::span<const HmiPoint> points) override;
-    void FillSolidRect(const HmiRect& rect, HmiColor color) override;
+    void FillSolidRect(const HmiRect& rect, HmiColor color) override { Record("fill", rect).color = color; }
     void DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format) override;
     // Every character is 8 by 16 pixels.
-    HmiPoint GetTextExtent(std::string_view text) override;
+    HmiPoint GetTextExtent(std::string_view text) override { return {std::int32_t(text.size()) * 8, 16}; }
     bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
-    HmiRect GetClipBox() const override;
+    HmiRect GetClipBox() const override { return clipBox; }
 
     // The shapes of one kind, in drawing order.
     std::vector<Shape> ShapesOfKind(const std::string& kind) const;

@@ -69,61 +69,81 @@ TEST(GradientSteps, DivideInDoubleKeepSingleAndTruncatePerChannel)
     EXPECT_EQ(GradientSteps(kBlack, kWhite, 0).At(0), kBlack) << "no steps: the start colour";
 }
 
-TEST(GradientPixels, HorizontalAndVerticalBandsStepFromTheNamedEdge)
+namespace {
+
+struct Pixel {
+    int x;
+    int y;
+    HmiColor color;
+};
+
+// Where a pixel's red channel must lie, for pixels between two steps of a gradient.
+struct Level {
+    int x;
+    int y;
+    int lowest;
+    int highest;
+};
+
+// A gradient painted into an image two pixels wider and higher than its rectangle, and pixels
+// the image must have.
+struct PixelCase {
+    const char* what;
+    GradientPainter paint;
+    std::int32_t code;
+    HmiRect rect;
+    HmiColor start;
+    HmiColor end;
+    std::vector<Pixel> pixels;
+    std::vector<Level> levels = {};
+};
+
+} // namespace
+
+TEST(GradientPixels, EachModeStepsFromItsNamedEdgeOrCentre)
 {
-    CHmiImageDC leftToRight(12, 6);
-    PaintRectGradient(leftToRight, {0, 0, 10, 4}, kRed, kBlue, 34);
-    EXPECT_EQ(leftToRight.GetPixel(0, 0), kRed);
-    EXPECT_EQ(leftToRight.GetPixel(3, 3), HmiRgb(178, 0, 76));
-    EXPECT_EQ(leftToRight.GetPixel(9, 1), HmiRgb(25, 0, 229));
-    EXPECT_EQ(leftToRight.GetPixel(3, 4), kWhite) << "a line stops short of the bottom";
-
-    CHmiImageDC topToBottom(6, 12);
-    PaintRectGradient(topToBottom, {0, 0, 4, 10}, kRed, kBlue, 38);
-    EXPECT_EQ(topToBottom.GetPixel(2, 3), HmiRgb(178, 0, 76));
-
-    CHmiImageDC bottomToTop(6, 12);
-    PaintRectGradient(bottomToTop, {0, 0, 4, 10}, kRed, kBlue, 39);
-    EXPECT_EQ(bottomToTop.GetPixel(2, 7), HmiRgb(178, 0, 76));
-}
-
-TEST(GradientPixels, Code37PaintsFromBothSideEdgesTowardsTheCentre)
-{
-    CHmiImageDC dc(12, 4);
-    PaintRectGradient(dc, {0, 0, 10, 2}, kBlack, kWhite, 37);
-    EXPECT_EQ(dc.GetPixel(0, 0), kBlack);
-    EXPECT_EQ(dc.GetPixel(1, 1), Grey(51));
-    EXPECT_EQ(dc.GetPixel(9, 1), Grey(51)) << "the right edge line of step 0 lies outside, step 1 inside";
-    EXPECT_EQ(dc.GetPixel(5, 0), kWhite);
-    EXPECT_EQ(dc.GetPixel(4, 0), Grey(204));
-    EXPECT_EQ(dc.GetPixel(6, 0), Grey(204));
-}
-
-TEST(GradientPixels, CentreToSidesPutsTheStartColourOnTheCentreLine)
-{
-    CHmiImageDC dc(12, 12);
-    PaintRectGradient(dc, {0, 0, 10, 10}, kBlack, kWhite, 33);
-    EXPECT_EQ(dc.GetPixel(4, 5), kBlack);
-    EXPECT_EQ(dc.GetPixel(4, 6), Grey(51));
-    EXPECT_EQ(dc.GetPixel(4, 4), Grey(51));
-    EXPECT_EQ(dc.GetPixel(4, 1), Grey(204));
-}
-
-TEST(GradientPixels, DiagonalRunsFromTheNamedCornerOverTheDiagonal)
-{
-    CHmiImageDC dc(10, 6);
-    PaintRectGradient(dc, {0, 0, 8, 4}, kBlack, kWhite, 40);
-    EXPECT_EQ(dc.GetPixel(4, 2), Grey(127)) << "the full diagonal is the middle step of 16";
-    EXPECT_LT(RedOf(dc.GetPixel(7, 3)), RedOf(dc.GetPixel(4, 2)));
-    EXPECT_GT(RedOf(dc.GetPixel(0, 0)), RedOf(dc.GetPixel(4, 2)));
-
-    CHmiImageDC mirrored(10, 6);
-    PaintRectGradient(mirrored, {0, 0, 8, 4}, kBlack, kWhite, 42);
-    EXPECT_LT(RedOf(mirrored.GetPixel(0, 0)), RedOf(mirrored.GetPixel(7, 3))) << "from the left top corner";
-
-    CHmiImageDC tall(6, 10);
-    PaintRectGradient(tall, {0, 0, 4, 8}, kBlack, kWhite, 40);
-    EXPECT_LT(RedOf(tall.GetPixel(3, 7)), RedOf(tall.GetPixel(0, 0)));
+    const HmiColor step3 = HmiRgb(178, 0, 76); // of 10 steps from red to blue, as GradientSteps has it
+    const PixelCase cases[] = {
+        {"left to right; a line stops short of the bottom", PaintRectGradient, 34, {0, 0, 10, 4}, kRed, kBlue,
+         {{0, 0, kRed}, {3, 3, step3}, {9, 1, HmiRgb(25, 0, 229)}, {3, 4, kWhite}}},
+        {"top to bottom", PaintRectGradient, 38, {0, 0, 4, 10}, kRed, kBlue, {{2, 3, step3}}},
+        {"bottom to top", PaintRectGradient, 39, {0, 0, 4, 10}, kRed, kBlue, {{2, 7, step3}}},
+        {"both side edges towards the centre; the right edge line of step 0 lies outside, step 1 inside",
+         PaintRectGradient, 37, {0, 0, 10, 2}, kBlack, kWhite,
+         {{0, 0, kBlack}, {1, 1, Grey(51)}, {9, 1, Grey(51)}, {5, 0, kWhite}, {4, 0, Grey(204)}, {6, 0, Grey(204)}}},
+        {"the start colour on the centre line", PaintRectGradient, 33, {0, 0, 10, 10}, kBlack, kWhite,
+         {{4, 5, kBlack}, {4, 6, Grey(51)}, {4, 4, Grey(51)}, {4, 1, Grey(204)}}},
+        {"from the right bottom corner; the full diagonal is the middle step of 16", PaintRectGradient, 40,
+         {0, 0, 8, 4}, kBlack, kWhite, {{4, 2, Grey(127)}}, {{7, 3, 0, 126}, {0, 0, 128, 255}}},
+        {"a tall rectangle from the right bottom corner", PaintRectGradient, 40, {0, 0, 4, 8}, kBlack, kWhite, {},
+         {{3, 7, 0, 126}, {0, 0, 128, 255}}},
+        {"the centre diagonal in the start colour, the corners near the end colour", PaintRectGradient, 44,
+         {0, 0, 8, 4}, kBlack, kWhite, {{4, 2, kBlack}}, {{7, 3, 151, 255}, {0, 0, 151, 255}}},
+        {"the centre diagonal in the end colour", PaintRectGradient, 45, {0, 0, 8, 4}, kBlack, kWhite,
+         {{4, 2, kWhite}}, {{7, 3, 0, 99}}},
+        {"a rectangle without width paints its one line in the start colour", PaintRectGradient, 34, {5, 0, 5, 10},
+         kRed, kBlue, {{5, 3, kRed}}},
+        {"ellipse rows: whole-number steps of 255 / 5 from the centre line, nothing outside", PaintEllipseGradient, 1,
+         {0, 0, 20, 10}, kBlack, kWhite,
+         {{10, 5, kBlack}, {10, 6, Grey(51)}, {10, 4, Grey(51)}, {10, 1, Grey(204)}, {1, 1, kWhite}}},
+        {"ellipse columns", PaintEllipseGradient, 0, {0, 0, 10, 20}, kBlack, kWhite,
+         {{5, 10, kBlack}, {6, 10, Grey(51)}, {3, 10, Grey(102)}}},
+        {"ellipse rings: the outer ring in the end colour, the centre near the start colour", PaintEllipseGradient,
+         2, {0, 0, 20, 20}, kWhite, kBlack, {{10, 0, kBlack}}, {{10, 10, 201, 255}}},
+        {"triangle: the start colour on its axis, the slanting edge near the end colour", PaintTriangleGradient, 1,
+         {0, 0, 20, 10}, kBlack, kWhite, {{10, 5, kBlack}, {10, 9, kBlack}, {1, 1, kWhite}}, {{1, 9, 201, 255}}},
+    };
+    for (const PixelCase& c : cases) {
+        SCOPED_TRACE(c.what);
+        CHmiImageDC dc(c.rect.right + 2, c.rect.bottom + 2);
+        c.paint(dc, c.rect, c.start, c.end, c.code);
+        for (const Pixel& pixel : c.pixels)
+            EXPECT_EQ(dc.GetPixel(pixel.x, pixel.y), pixel.color) << "at " << pixel.x << "," << pixel.y;
+        for (const Level& level : c.levels) {
+            const int red = RedOf(dc.GetPixel(level.x, level.y));
+            EXPECT_TRUE(red >= level.lowest && red <= level.highest) << red << " at " << level.x << "," << level.y;
+        }
+    }
 }
 
 TEST(GradientPixels, TheOtherCornersPaintMirrorImages)
@@ -148,76 +168,20 @@ TEST(GradientPixels, TheOtherCornersPaintMirrorImages)
     }
 }
 
-TEST(GradientPixels, CentreDiagonalHasTheStartColourAndTheCornersTheEnd)
-{
-    CHmiImageDC dc(10, 6);
-    PaintRectGradient(dc, {0, 0, 8, 4}, kBlack, kWhite, 44);
-    EXPECT_EQ(dc.GetPixel(4, 2), kBlack);
-    EXPECT_GT(RedOf(dc.GetPixel(7, 3)), 150);
-    EXPECT_GT(RedOf(dc.GetPixel(0, 0)), 150);
-
-    CHmiImageDC reversed(10, 6);
-    PaintRectGradient(reversed, {0, 0, 8, 4}, kBlack, kWhite, 45);
-    EXPECT_EQ(reversed.GetPixel(4, 2), kWhite);
-    EXPECT_LT(RedOf(reversed.GetPixel(7, 3)), 100);
-}
-
-TEST(GradientPixels, EllipseModes)
-{
-    CHmiImageDC scanned(22, 12);
-    PaintEllipseGradient(scanned, {0, 0, 20, 10}, kBlack, kWhite, 1);
-    EXPECT_EQ(scanned.GetPixel(10, 5), kBlack) << "the centre line in the start colour";
-    EXPECT_EQ(scanned.GetPixel(10, 6), Grey(51)) << "whole-number steps of 255 / 5";
-    EXPECT_EQ(scanned.GetPixel(10, 4), Grey(51));
-    EXPECT_EQ(scanned.GetPixel(10, 1), Grey(204));
-    EXPECT_EQ(scanned.GetPixel(1, 1), kWhite) << "outside the ellipse";
-
-    CHmiImageDC columns(12, 22);
-    PaintEllipseGradient(columns, {0, 0, 10, 20}, kBlack, kWhite, 0);
-    EXPECT_EQ(columns.GetPixel(5, 10), kBlack);
-    EXPECT_EQ(columns.GetPixel(6, 10), Grey(51));
-    EXPECT_EQ(columns.GetPixel(3, 10), Grey(102));
-
-    CHmiImageDC rings(22, 22);
-    PaintEllipseGradient(rings, {0, 0, 20, 20}, kWhite, kBlack, 2);
-    EXPECT_EQ(rings.GetPixel(10, 0), kBlack) << "the outer ring in the end colour";
-    EXPECT_GT(RedOf(rings.GetPixel(10, 10)), 200) << "the centre near the start colour";
-
-    CHmiImageDC flat(22, 4);
-    for (int code = 0; code <= 2; ++code)
-        PaintEllipseGradient(flat, {0, 0, 20, 1}, kBlack, kRed, code);
-    EXPECT_TRUE(AllWhite(flat)) << "an ellipse one pixel high paints nothing";
-}
-
-TEST(GradientPixels, TriangleHasTheStartColourOnItsAxis)
+TEST(GradientPixels, UnknownCodesFlatEllipsesAndReversedTrianglesPaintNothing)
 {
     CHmiImageDC dc(22, 12);
-    PaintTriangleGradient(dc, {0, 0, 20, 10}, kBlack, kWhite, 1);
-    EXPECT_EQ(dc.GetPixel(10, 5), kBlack);
-    EXPECT_EQ(dc.GetPixel(10, 9), kBlack);
-    EXPECT_GT(RedOf(dc.GetPixel(1, 9)), 200) << "the slanting edge near the end colour";
-    EXPECT_EQ(dc.GetPixel(1, 1), kWhite);
-
-    CHmiImageDC reversed(22, 12);
-    PaintTriangleGradient(reversed, {20, 0, 0, 10}, kBlack, kRed, 1);
-    PaintTriangleGradient(reversed, {20, 0, 0, 10}, kBlack, kRed, 2);
-    EXPECT_TRUE(AllWhite(reversed)) << "a reversed rectangle paints nothing";
-}
-
-TEST(GradientPixels, CodesOutsideTheirRangeAndEmptySides)
-{
-    CHmiImageDC dc(12, 12);
     for (int code : {0, 31, 48})
         PaintRectGradient(dc, {0, 0, 10, 10}, kBlack, kRed, code);
     for (int code : {-1, 3})
         PaintEllipseGradient(dc, {0, 0, 10, 10}, kBlack, kRed, code);
     for (int code : {0, 5})
         PaintTriangleGradient(dc, {0, 0, 10, 10}, kBlack, kRed, code);
+    for (int code = 0; code <= 2; ++code)
+        PaintEllipseGradient(dc, {0, 0, 20, 1}, kBlack, kRed, code); // one pixel high
+    for (int code = 1; code <= 2; ++code)
+        PaintTriangleGradient(dc, {20, 0, 0, 10}, kBlack, kRed, code);
     EXPECT_TRUE(AllWhite(dc));
-
-    CHmiImageDC line(12, 12);
-    PaintRectGradient(line, {5, 0, 5, 10}, kRed, kBlue, 34);
-    EXPECT_EQ(line.GetPixel(5, 3), kRed) << "a rectangle without width paints its one line in the start colour";
 }
 
 TEST(GradientPixels, WidgetDrawsItsStoredDirection)
