@@ -47,7 +47,7 @@ private slots:
     void init() { editor = std::make_unique<EditorUnderTest>(); }
     void cleanup() { editor.reset(); }
 
-    // Each action runs its command on the selection; what the commands compute is tested headless.
+    // Each action runs its command on the selection; the rows pin what each command computes.
     void formatCommandsChangeTheSelection_data()
     {
         QTest::addColumn<QString>("action");
