@@ -113,6 +113,7 @@ private slots:
         QTest::mouseMove(view, At(600, 600));
         const QLabel* position = editor->frame.findChild<QLabel*>(QStringLiteral("cursorPosition"));
         QCOMPARE(position->text(), QStringLiteral("600, 600"));
+        QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
         QTest::mouseMove(view, At(200, 160));
         QCOMPARE(view->cursor().shape(), Qt::SizeFDiagCursor);
         Drag(view, At(200, 160), At(210, 170));

@@ -173,10 +173,7 @@ private slots:
         QCOMPARE(editor->frame.Children().size(), open);
 
         // A file that cannot be read says why and leaves the recent list.
-        QFile broken(paths.first());
-        QVERIFY(broken.open(QIODevice::WriteOnly));
-        broken.write("<window");
-        broken.close();
+        QVERIFY(WriteBytes(paths.first(), "<window"));
         qDeleteAll(editor->frame.Children());
         QVERIFY(!editor->frame.OpenDocument(paths.first()));
         QCOMPARE(editor->prompts.errors.size(), 1);
@@ -186,11 +183,8 @@ private slots:
     void openingAFileTellsWhatTheReaderNoted()
     {
         const QString path = FilePath(QStringLiteral("euro.xml"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?><hmiwidget><widget name=\"price \xE2\x82\xAC\" "
-                   "class=\"text\"/></hmiwidget>");
-        file.close();
+        QVERIFY(WriteBytes(path, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+                                 "<hmiwidget><widget name=\"price \xE2\x82\xAC\" class=\"text\"/></hmiwidget>"));
         QVERIFY(editor->frame.OpenDocument(path));
         QCOMPARE(editor->prompts.information.size(), 1);
         QVERIFY(editor->prompts.information.first().contains(QStringLiteral("euro.xml")));

@@ -129,10 +129,6 @@ private slots:
         const QString copy = CopiesUnder(root).first();
         AddRect(child.Document(), {60, 60, 90, 90});
         QTRY_COMPARE(ReadBytes(copy), QByteArray::fromStdString(child.Document().Serialize()));
-        {
-            CAbandonedCopies offered(root);
-            QVERIFY2(offered.Copies().isEmpty(), "a running editor's copies are not offered");
-        }
 
         const QString path = editor.folder.filePath(QStringLiteral("saved.xml"));
         editor.prompts.saveFileName = path;
@@ -193,8 +189,6 @@ private slots:
             AddRect(child.Document(), {60, 60, 90, 90});
         }
         QCOMPARE(CopiesUnder(root), QStringList{copy});
-        CAbandonedCopies offered(root);
-        QCOMPARE(offered.Copies().size(), 1);
     }
 
     void leftWindowsWaitUntilTheUserDecides()

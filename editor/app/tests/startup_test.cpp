@@ -7,7 +7,6 @@
 #include "editor/startup/widgetlibraryloader.h"
 #include "project/projectpath.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
 #include <QProcess>

@@ -15,7 +15,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QTreeWidget>
@@ -235,9 +234,7 @@ private slots:
 
         editor->prompts.saveFileName = editor->folder.filePath(QStringLiteral("saved.xml"));
         QVERIFY(child->SaveAs());
-        QFile saved(editor->prompts.saveFileName);
-        QVERIFY(saved.open(QIODevice::ReadOnly));
-        const QByteArray bytes = saved.readAll();
+        const QByteArray bytes = ReadBytes(editor->prompts.saveFileName);
         const qsizetype widths = bytes.indexOf("name=\"fieldswidth\"", bytes.indexOf(sample.name));
         QVERIFY(widths > 0);
         QCOMPARE(bytes.mid(bytes.indexOf("value=", widths) + 6, savedWidths.size()), savedWidths);

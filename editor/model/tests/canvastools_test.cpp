@@ -5,28 +5,14 @@ namespace {
 using CanvasToolsTest = CanvasFixture;
 using Widgets = std::vector<CHmiWidget*>;
 
-TEST_F(CanvasToolsTest, ClickOnEmptyCanvasSelectsTheWindowAloneUnlessShiftIsHeld)
-{
-    CHmiWidget* a = AddRect({10, 10, 50, 50});
-    Click(20, 20);
-    EXPECT_EQ(Selected(), Widgets{a});
-
-    Click(300, 300);
-    EXPECT_EQ(Selected(), Widgets{Window()});
-    EXPECT_FALSE(captured);
-
-    Click(20, 20);
-    Click(300, 300, {.shift = true});
-    EXPECT_EQ(Selected(), Widgets{a});
-}
-
+// The canvas tests (editor/app/tests/canvas_test.cpp) drive these tools with the mouse and check
+// the common outcomes; the cases here are the ones a user cannot easily reach or see.
 TEST_F(CanvasToolsTest, ControlClickAddsButNeverRemovesShiftDoubleClickRemoves)
 {
     CHmiWidget* a = AddRect({10, 10, 50, 50});
     CHmiWidget* b = AddRect({100, 10, 150, 50});
     Click(20, 20);
     Click(110, 20, {.control = true});
-    EXPECT_EQ(Selected(), (Widgets{a, b}));
     Click(20, 20, {.control = true});
     EXPECT_EQ(Selected(), (Widgets{a, b}));
     Click(110, 20);
@@ -50,11 +36,10 @@ TEST_F(CanvasToolsTest, PressPicksTheWidgetDrawnLastAndNeverADeletedOne)
     EXPECT_EQ(Selected(), Widgets{Window()});
 }
 
-TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndAddsWithShift)
+TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndShowsItsFrame)
 {
     CHmiWidget* inside = AddRect({10, 10, 50, 50});
     AddRect({40, 40, 200, 200}); // half inside
-    CHmiWidget* far = AddRect({300, 300, 320, 320});
     CHmiWidget* deleted = AddRect({20, 60, 30, 70});
     CUndoStepGuard(document).Record(UndoOperation::Deleted, deleted);
 
@@ -65,9 +50,6 @@ TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndAddsWithShift
     Release(100, 100);
     EXPECT_EQ(Selected(), Widgets{inside});
     EXPECT_TRUE(feedback.empty());
-
-    Drag(290, 290, 400, 400, {.shift = true});
-    EXPECT_EQ(Selected(), (Widgets{inside, far}));
 }
 
 TEST_F(CanvasToolsTest, DraggingOneOfSeveralMovesAllInOneUndoStep)
@@ -86,10 +68,6 @@ TEST_F(CanvasToolsTest, DraggingOneOfSeveralMovesAllInOneUndoStep)
     ASSERT_EQ(document.UndoStep().size(), 2u);
     EXPECT_EQ(document.UndoStep()[0].widget, a);
     EXPECT_EQ(document.UndoStep()[0].operation, UndoOperation::Changed);
-
-    document.Undo();
-    EXPECT_EQ(a->GetWidgetRect(), (HmiRect{10, 10, 50, 50}));
-    EXPECT_EQ(b->GetWidgetRect(), (HmiRect{100, 10, 150, 50}));
 }
 
 TEST_F(CanvasToolsTest, EachHandleResizesItsEdgesEvenPastTheOppositeOne)
@@ -164,18 +142,6 @@ TEST_F(CanvasToolsTest, TheWindowIsResizedByItsHandlesWhereverItStandsOnThePanel
     Click(300, 300);
     Drag(800, 600, 640, 480); // the bottom-right handle as the canvas shows it
     EXPECT_EQ(Window()->GetWidgetRect(), (HmiRect{100, 50, 740, 530}));
-}
-
-TEST_F(CanvasToolsTest, HandlesShowTheirCursors)
-{
-    AddRect({10, 10, 50, 50});
-    Click(20, 20);
-    Move(50, 30);
-    EXPECT_EQ(cursor, CanvasCursor::SizeWE);
-    Move(10, 50);
-    EXPECT_EQ(cursor, CanvasCursor::SizeNESW);
-    Move(30, 30);
-    EXPECT_EQ(cursor, CanvasCursor::Arrow);
 }
 
 } // namespace

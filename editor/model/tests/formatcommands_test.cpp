@@ -92,37 +92,16 @@ TEST_F(FormatCommandsTest, ZoomByNothingStillReplacesTheUndoStep)
     EXPECT_EQ(RectOf(w[1]), (HmiRect{-1, 0, 4, 5})) << "the nudge can no longer be undone";
 }
 
-TEST_F(FormatCommandsTest, ZOrderMovesTheEarliestSelectedAndStaysAboveTheWindow)
-{
-    const auto w = SelectRects({{0, 0, 1, 1}, {0, 0, 2, 2}, {0, 0, 3, 3}});
-    const auto order = [this] {
-        std::vector<CHmiWidget*> widgets;
-        for (const HmiWidgetPtr& widget : document.Widgets())
-            widgets.push_back(widget.get());
-        return widgets;
-    };
-    MoveWidgetToTop(document, {w[0], w[2]});
-    EXPECT_EQ(order(), (std::vector<CHmiWidget*>{Window(), w[1], w[2], w[0]}));
-    MoveWidgetToBottom(document, {w[0]});
-    EXPECT_EQ(order(), (std::vector<CHmiWidget*>{Window(), w[0], w[1], w[2]}));
-    MoveWidgetToBottom(document, {w[0]});
-    MoveWidgetToTop(document, {w[2]});
-    EXPECT_EQ(order(), (std::vector<CHmiWidget*>{Window(), w[0], w[1], w[2]}));
-    EXPECT_FALSE(document.CanUndo()) << "z-order changes are not undoable";
-}
-
-TEST_F(FormatCommandsTest, ArrowKeysMoveOrResizeByOnePixel)
+// Which key moves or resizes which way is tested with the keys on the canvas (canvas_test.cpp).
+TEST_F(FormatCommandsTest, ArrowKeysMoveEverySelectedWidgetEachKeyAStepOfItsOwn)
 {
     const auto w = SelectRects({{10, 10, 20, 20}, {30, 30, 40, 40}});
     NudgeWidgets(document, w, NudgeKey::Left, false);
-    EXPECT_EQ(RectOf(w[0]), (HmiRect{9, 10, 19, 20}));
-    NudgeWidgets(document, w, NudgeKey::Down, false);
-    EXPECT_EQ(RectOf(w[1]), (HmiRect{29, 31, 39, 41}));
-    NudgeWidgets(document, w, NudgeKey::Right, true);
-    EXPECT_EQ(RectOf(w[0]), (HmiRect{9, 11, 20, 21}));
-    NudgeWidgets(document, w, NudgeKey::Up, true);
-    EXPECT_EQ(RectOf(w[0]), (HmiRect{9, 11, 20, 20}));
-    EXPECT_EQ(document.UndoStep().size(), 2u);
+    NudgeWidgets(document, w, NudgeKey::Down, true);
+    EXPECT_EQ(RectOf(w[0]), (HmiRect{9, 10, 19, 21}));
+    EXPECT_EQ(RectOf(w[1]), (HmiRect{29, 30, 39, 41}));
+    ASSERT_EQ(document.UndoStep().size(), 2u);
+    EXPECT_EQ(document.UndoStep()[0].rectBefore, (HmiRect{9, 10, 19, 20}));
     EXPECT_FALSE(NudgeWidgets(document, {}, NudgeKey::Up, false));
 }
 
