@@ -308,12 +308,7 @@ private slots:
     // "Setting Alarm Field" and "History Data Variable"
     void alarmFieldsOfferStandardFieldsBySubstring()
     {
-        const std::vector<FieldChoice> defaults = AlarmFieldChoices(
-            "Time,Event Type,Variable Name,Alarm info,Alarm value,Restore value,Limit value,Alarm group");
-        QCOMPARE(defaults.size(), std::size_t(9));
-        QVERIFY(defaults[7] == (FieldChoice{"Alarm group", true}));
-        QVERIFY2(defaults[8] == (FieldChoice{"Information", false}), "only Information is not found in the text");
-
+        // The alarm window's own fields, Information appended unchecked, are in the dialog test.
         const std::vector<FieldChoice> fromEmpty = AlarmFieldChoices("");
         QCOMPARE(fromEmpty.size(), std::size_t(8));
         QVERIFY(fromEmpty.front() == (FieldChoice{"Time", false}));
@@ -374,7 +369,9 @@ private slots:
                  "a variable whose name begins one offered before is not offered");
     }
 
-    void historyFieldDialogAddsARecordedVariable()
+    // The history list offers its fields, the recorded variables not yet shown and DateTime; a
+    // history the project does not list has no variables to offer, and its name is kept.
+    void historyFieldDialogOffersTheRecordedVariables()
     {
         CHmiWidget& records = OpenWidget("trends.xml", "records");
         records.SetWidgetProperty("dispfields", "string", "pressure", "32");
@@ -390,14 +387,9 @@ private slots:
         QVERIFY(Select(records, row));
         QCOMPARE(SavedProperty("records", "dispfields"),
                  PropertyLine("dispfields", "string", "DateTime,pressure,", 32));
-    }
 
-    void historyFieldDialogOfAnUnknownDatabaseOffersNoVariables()
-    {
-        CHmiWidget& records = OpenWidget("trends.xml", "records");
         records.SetWidgetProperty("historyname", "string", "retired_history", "32");
         records.SetWidgetProperty("dispfields", "string", "pressure", "32");
-        COptionTreeItem& row = RowOf(records, "dispfields");
         m_context.runDialog = DriveWith([](QDialog& dialog) {
             QCOMPARE(Entries(*dialog.findChild<QListWidget*>()), QStringList({"[x] pressure", "DateTime"}));
             ClickButton(dialog, "OK");
