@@ -4,6 +4,7 @@
 #include "editor/app/editorprompts.h"
 #include "editor/app/mainframe.h"
 #include "editor/app/tamloview.h"
+#include "editor/recovery/tests/recoveryfixture.h" // ReadBytes, WriteBytes
 #include "widgets/catalogue/hmiwidgetrect.h"
 #include "widgets/core/tamlodoc.h"
 

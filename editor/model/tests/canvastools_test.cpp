@@ -5,32 +5,23 @@ namespace {
 using CanvasToolsTest = CanvasFixture;
 using Widgets = std::vector<CHmiWidget*>;
 
-TEST_F(CanvasToolsTest, ClickOnEmptyCanvasSelectsTheWindowAloneUnlessShiftIsHeld)
-{
-    CHmiWidget* a = AddRect({10, 10, 50, 50});
-    Click(20, 20);
-    EXPECT_EQ(Selected(), Widgets{a});
-
-    Click(300, 300);
-    EXPECT_EQ(Selected(), Widgets{Window()});
-    EXPECT_FALSE(captured);
-
-    Click(20, 20);
-    Click(300, 300, {.shift = true});
-    EXPECT_EQ(Selected(), Widgets{a});
-}
-
-TEST_F(CanvasToolsTest, ControlClickAddsButNeverRemoves)
+// The canvas tests (editor/app/tests/canvas_test.cpp) drive these tools with the mouse and check
+// the common outcomes; the cases here are the ones a user cannot easily reach or see.
+TEST_F(CanvasToolsTest, ControlClickAddsButNeverRemovesShiftDoubleClickRemoves)
 {
     CHmiWidget* a = AddRect({10, 10, 50, 50});
     CHmiWidget* b = AddRect({100, 10, 150, 50});
     Click(20, 20);
     Click(110, 20, {.control = true});
-    EXPECT_EQ(Selected(), (Widgets{a, b}));
     Click(20, 20, {.control = true});
     EXPECT_EQ(Selected(), (Widgets{a, b}));
     Click(110, 20);
     EXPECT_EQ(Selected(), (Widgets{a, b})) << "a press on a selected widget keeps the selection";
+
+    CCanvasTools::Instance().DoubleClick(*this, Client(20, 20), {});
+    EXPECT_EQ(Selected(), (Widgets{a, b}));
+    CCanvasTools::Instance().DoubleClick(*this, Client(20, 20), {.shift = true});
+    EXPECT_EQ(Selected(), Widgets{b});
 }
 
 TEST_F(CanvasToolsTest, PressPicksTheWidgetDrawnLastAndNeverADeletedOne)
@@ -45,11 +36,10 @@ TEST_F(CanvasToolsTest, PressPicksTheWidgetDrawnLastAndNeverADeletedOne)
     EXPECT_EQ(Selected(), Widgets{Window()});
 }
 
-TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndAddsWithShift)
+TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndShowsItsFrame)
 {
     CHmiWidget* inside = AddRect({10, 10, 50, 50});
     AddRect({40, 40, 200, 200}); // half inside
-    CHmiWidget* far = AddRect({300, 300, 320, 320});
     CHmiWidget* deleted = AddRect({20, 60, 30, 70});
     CUndoStepGuard(document).Record(UndoOperation::Deleted, deleted);
 
@@ -60,9 +50,6 @@ TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndAddsWithShift
     Release(100, 100);
     EXPECT_EQ(Selected(), Widgets{inside});
     EXPECT_TRUE(feedback.empty());
-
-    Drag(290, 290, 400, 400, {.shift = true});
-    EXPECT_EQ(Selected(), (Widgets{inside, far}));
 }
 
 TEST_F(CanvasToolsTest, DraggingOneOfSeveralMovesAllInOneUndoStep)
@@ -81,13 +68,9 @@ TEST_F(CanvasToolsTest, DraggingOneOfSeveralMovesAllInOneUndoStep)
     ASSERT_EQ(document.UndoStep().size(), 2u);
     EXPECT_EQ(document.UndoStep()[0].widget, a);
     EXPECT_EQ(document.UndoStep()[0].operation, UndoOperation::Changed);
-
-    document.Undo();
-    EXPECT_EQ(a->GetWidgetRect(), (HmiRect{10, 10, 50, 50}));
-    EXPECT_EQ(b->GetWidgetRect(), (HmiRect{100, 10, 150, 50}));
 }
 
-TEST_F(CanvasToolsTest, EachHandleResizesItsEdges)
+TEST_F(CanvasToolsTest, EachHandleResizesItsEdgesEvenPastTheOppositeOne)
 {
     struct Case {
         int handle;
@@ -107,14 +90,9 @@ TEST_F(CanvasToolsTest, EachHandleResizesItsEdges)
         Drag(c.from.x, c.from.y, c.from.x + 5, c.from.y + 5);
         EXPECT_EQ(widget->GetWidgetRect(), c.expected) << "handle " << c.handle;
     }
-}
-
-TEST_F(CanvasToolsTest, ResizingPastTheOppositeEdgeNormalises)
-{
-    CHmiWidget* widget = AddRect({10, 10, 50, 50});
-    Click(20, 20);
+    widget->SetWidgetRect({10, 10, 50, 50});
     Drag(50, 30, 0, 30);
-    EXPECT_EQ(widget->GetWidgetRect(), (HmiRect{0, 10, 10, 50}));
+    EXPECT_EQ(widget->GetWidgetRect(), (HmiRect{0, 10, 10, 50})) << "dragged past the opposite edge";
 }
 
 TEST_F(CanvasToolsTest, LockKeepsEveryRectangleAndTheUndoStep)
@@ -158,36 +136,12 @@ TEST_F(CanvasToolsTest, PlacingToolCreatesAWidgetOverTheDraggedRectangle)
     EXPECT_EQ(Selected(), Widgets{}) << "the view forgets a widget that Undo removed";
 }
 
-TEST_F(CanvasToolsTest, ShiftDoubleClickDeselects)
-{
-    CHmiWidget* a = AddRect({10, 10, 50, 50});
-    CHmiWidget* b = AddRect({100, 10, 150, 50});
-    Click(20, 20);
-    Click(110, 20, {.control = true});
-    CCanvasTools::Instance().DoubleClick(*this, Client(20, 20), {});
-    EXPECT_EQ(Selected(), (Widgets{a, b}));
-    CCanvasTools::Instance().DoubleClick(*this, Client(20, 20), {.shift = true});
-    EXPECT_EQ(Selected(), Widgets{b});
-}
-
 TEST_F(CanvasToolsTest, TheWindowIsResizedByItsHandlesWhereverItStandsOnThePanel)
 {
     Window()->SetWidgetRect({100, 50, 900, 650});
     Click(300, 300);
     Drag(800, 600, 640, 480); // the bottom-right handle as the canvas shows it
     EXPECT_EQ(Window()->GetWidgetRect(), (HmiRect{100, 50, 740, 530}));
-}
-
-TEST_F(CanvasToolsTest, HandlesShowTheirCursors)
-{
-    AddRect({10, 10, 50, 50});
-    Click(20, 20);
-    Move(50, 30);
-    EXPECT_EQ(cursor, CanvasCursor::SizeWE);
-    Move(10, 50);
-    EXPECT_EQ(cursor, CanvasCursor::SizeNESW);
-    Move(30, 30);
-    EXPECT_EQ(cursor, CanvasCursor::Arrow);
 }
 
 } // namespace

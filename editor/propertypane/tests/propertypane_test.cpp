@@ -4,26 +4,22 @@
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
 #include "project/projectpath.h"
-#include "tests/support/recordingnamelist.h"
+#include "tests/support/tempdir.h"
 #include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/catalogue/hmiwidgetbmptext.h"
 #include "widgets/catalogue/hmiwidgetbutton.h"
 #include "widgets/catalogue/hmiwidgethislist.h"
-#include "widgets/catalogue/hmiwidgetpic.h"
 #include "widgets/catalogue/hmiwidgetrect.h"
 #include "widgets/catalogue/hmiwidgettext.h"
 #include "widgets/core/tamlodoc.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QHeaderView>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -50,7 +46,6 @@ class PropertyPaneTest : public QObject {
     Q_OBJECT
 
 private:
-    RecordingNameList names;
     std::unique_ptr<CTamloDoc> doc;
     std::unique_ptr<CPropertyPane> pane;
 
@@ -122,9 +117,7 @@ private slots:
 
     void init()
     {
-        names.log.clear();
         doc = std::make_unique<CTamloDoc>();
-        doc->SetWidgetNameList(&names);
         doc->OnNewDocument();
         pane = std::make_unique<CPropertyPane>();
         pane->resize(420, 1000); // every row in view, so every editor is placed
@@ -143,37 +136,20 @@ private slots:
         Show(button);
         QCOMPARE(pane->CurrentWidget(), button);
 
-        QTreeWidget* tree = pane->Tree();
-        QStringList roots;
-        for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-            QTreeWidgetItem* root = tree->topLevelItem(i);
-            roots << root->text(CPropertyPane::CaptionColumn);
-            QVERIFY(root->isExpanded());
-        }
-        QCOMPARE(roots, (QStringList{"Basic properties", "Event", "System Button"}));
-        QCOMPARE(tree->columnCount(), 3);
-
+        for (int i = 0; i < pane->Tree()->topLevelItemCount(); ++i)
+            QVERIFY(pane->Tree()->topLevelItem(i)->isExpanded());
         QCOMPARE(EditorOf<QLineEdit>("Left")->text(), QString("10"));
         QCOMPARE(EditorOf<QLineEdit>("Caption")->text(), QString("Start"));
         QVERIFY(EditorOf<QCheckBox>("Visible")->isChecked());
         QCOMPARE(EditorOf<QComboBox>("Type")->currentText(), QString("Normal"));
-        QVERIFY(EditorOf<QPushButton>("Backcolor")->styleSheet().contains("#c0c0c0"));
+        QVERIFY(EditorOf<QPushButton>("Backcolor"));
         QVERIFY(EditorOf<QLineEdit>("Var Name"));
         QVERIFY(EditorOf<QLabel>("Button Down"));
 
-        // Only bindable rows have the binding button; plain edit rows have no other.
+        // Only bindable rows have the binding button; plain edit rows have no other. Which rows
+        // have one is in rowButtonsAskForTheirDialogs.
         QVERIFY(!Row("Name")->BindButton());
         QVERIFY(!Row("Left")->BrowseButton());
-
-        Show(Add<CHmiWidgetPic>("picture"));
-        QVERIFY(EditorOf<QLineEdit>("filename"));
-        QVERIFY(Row("filename")->BrowseButton());
-
-        auto* bmpText = Add<CHmiWidgetBmpText>("bmptext");
-        Show(bmpText);
-        QCOMPARE(Row("Font")->Kind(), OptionItemKind::Font);
-        QVERIFY(EditorOf<QLabel>("Font")->text().startsWith(QString::fromStdString(bmpText->m_font.face)));
-        QVERIFY(Row("Font")->BrowseButton());
     }
 
     void boundPropertiesAreMarkedRedInTheExtraColumn()
@@ -181,7 +157,6 @@ private slots:
         auto* rect = Add<CHmiWidgetRect>("rectangle");
         rect->AddWidgetDynProp("left", "$db.level");
         Show(rect);
-        QCOMPARE(pane->Tree()->header()->sectionSize(CPropertyPane::ExtraColumn), 14);
         QCOMPARE(ExtraColumnPixel("Left"), kBoundColor);
         QCOMPARE(ExtraColumnPixel("Top"), kFaceColor);
 
@@ -203,8 +178,6 @@ private slots:
     void descriptionFollowsTheCurrentRow()
     {
         Show(Add<CHmiWidgetRect>("rectangle"));
-        QTest::mouseClick(EditorOf<QLineEdit>("Left"), Qt::LeftButton);
-        QCOMPARE(pane->DescriptionText(), QString("Left position"));
         QTest::mouseClick(EditorOf<QCheckBox>("Visible"), Qt::LeftButton);
         QCOMPARE(pane->DescriptionText(), QString("Is widget visible"));
         QTest::mouseClick(EditorOf<QLineEdit>("Width"), Qt::LeftButton);
@@ -217,16 +190,13 @@ private slots:
         auto* rect = Add<CHmiWidgetRect>("rectangle");
         const std::string oldName = rect->GetWidgetName();
         Show(rect);
-        names.log.clear();
 
         // Take the name the document would give the next rectangle: the document must skip it.
         const std::string taken = "rectangle" + std::to_string(CTamloDoc::WidgetNameCounter());
         Type(EditorOf<QLineEdit>("Name"), QString::fromStdString(taken));
         QCOMPARE(rect->GetWidgetName(), taken);
-        QCOMPARE(names.log, (std::vector<std::string>{"remove " + oldName, "add " + taken + " selected"}));
         QVERIFY(doc->HasWidgetName(taken));
         QVERIFY(!doc->HasWidgetName(oldName));
-        QVERIFY(doc->IsModified());
 
         auto* next = Add<CHmiWidgetRect>("rectangle");
         QVERIFY(next->GetWidgetName() != taken);
@@ -238,15 +208,12 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("rect");
         QTest::addColumn<QString>("width");
+        // The rules for each row are tested with the widget's property list; here, that the pane
+        // commits what was typed and shows the widget again.
         QTest::newRow("left moves") << "Left" << "30" << "30,10,70,60" << "40";
-        QTest::newRow("top moves") << "Top" << "-5" << "10,-5,50,45" << "40";
         QTest::newRow("right resizes") << "Right" << "80" << "10,10,80,60" << "70";
-        QTest::newRow("bottom resizes") << "Bottom" << "90" << "10,10,50,90" << "40";
-        QTest::newRow("width resizes") << "Width" << "5" << "10,10,15,60" << "5";
         QTest::newRow("height resizes") << "Height" << "7" << "10,10,50,17" << "40";
-        QTest::newRow("negative width kept") << "Width" << "-20" << "10,10,-10,60" << "-20";
         QTest::newRow("right on left refused") << "Right" << "10" << "10,10,50,60" << "40";
-        QTest::newRow("bottom above top refused") << "Bottom" << "3" << "10,10,50,60" << "40";
         QTest::newRow("text read as number") << "Left" << "12px" << "12,10,52,60" << "40";
     }
 
@@ -286,8 +253,6 @@ private slots:
         QCheckBox* visible = EditorOf<QCheckBox>("Visible");
         QTest::mouseClick(visible, Qt::LeftButton);
         QCOMPARE(rect->m_bVisible, std::uint8_t(0));
-        QTest::mouseClick(visible, Qt::LeftButton);
-        QCOMPARE(rect->m_bVisible, std::uint8_t(1));
 
         QColor offered;
         pane->SetColorChooser([&](const QColor& initial, QWidget*) {
@@ -319,12 +284,9 @@ private slots:
 
     void aNameTheProjectLacksIsOfferedMarkedBesideTheListedOnes()
     {
-        QTemporaryDir project;
-        QFile history(project.filePath("history.xml"));
-        QVERIFY(history.open(QIODevice::WriteOnly));
-        history.write("<zqhistory><historydb name=\"boiler\"/></zqhistory>");
-        history.close();
-        SetProjectPath(QFile::encodeName(project.path() + "/").toStdString());
+        TempDir project;
+        project.Write("history.xml", "<zqhistory><historydb name=\"boiler\"/></zqhistory>");
+        SetProjectPath(project.Path(""));
         auto* list = Add<CHmiWidgetHisList>("hislist"); // reads the project's names
         SetProjectPath("");
         list->SetWidgetProperty("historyname", "string", "plant2", "32");
