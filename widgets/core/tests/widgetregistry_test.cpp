@@ -1,3 +1,6 @@
+// The class registry and library registration; loading real libraries, and withdrawing what a
+// declining one registered, is tested in editor/startup/tests.
+
 #include "widgets/catalogue/hmiwidgetcustom.h"
 #include "widgets/core/hmictrlwidget.h"
 #include "tests/support/emptyregistry.h"
@@ -9,8 +12,6 @@ namespace {
 
 class FirstWidget : public CHmiWidget {
     HMI_DECLARE_WIDGET_CLASS(FirstWidget)
-public:
-    std::string GetWidgetClassName() const override { return "first"; }
 };
 HMI_IMPLEMENT_WIDGET_CLASS(FirstWidget, CHmiWidget)
 
@@ -27,44 +28,14 @@ using RegistryTest = EmptyRegistryTest;
 
 TEST_F(RegistryTest, UnknownKeysFallBackToTheCustomWidget)
 {
+    EXPECT_FALSE(CHmiWidget::AddWidgetRunTimeClass("", &FirstWidget::classFirstWidget));
+    EXPECT_FALSE(CHmiWidget::AddWidgetRunTimeClass("first", nullptr));
     EXPECT_EQ(CHmiWidget::GetWidgetClass(""), kCustom);
-    EXPECT_EQ(CHmiWidget::GetWidgetClass("button"), kCustom);
 
     ASSERT_TRUE(CHmiWidget::AddWidgetRunTimeClass("first", &FirstWidget::classFirstWidget));
     EXPECT_EQ(CHmiWidget::GetWidgetClass("first"), &FirstWidget::classFirstWidget);
     EXPECT_EQ(CHmiWidget::GetWidgetClass("First"), kCustom) << "keys are case-sensitive";
-    EXPECT_EQ(CHmiWidget::GetWidgetClass("firs"), kCustom);
     EXPECT_EQ(CHmiWidget::GetWidgetClass("first "), kCustom);
-}
-
-TEST_F(RegistryTest, AddingNeedsAKeyAndAClass)
-{
-    EXPECT_FALSE(CHmiWidget::AddWidgetRunTimeClass("", &FirstWidget::classFirstWidget));
-    EXPECT_FALSE(CHmiWidget::AddWidgetRunTimeClass("first", nullptr));
-    EXPECT_TRUE(CHmiWidget::WidgetClassList.empty());
-}
-
-TEST_F(RegistryTest, DuplicateKeysAreKeptAndTheFirstWins)
-{
-    CHmiWidget::AddWidgetRunTimeClass("dup", &FirstWidget::classFirstWidget);
-    CHmiWidget::AddWidgetRunTimeClass("dup", &SecondWidget::classSecondWidget);
-    EXPECT_EQ(CHmiWidget::WidgetClassList.size(), 2u);
-    EXPECT_EQ(CHmiWidget::GetWidgetClass("dup"), &FirstWidget::classFirstWidget);
-
-    CHmiWidget::RemoveAllRunTimeClass();
-    EXPECT_EQ(CHmiWidget::GetWidgetClass("dup"), kCustom);
-}
-
-TEST_F(RegistryTest, CreatingByKeyGivesAFullyDeclaredWidget)
-{
-    CHmiWidget::AddWidgetRunTimeClass("first", &FirstWidget::classFirstWidget);
-    const HmiWidgetPtr widget = CHmiWidget::GetWidgetClass("first")->CreateObject();
-    ASSERT_NE(widget, nullptr);
-    EXPECT_EQ(widget->GetWidgetClassName(), "first");
-    EXPECT_EQ(widget->GetProperties().size(), 14u);
-
-    const HmiWidgetPtr custom = CHmiWidget::GetWidgetClass("gauge")->CreateObject();
-    EXPECT_EQ(custom->GetRuntimeClass(), kCustom);
 }
 
 TEST_F(RegistryTest, LibraryRegistrationChecksItsArguments)
@@ -91,26 +62,13 @@ TEST_F(RegistryTest, LibraryRegistrationChecksItsArguments)
     EXPECT_EQ(CHmiWidget::WidgetClassList[0].m_strClassKey, "second");
 }
 
-TEST_F(RegistryTest, LaterLibrariesCannotReplaceAKey)
+TEST_F(RegistryTest, ALaterLibraryCannotReplaceAKey)
 {
     const CWidgetRunTimeClass first[] = {{"gauge", &FirstWidget::classFirstWidget}};
     const CWidgetRunTimeClass second[] = {{"gauge", &SecondWidget::classSecondWidget}};
     RegisterWidgetsLib("a", 1, first);
     RegisterWidgetsLib("b", 1, second);
     EXPECT_EQ(RegisteredWidgetLibs().size(), 2u);
+    EXPECT_EQ(CHmiWidget::WidgetClassList.size(), 2u) << "both records are kept";
     EXPECT_EQ(CHmiWidget::GetWidgetClass("gauge"), &FirstWidget::classFirstWidget);
-}
-
-TEST_F(RegistryTest, TruncatingForgetsOnlyTheLaterLibraries)
-{
-    const CWidgetRunTimeClass entries[] = {{"first", &FirstWidget::classFirstWidget}};
-    RegisterWidgetsLib("a", 1, entries);
-    RegisterWidgetsLib("b", 1, entries);
-
-    TruncateRegisteredWidgetLibs(5);
-    EXPECT_EQ(RegisteredWidgetLibs().size(), 2u) << "a count beyond the list changes nothing";
-    TruncateRegisteredWidgetLibs(1);
-    ASSERT_EQ(RegisteredWidgetLibs().size(), 1u);
-    EXPECT_EQ(RegisteredWidgetLibs()[0].m_strName, "a");
-    EXPECT_EQ(CHmiWidget::WidgetClassList.size(), 2u) << "class records are the caller's to take back";
 }
