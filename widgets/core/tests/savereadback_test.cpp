@@ -101,6 +101,20 @@ TEST_F(SaveReadBackTest, MarkupInNamesClassKeysCustomValuesAndLimits)
     EXPECT_NE(saved.find("limit_value0=\"$a&lt;&quot;x&quot;&amp;1\""), std::string::npos) << saved;
 }
 
+TEST_F(SaveReadBackTest, Gb2312TextComesBackByteForByteAndBlanksInValuesKeepTheirKind)
+{
+    const std::string widgets = "<widget name=\"" + kTemperatureGb + "\" class=\"text\"><properties>"
+                                "<property name=\"text\" type=\"string\" value=\"" + kTemperatureGb +
+                                " a&#9;b&#10;c&#13;d\"/></properties><events><event name=\"click\"><![CDATA[say(\"" +
+                                kTemperatureGb + "\");]]></event></events></widget>\n";
+    CTamloDoc doc;
+    ASSERT_TRUE(doc.Load(dir.Write("gb.xml", WindowFile(kGb2312, widgets))));
+    EXPECT_EQ(doc.Widgets()[1]->GetWidgetName(), kTemperatureGb);
+    const std::string saved = SaveAndReadBack(doc);
+    EXPECT_NE(saved.find("value=\"" + kTemperatureGb + " a&#x9;b&#xA;c&#xD;d\""), std::string::npos) << saved;
+    EXPECT_NE(saved.find("<![CDATA[say(\"" + kTemperatureGb + "\");]]>"), std::string::npos) << saved;
+}
+
 TEST_F(SaveReadBackTest, TextThatGb2312CannotHoldTravelsAsCharacterReferences)
 {
     const std::string euro = "\xE2\x82\xAC";
@@ -124,17 +138,6 @@ TEST_F(SaveReadBackTest, TextThatGb2312CannotHoldTravelsAsCharacterReferences)
         const auto& text = dynamic_cast<const CHmiWidgetText&>(*doc.Widgets()[1]);
         EXPECT_EQ(Gb2312ToUtf8OrKeep(text.m_strText), kTemperatureUtf8 + " " + euro + smile);
     }
-}
-
-TEST_F(SaveReadBackTest, BlanksInValuesKeepTheirKind)
-{
-    CTamloDoc doc;
-    ASSERT_TRUE(doc.Load(dir.Write("blanks.xml", WindowFile(kGb2312, "<widget name=\"t\" class=\"text\"><properties>"
-                                                                    "<property name=\"text\" type=\"string\" "
-                                                                    "value=\"a&#9;b&#10;c&#13;d\"/></properties>"
-                                                                    "</widget>\n"))));
-    const std::string saved = SaveAndReadBack(doc);
-    EXPECT_NE(saved.find("value=\"a&#x9;b&#xA;c&#xD;d\""), std::string::npos) << saved;
 }
 
 namespace {

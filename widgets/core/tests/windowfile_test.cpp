@@ -30,7 +30,6 @@ public:
         DeclareProperty("color", "Color", "Color", 1, "Label", PROP_COLOR);
     }
     std::string GetWidgetClassName() const override { return "label"; }
-    HmiWidgetPtr Clone() const override { return nullptr; }
     int SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,
                           std::string_view length) override
     {
