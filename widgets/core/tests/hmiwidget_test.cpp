@@ -41,7 +41,7 @@ TEST(HmiWidget, HandlesRunClockwiseFromTheTopLeftWithTruncatedCentres)
     EXPECT_EQ(MakeWidget({10, 10, 5, 5})->GetHandle(2), (HmiPoint{8, 10}));
 }
 
-TEST(HmiWidget, BodyHitTestIsHalfOpenOnTheStoredRectangle)
+TEST(HmiWidget, BodyHitTestIsHalfOpenAndTheRubberBandTakesOnlyWidgetsItContains)
 {
     const auto widget = MakeWidget({10, 10, 50, 50});
     EXPECT_EQ(widget->HitTest({10, 10}, nullptr, 0), 1);
@@ -51,6 +51,12 @@ TEST(HmiWidget, BodyHitTestIsHalfOpenOnTheStoredRectangle)
     EXPECT_FALSE(widget->Intersects(HmiPoint{9, 20}));
     EXPECT_EQ(MakeWidget({20, 10, 20, 50})->HitTest({20, 30}, nullptr, 0), 0) << "zero width";
     EXPECT_EQ(MakeWidget({50, 50, 10, 10})->HitTest({30, 30}, nullptr, 0), 0) << "an inverted one contains nothing";
+
+    EXPECT_TRUE(widget->Intersects(HmiRect{100, 100, 0, 0})) << "the band is normalised";
+    EXPECT_FALSE(widget->Intersects(HmiRect{0, 0, 30, 100})) << "half inside";
+    EXPECT_FALSE(widget->Intersects(HmiRect{10, 10, 50, 50})) << "bottom-right corner on the open edge";
+    EXPECT_TRUE(widget->Intersects(HmiRect{10, 10, 51, 51}));
+    EXPECT_TRUE(MakeWidget({50, 50, 10, 10})->Intersects(HmiRect{0, 0, 100, 100})) << "the widget is normalised too";
 }
 
 TEST(HmiWidget, SelectedHitTestFindsTheFirstHandleSquareAndIgnoresTheBody)
@@ -68,16 +74,6 @@ TEST(HmiWidget, SelectedHitTestFindsTheFirstHandleSquareAndIgnoresTheBody)
     EXPECT_EQ(widget->HitTest({30, 30}, nullptr, 1), 0);
     EXPECT_EQ(widget->HitTest({50, 30}, nullptr, 1), 4);
     EXPECT_EQ(MakeWidget({10, 10, 12, 12})->HitTest({11, 11}, nullptr, 1), 1) << "overlapping: the lowest wins";
-}
-
-TEST(HmiWidget, RubberBandSelectsOnlyWidgetsItContains)
-{
-    const auto widget = MakeWidget({10, 10, 50, 50});
-    EXPECT_TRUE(widget->Intersects(HmiRect{100, 100, 0, 0})) << "the band is normalised";
-    EXPECT_FALSE(widget->Intersects(HmiRect{0, 0, 30, 100})) << "half inside";
-    EXPECT_FALSE(widget->Intersects(HmiRect{10, 10, 50, 50})) << "bottom-right corner on the open edge";
-    EXPECT_TRUE(widget->Intersects(HmiRect{10, 10, 51, 51}));
-    EXPECT_TRUE(MakeWidget({50, 50, 10, 10})->Intersects(HmiRect{0, 0, 100, 100})) << "the widget is normalised too";
 }
 
 TEST(HmiWidget, MoveToRepaintsOldAndNewAreasAndMarksTheDocument)

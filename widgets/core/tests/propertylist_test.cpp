@@ -1,4 +1,9 @@
+// The property list a widget builds in an option tree, and the rules of its edits. The rows'
+// editors, the binding marks and committing an edit are tested through the real pane in
+// editor/propertypane/tests.
+
 #include "tests/support/memoryoptiontree.h"
+#include "tests/support/recordingnamelist.h"
 #include "widgets/core/hmiwidget.h"
 #include "widgets/core/tamlodoc.h"
 
@@ -11,7 +16,6 @@ class GaugeWidget : public CHmiWidget {
 public:
     GaugeWidget()
     {
-        DeclareProperty("needle", "Needle", "Needle colour", 1, "Gauge", PROP_COLOR);
         DeclareProperty("scale", "Scale", "Scale kind", 0, "Gauge", PROP_COMBO).SetComboList(kScales, 2);
         DeclareProperty("empty", "Empty", "A list without entries", 0, "Gauge", PROP_COMBO);
         DeclareProperty("odd", "Odd", "An item type nobody builds", 0, "Gauge", PropItemType(42));
@@ -26,9 +30,7 @@ public:
     {
         if (CHmiWidget::GetWidgetPropValue(prop, text))
             return 1;
-        if (prop.m_strName == "needle")
-            text = std::to_string(0x00FF8000);
-        else if (prop.m_strName == "scale" || prop.m_strName == "empty")
+        if (prop.m_strName == "scale" || prop.m_strName == "empty")
             text = std::to_string(scale);
         else if (prop.m_strName == "face")
             text = "Serif, 16";
@@ -44,6 +46,7 @@ public:
 struct PropertyListTest : ::testing::Test {
     void SetUp() override
     {
+        doc.SetWidgetNameList(&names);
         widget.m_pDocument = &doc;
         widget.SetWidgetName("gauge1");
         widget.SetWidgetRect({10, 10, 50, 60});
@@ -58,6 +61,7 @@ struct PropertyListTest : ::testing::Test {
         widget.UpdateWidgetPropByTree(item);
     }
 
+    RecordingNameList names;
     CTamloDoc doc;
     GaugeWidget widget;
     MemoryOptionTree tree;
@@ -65,43 +69,62 @@ struct PropertyListTest : ::testing::Test {
 
 } // namespace
 
-// Editing geometry, renaming and refreshing bindings are driven through the real pane in
-// editor/propertypane/tests; these are the rows themselves and the edits the pane does not reach.
-
 TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
 {
-    widget.AddWidgetDynProp("left", "$db.x");
     widget.CreateWidgetPropertyTree(tree);
-
     const auto basicRows = tree.ChildrenOf(tree.Find("Basic properties"));
     ASSERT_EQ(basicRows.size(), 14u);
     EXPECT_EQ(basicRows[0]->editText, "gauge1");
     EXPECT_EQ(basicRows[5]->editText, "40") << "width";
     EXPECT_EQ(basicRows[6]->editText, "50") << "height";
-    EXPECT_EQ(basicRows[7]->kind, OptionItemKind::CheckBox);
-    EXPECT_TRUE(basicRows[7]->checked) << "visible";
-    // A bound row is red; unbound rows show the face colour; bindable rows get a button.
-    EXPECT_EQ(basicRows[1]->extraColumnColor, kHmiColorBound);
-    EXPECT_EQ(basicRows[2]->extraColumnColor, kHmiColor3DFace);
-    EXPECT_TRUE(basicRows[1]->bindable);
-    EXPECT_FALSE(basicRows[0]->bindable);
 
     const auto gaugeRows = tree.ChildrenOf(tree.Find("Gauge"));
-    ASSERT_EQ(gaugeRows.size(), 4u) << "an unknown item type builds no row";
-    EXPECT_EQ(gaugeRows[0]->color, 0x00FF8000u);
-    EXPECT_EQ(gaugeRows[1]->choices, (std::vector<std::string>{"Linear", "Logarithmic"}));
-    EXPECT_EQ(gaugeRows[1]->selection, 1);
-    EXPECT_EQ(gaugeRows[2]->selection, -1) << "an empty list selects nothing";
-    EXPECT_EQ(gaugeRows[3]->kind, OptionItemKind::Font);
-    EXPECT_EQ(gaugeRows[3]->staticText, "Serif, 16") << "a font row shows its text read-only";
+    ASSERT_EQ(gaugeRows.size(), 3u) << "an unknown item type builds no row";
+    EXPECT_EQ(gaugeRows[0]->choices, (std::vector<std::string>{"Linear", "Logarithmic"}));
+    EXPECT_EQ(gaugeRows[0]->selection, 1);
+    EXPECT_EQ(gaugeRows[1]->selection, -1) << "an empty list selects nothing";
+    EXPECT_EQ(gaugeRows[2]->kind, OptionItemKind::Font);
+    EXPECT_EQ(gaugeRows[2]->staticText, "Serif, 16") << "a font row shows its text read-only";
     EXPECT_EQ(tree.ChildrenOf(tree.Find("Event")).size(), 2u) << "the events are created for the list";
+
+    MemoryOptionTree outOfRange;
+    widget.scale = 5;
+    widget.CreateWidgetPropertyTree(outOfRange);
+    EXPECT_EQ(outOfRange.Find("Scale")->selection, -1) << "a selection outside the list shows none";
 }
 
-TEST_F(PropertyListTest, ComboSelectionOutsideTheListShowsNone)
+TEST_F(PropertyListTest, GeometryEditsMoveOrResizeAndRefusedOnesAreShownUndone)
 {
-    widget.scale = 5;
+    const struct {
+        const char* caption;
+        const char* typed;
+        HmiRect rect;
+    } edits[] = {
+        {"Left", "30", {30, 10, 70, 60}}, // left and top move the widget and keep its size
+        {"Top", "-5", {10, -5, 50, 45}},
+        {"Right", "10", {10, 10, 50, 60}}, // right and bottom must stay beyond the opposite edge
+        {"Bottom", "5", {10, 10, 50, 60}},
+        {"Right", "11", {10, 10, 11, 60}},
+        {"Width", "-20", {10, 10, -10, 60}}, // width and height are taken as typed
+        {"Height", "5", {10, 10, 50, 15}},
+    };
     widget.CreateWidgetPropertyTree(tree);
-    EXPECT_EQ(tree.Find("Scale")->selection, -1);
+    for (const auto& edit : edits) {
+        SCOPED_TRACE(std::string(edit.caption) + " " + edit.typed);
+        widget.SetWidgetRect({10, 10, 50, 60});
+        Edit(edit.caption, edit.typed);
+        EXPECT_EQ(widget.GetWidgetRect(), edit.rect);
+        EXPECT_EQ(tree.Find("Right")->editText, std::to_string(edit.rect.right)) << "every row shows the widget again";
+        EXPECT_EQ(tree.Find("Bottom")->editText, std::to_string(edit.rect.bottom));
+    }
+}
+
+TEST_F(PropertyListTest, RenamingUpdatesTheWidgetNameList)
+{
+    widget.CreateWidgetPropertyTree(tree);
+    Edit("Name", "needle");
+    EXPECT_EQ(widget.GetWidgetName(), "needle");
+    EXPECT_EQ(names.log, (std::vector<std::string>{"remove gauge1", "add needle selected"}));
 }
 
 TEST_F(PropertyListTest, FlagsAndNumbersHaveNoByteTruncation)

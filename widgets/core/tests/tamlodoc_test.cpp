@@ -68,13 +68,11 @@ TEST_F(TamloDocTest, NewWidgetsAreNamedFromTheSharedCounterSkippingTakenNames)
     CTamloDoc::WidgetNameCounter() = 3;
     doc.AddWidget(MakeGauge(), true, false);
     other.AddWidget(MakeGauge(), true, false);
-    doc.AddWidget(MakeGauge("gauge6"), true, false);
+    doc.AddWidget(MakeGauge("gauge5"), true, false);
     doc.AddWidget(MakeGauge(), true, false);
-    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"gauge3", "gauge6", "gauge5"}));
+    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"gauge3", "gauge5", "gauge6"})) << "gauge5 is taken";
     EXPECT_EQ(NamesOf(other), (std::vector<std::string>{"gauge4"})) << "the counter is shared by all documents";
-    doc.AddWidget(MakeGauge(), true, false);
-    EXPECT_EQ(NamesOf(doc).back(), "gauge7") << "a name taken by hand is skipped";
-    EXPECT_EQ(CTamloDoc::WidgetNameCounter(), 8);
+    EXPECT_EQ(CTamloDoc::WidgetNameCounter(), 7);
 }
 
 TEST_F(TamloDocTest, AddingAtTheHeadOrTailAndRemoving)
