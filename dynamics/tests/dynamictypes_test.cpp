@@ -45,9 +45,40 @@ TEST(DynamicTypes, FactoryMakesExactlyTheSixAndClonesAreIndependent)
     EXPECT_EQ(script.ComposeExpression(), "") << "a script binding composes nothing";
 }
 
-TEST(DynamicTypes, ColorAnalogUsesAtMost32LevelsAndNoneForANegativeCount)
+TEST(DynamicTypes, ColorDigitReadsHexOrDecimalAndNeedsAllThree)
 {
+    CHmiDynColorDigit digit;
+    EXPECT_FALSE(ReadFrom(digit, "<type_params expression=\"x\" opencolor=\"0xff\"/>"));
+    EXPECT_EQ(digit.openColor, 0u);
+    EXPECT_EQ(digit.expression, "");
+
+    ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp;&amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
+    EXPECT_EQ(digit.expression, "a && b");
+    EXPECT_EQ(digit.openColor, 12u) << "decimal, stopping at the first letter";
+    EXPECT_EQ(digit.closeColor, 0xab0u) << "hexadecimal from the start, stopping at the x";
+}
+
+TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
+{
+    std::string xml = "<type_params expression=\"v\" count=\"40\" defaultcolor=\"7\" limit_value1=\"2\" color1=\"\"";
+    for (int i = 2; i < 40; ++i)
+        xml += " limit_value" + std::to_string(i) + "=\"L" + std::to_string(i) + "\" color" + std::to_string(i) + "=\"9\"";
     CHmiDynColorAnalog analog;
+    analog.limits[1] = "kept";
+    ASSERT_TRUE(ReadFrom(analog, xml + "/>"));
+    EXPECT_EQ(analog.count, 32);
+    EXPECT_EQ(analog.defaultColor, 7u);
+    EXPECT_EQ(analog.limits[1], "kept");
+    EXPECT_EQ(analog.limits[31], "L31");
+    EXPECT_EQ(analog.colors[31], 9u);
+
+    EXPECT_FALSE(ReadFrom(analog, "<type_params expression=\"w\" count=\"2\"/>"));
+    EXPECT_EQ(analog.expression, "v");
+    ASSERT_TRUE(ReadFrom(analog, "<type_params expression=\"v\" count=\"-5\" defaultcolor=\"7\"/>"));
+    EXPECT_EQ(analog.count, 0);
+
+    // Composed and written, the count is held the same way.
+    analog = {};
     analog.expression = "E";
     analog.count = 1;
     analog.defaultColor = 0xff;
@@ -66,39 +97,6 @@ TEST(DynamicTypes, ColorAnalogUsesAtMost32LevelsAndNoneForANegativeCount)
         analog.WriteInnerElement(written);
         EXPECT_EQ(written, "\t\t\t\t<type_params expression=\"E\" count=\"0\" defaultcolor=\"0xff\"  />\r\n") << count;
     }
-}
-
-TEST(DynamicTypes, ColorDigitReadsHexOrDecimalAndNeedsAllThree)
-{
-    CHmiDynColorDigit digit;
-    EXPECT_FALSE(ReadFrom(digit, "<type_params expression=\"x\" opencolor=\"0xff\"/>"));
-    EXPECT_EQ(digit.openColor, 0u);
-    EXPECT_EQ(digit.expression, "");
-
-    ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp;&amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
-    EXPECT_EQ(digit.expression, "a && b");
-    EXPECT_EQ(digit.openColor, 12u) << "decimal, stopping at the first letter";
-    EXPECT_EQ(digit.closeColor, 0xab0u) << "hexadecimal from the start, stopping at the x";
-}
-
-TEST(DynamicTypes, ColorAnalogReadsAtMost32LevelsAndOnlyCompletePairs)
-{
-    std::string xml = "<type_params expression=\"v\" count=\"40\" defaultcolor=\"7\" limit_value1=\"2\" color1=\"\"";
-    for (int i = 2; i < 40; ++i)
-        xml += " limit_value" + std::to_string(i) + "=\"L" + std::to_string(i) + "\" color" + std::to_string(i) + "=\"9\"";
-    CHmiDynColorAnalog analog;
-    analog.limits[1] = "kept";
-    ASSERT_TRUE(ReadFrom(analog, xml + "/>"));
-    EXPECT_EQ(analog.count, 32);
-    EXPECT_EQ(analog.defaultColor, 7u);
-    EXPECT_EQ(analog.limits[1], "kept");
-    EXPECT_EQ(analog.limits[31], "L31");
-    EXPECT_EQ(analog.colors[31], 9u);
-
-    EXPECT_FALSE(ReadFrom(analog, "<type_params expression=\"w\" count=\"2\"/>"));
-    EXPECT_EQ(analog.expression, "v");
-    ASSERT_TRUE(ReadFrom(analog, "<type_params expression=\"v\" count=\"-5\" defaultcolor=\"7\"/>"));
-    EXPECT_EQ(analog.count, 0);
 }
 
 TEST(DynamicTypes, TextWidthsAreDecimalAndEachTypeTakesOnlyItsOwnElement)

@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
+// Leading blanks, a sign, and stopping at the first letter or at an "0x" are also pinned down
+// by the widget's file reader in hmiwidget_test.cpp.
 TEST(NumberParsers, DecimalConversionStopsAtFirstUnfitCharacter)
 {
-    EXPECT_EQ(HmiDecimalToLong("  42abc"), 42);
-    EXPECT_EQ(HmiDecimalToLong("-17"), -17);
     EXPECT_EQ(HmiDecimalToLong("+8"), 8);
-    EXPECT_EQ(HmiDecimalToLong("0x00FF00"), 0);
     EXPECT_EQ(HmiDecimalToLong("16777215"), 0x00FFFFFF);
     EXPECT_EQ(HmiDecimalToLong(""), 0);
-    EXPECT_EQ(HmiDecimalToLong("abc"), 0);
     EXPECT_EQ(HmiDecimalToLong("-"), 0);
 }
 
