@@ -28,7 +28,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <deque>
 #include <functional>
 #include <memory>
 
@@ -80,20 +79,6 @@ void ChooseType(QDialog& dialog, const char* typeName)
     box->setCurrentIndex(box->findText(typeName));
 }
 
-// The text between `<tag>` and `</tag>` of the named widget's element in a window file. How each
-// kind of binding is written is pinned by the window file tests; the tests here compare saved
-// text where what the user typed has to be escaped or its line ends kept.
-std::string SectionOf(const std::string& file, const std::string& widgetName, const std::string& tag)
-{
-    const std::size_t widget = file.find("\t<widget name=\"" + widgetName + "\"");
-    const std::string open = "\t\t<" + tag + ">\r\n";
-    const std::size_t start = file.find(open, widget);
-    const std::size_t end = file.find("\t\t</" + tag + ">\r\n", start);
-    if (widget == std::string::npos || start == std::string::npos || end == std::string::npos)
-        return "(no " + tag + " section)";
-    return file.substr(start + open.size(), end - start - open.size());
-}
-
 } // namespace
 
 class DynamicDialogsTest : public QObject {
@@ -120,32 +105,34 @@ private:
         return *row;
     }
 
-    std::string SavedFile()
+    // Saves the document and returns the text between `<tag>` and `</tag>` of the widget's element.
+    // How each kind of binding is written is pinned by the window file tests; the tests here
+    // compare saved text for what the dialogs composed and where line ends have to be kept.
+    std::string SavedSection(const CHmiWidget& widget, const std::string& tag)
     {
-        const std::string path = m_folder.Path("window.xml");
-        if (!m_document->Save(path))
+        if (!m_document->Save(m_folder.Path("window.xml")))
             return "(not saved)";
-        return m_folder.Read("window.xml");
+        const std::string file = m_folder.Read("window.xml");
+        const std::string open = "\t\t<" + tag + ">\r\n";
+        const std::size_t start = file.find(open, file.find("\t<widget name=\"" + widget.GetWidgetName() + "\""));
+        const std::size_t end = file.find("\t\t</" + tag + ">\r\n", start);
+        if (start == std::string::npos || end == std::string::npos)
+            return "(no " + tag + " section)";
+        return file.substr(start + open.size(), end - start - open.size());
     }
 
     DynamicDialogServices Services()
     {
-        DynamicDialogServices services;
-        services.pickVariable = [this](QWidget*) { return m_variable; };
-        services.chooseColor = [this](const QColor&, QWidget*) {
-            if (m_colorChoices.empty())
-                return QColor();
-            const QColor color = m_colorChoices.front();
-            m_colorChoices.pop_front();
-            return color;
-        };
-        return services;
+        return {[this](QWidget*) { return m_variable; },
+                [this](const QColor&, QWidget*) {
+                    return m_colorChoices.isEmpty() ? QColor() : m_colorChoices.takeFirst();
+                }};
     }
 
     std::unique_ptr<CTamloDoc> m_document;
     MemoryOptionTree m_tree;
     TempDir m_folder;
-    std::deque<QColor> m_colorChoices;   // what the colour chooser answers, in turn
+    QList<QColor> m_colorChoices;        // what the colour chooser answers, in turn
     std::optional<QString> m_variable;   // what the variable picker answers
 
 private slots:
@@ -155,8 +142,6 @@ private slots:
         RegisterBuiltinWidgetClasses();
         m_document = std::make_unique<CTamloDoc>();
         m_document->OnNewDocument();
-        m_document->SetModifiedFlag(false);
-        m_tree.items.clear();
         m_colorChoices.clear();
         m_variable.reset();
     }
@@ -203,22 +188,17 @@ private slots:
         });
         QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
 
-        const char* composed =
-            "(($plc.temperature)>=(10))?((($plc.temperature)>=(20))?((($plc.temperature)>=(30))?0xffff:0xff0000):"
-            "0xff00):0xff";
-        QCOMPARE(preview, QString(composed));
+        QString composed = "(($plc.temperature)>=(10))?((($plc.temperature)>=(20))?((($plc.temperature)>=(30))?"
+                           "0xffff:0xff0000):0xff00):0xff";
+        QCOMPARE(preview, composed);
         QCOMPARE(row.extraColumnColor, kHmiColorBound);
         QVERIFY(m_document->IsModified());
-
-        const std::string file = SavedFile();
-        QCOMPARE(SectionOf(file, rect.GetWidgetName(), "dynamics"),
-                 std::string("\t\t\t<dynamic propname=\"fillcolor\" expression=\"(($plc.temperature)&gt;=(10))?"
-                             "((($plc.temperature)&gt;=(20))?((($plc.temperature)&gt;=(30))?0xffff:0xff0000):"
-                             "0xff00):0xff\" type=\"color_analog\" >\r\n"
-                             "\t\t\t\t<type_params expression=\"$plc.temperature\" count=\"3\" defaultcolor=\"0xff\" "
-                             " limit_value0=\"10\" color0=\"0xff00\"  limit_value1=\"20\" color1=\"0xff0000\" "
-                             " limit_value2=\"30\" color2=\"0xffff\"  />\r\n"
-                             "\t\t\t</dynamic>\r\n"));
+        const std::string saved = SavedSection(rect, "dynamics");
+        QCOMPARE(saved,
+                 "\t\t\t<dynamic propname=\"fillcolor\" expression=\"" + composed.replace('>', "&gt;").toStdString() +
+                     "\" type=\"color_analog\" >\r\n\t\t\t\t<type_params expression=\"$plc.temperature\" count=\"3\" "
+                     "defaultcolor=\"0xff\"  limit_value0=\"10\" color0=\"0xff00\"  limit_value1=\"20\" color1=\"0xff0000\" "
+                     " limit_value2=\"30\" color2=\"0xffff\"  />\r\n\t\t\t</dynamic>\r\n");
 
         // Opened again, the dialog starts from the binding as it is and leaves it alone on Cancel.
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
@@ -227,7 +207,7 @@ private slots:
             dialog.reject();
         });
         QVERIFY(!EditDynamicProperty(nullptr, rect, row, Services()));
-        QCOMPARE(SavedFile(), file);
+        QCOMPARE(SavedSection(rect, "dynamics"), saved);
     }
 
     void textFloatBinding()
@@ -279,12 +259,10 @@ private slots:
             PressOk(dialog);
         });
         QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
-        QCOMPARE(SectionOf(SavedFile(), rect.GetWidgetName(), "dynamics"),
+        QCOMPARE(SavedSection(rect, "dynamics"),
                  std::string("\t\t\t<dynamic propname=\"edgecolor\" expression=\"script\" type=\"script\" >\r\n"
-                             "\t\t\t\t<code>\r\n"
-                             "\t\t\t\t\t<![CDATA[if ($level > 3)\r\n  alarm();]]>\r\n"
-                             "\t\t\t\t</code>\r\n"
-                             "\t\t\t</dynamic>\r\n"));
+                             "\t\t\t\t<code>\r\n\t\t\t\t\t<![CDATA[if ($level > 3)\r\n  alarm();]]>\r\n"
+                             "\t\t\t\t</code>\r\n\t\t\t</dynamic>\r\n"));
     }
 
     void deletingABinding()
@@ -321,12 +299,9 @@ private slots:
             PressOk(dialog);
         });
         QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
-        const CHmiWidgetProp* prop = rect.FindProperty("fillcolor");
-        QVERIFY(prop->m_strExpression.empty());
-        QVERIFY(!prop->GetDynamicType());
         QCOMPARE(row.extraColumnColor, kHmiColor3DFace);
         QVERIFY(m_document->IsModified());
-        QCOMPARE(SectionOf(SavedFile(), rect.GetWidgetName(), "dynamics"), std::string());
+        QCOMPARE(SavedSection(rect, "dynamics"), std::string());
 
         // With nothing bound, an empty expression has nothing to delete: no question, no change.
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) { PressOk(dialog); });
@@ -370,11 +345,10 @@ private slots:
         QVERIFY(EditWidgetEvent(nullptr, rect, row, functions));
         const std::string code = "a();\r\nb();\r\nc();\r\nd();\r\nsetvalue(var, value)\r\nbeep()";
         QCOMPARE(rect.GetEvents()[0].code, code);
-        QCOMPARE(SectionOf(SavedFile(), rect.GetWidgetName(), "events"),
+        QCOMPARE(SavedSection(rect, "events"),
                  "\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[" + code + "]]>\n\t\t\t</event>\r\n");
 
         // Cancel changes nothing.
-        m_document->SetModifiedFlag(false);
         WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
             QTest::keyClicks(dialog.CodeEdit(), "lost();");
             dialog.reject();
@@ -390,7 +364,7 @@ private slots:
         });
         QVERIFY(EditWidgetEvent(nullptr, rect, row, functions));
         QVERIFY(m_document->IsModified());
-        QCOMPARE(SectionOf(SavedFile(), rect.GetWidgetName(), "events"), std::string());
+        QCOMPARE(SavedSection(rect, "events"), std::string());
         // A row outside the "Event" group opens nothing.
         QVERIFY(!EditWidgetEvent(nullptr, rect, Row(rect, "Left"), functions));
     }
@@ -403,23 +377,18 @@ private slots:
         QVERIFY(FindScriptFunctionsFile({project, program}).empty());
         QVERIFY(LoadScriptFunctions(m_folder.Path("program/hmifuncs.xml")).empty());
 
+        // Elements without a name, or of another kind, are skipped.
         m_folder.Write("program/hmifuncs.xml",
-                       "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n"
-                       "<functions>\n"
-                       "  <function name=\"setvalue\" signature=\"setvalue(var, value)\""
-                       " help=\"Writes &quot;var&quot;\"/>\n"
-                       "  <function signature=\"nameless()\"/>\n"
-                       "  <comment name=\"notafunction\"/>\n"
-                       "  <function name=\"beep\"/>\n"
-                       "</functions>\n");
+                       "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<functions>\n"
+                       "  <function name=\"setvalue\" signature=\"setvalue(var, value)\" help=\"Writes &quot;var&quot;\"/>\n"
+                       "  <function signature=\"nameless()\"/>\n  <comment name=\"notafunction\"/>\n"
+                       "  <function name=\"beep\"/>\n</functions>\n");
         const std::string found = FindScriptFunctionsFile({"", project, program});
         QCOMPARE(found, m_folder.Path("program/hmifuncs.xml"));
-        const std::vector<ScriptFunction> functions = LoadScriptFunctions(found);
-        QCOMPARE(functions.size(), std::size_t(2));
-        QCOMPARE(functions[0].name, std::string("setvalue"));
-        QCOMPARE(functions[0].help, std::string("Writes \"var\""));
-        QCOMPARE(functions[0].InsertionText(), std::string("setvalue(var, value)"));
-        QCOMPARE(functions[1].InsertionText(), std::string("beep()"));
+        QStringList loaded;
+        for (const ScriptFunction& function : LoadScriptFunctions(found))
+            loaded << QString::fromStdString(function.name + " | " + function.InsertionText() + " | " + function.help);
+        QCOMPARE(loaded, QStringList({"setvalue | setvalue(var, value) | Writes \"var\"", "beep | beep() | "}));
 
         // The project's own list comes first; a broken or foreign file gives no functions.
         m_folder.Write("project/hmifuncs.xml", "<functions><function name=\"x\"></functions>");
@@ -428,7 +397,6 @@ private slots:
         m_folder.Write("project/hmifuncs.xml", "<windows><function name=\"x\"/></windows>");
         QVERIFY(LoadScriptFunctions(m_folder.Path("project/hmifuncs.xml")).empty());
     }
-
 };
 
 QTEST_MAIN(DynamicDialogsTest)
