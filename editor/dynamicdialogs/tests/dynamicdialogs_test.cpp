@@ -85,36 +85,34 @@ class DynamicDialogsTest : public QObject {
     Q_OBJECT
 
 private:
-    CHmiWidget& AddWidget(const char* classKey)
+    // Adds a widget of the class to the unmodified document and builds its property list:
+    // m_widget and its row of that caption, m_row.
+    void Add(const char* classKey, const std::string& caption, const std::string& root = {})
     {
         HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(classKey)->CreateObject();
         widget->SetWidgetRect({10, 10, 60, 40});
-        CHmiWidget& added = *widget;
+        m_widget = widget.get();
         m_document->AddWidget(std::move(widget), true, false);
         m_document->SetModifiedFlag(false);
-        return added;
-    }
-
-    MemoryOptionItem& Row(CHmiWidget& widget, const std::string& caption, const std::string& root = {})
-    {
-        m_tree.items.clear();
-        widget.CreateWidgetPropertyTree(m_tree);
-        MemoryOptionItem* row = m_tree.Find(caption, root);
-        if (!row)
+        m_widget->CreateWidgetPropertyTree(m_tree);
+        m_row = m_tree.Find(caption, root);
+        if (!m_row)
             qFatal("no row %s", caption.c_str());
-        return *row;
     }
 
-    // Saves the document and returns the text between `<tag>` and `</tag>` of the widget's element.
+    bool EditBinding(COptionTreeItem& row) { return EditDynamicProperty(nullptr, *m_widget, row, Services()); }
+    bool EditBinding() { return EditBinding(*m_row); }
+
+    // Saves the document and returns the text between `<tag>` and `</tag>` of m_widget's element.
     // How each kind of binding is written is pinned by the window file tests; the tests here
     // compare saved text for what the dialogs composed and where line ends have to be kept.
-    std::string SavedSection(const CHmiWidget& widget, const std::string& tag)
+    std::string SavedSection(const std::string& tag)
     {
         if (!m_document->Save(m_folder.Path("window.xml")))
             return "(not saved)";
         const std::string file = m_folder.Read("window.xml");
         const std::string open = "\t\t<" + tag + ">\r\n";
-        const std::size_t start = file.find(open, file.find("\t<widget name=\"" + widget.GetWidgetName() + "\""));
+        const std::size_t start = file.find(open, file.find("\t<widget name=\"" + m_widget->GetWidgetName() + "\""));
         const std::size_t end = file.find("\t\t</" + tag + ">\r\n", start);
         if (start == std::string::npos || end == std::string::npos)
             return "(no " + tag + " section)";
@@ -131,6 +129,8 @@ private:
 
     std::unique_ptr<CTamloDoc> m_document;
     MemoryOptionTree m_tree;
+    CHmiWidget* m_widget = nullptr;
+    MemoryOptionItem* m_row = nullptr;
     TempDir m_folder;
     QList<QColor> m_colorChoices;        // what the colour chooser answers, in turn
     std::optional<QString> m_variable;   // what the variable picker answers
@@ -142,6 +142,7 @@ private slots:
         RegisterBuiltinWidgetClasses();
         m_document = std::make_unique<CTamloDoc>();
         m_document->OnNewDocument();
+        m_tree.items.clear();
         m_colorChoices.clear();
         m_variable.reset();
     }
@@ -154,8 +155,7 @@ private slots:
 
     void colorAnalogWithThreeLevels()
     {
-        CHmiWidget& rect = AddWidget("rectangle");
-        MemoryOptionItem& row = Row(rect, "fillcolor");
+        Add("rectangle", "fillcolor");
         m_variable = "$plc.temperature";
         // Default colour red, then the levels green, blue and yellow (0x00BBGGRR in the file).
         m_colorChoices = {Qt::red, Qt::green, Qt::blue, Qt::yellow};
@@ -186,19 +186,19 @@ private slots:
             preview = dialog.findChild<QLabel*>("preview")->text();
             PressOk(dialog);
         });
-        QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
+        QVERIFY(EditBinding());
 
         QString composed = "(($plc.temperature)>=(10))?((($plc.temperature)>=(20))?((($plc.temperature)>=(30))?"
                            "0xffff:0xff0000):0xff00):0xff";
         QCOMPARE(preview, composed);
-        QCOMPARE(row.extraColumnColor, kHmiColorBound);
+        QCOMPARE(m_row->extraColumnColor, kHmiColorBound);
         QVERIFY(m_document->IsModified());
-        const std::string saved = SavedSection(rect, "dynamics");
+        const std::string saved = SavedSection("dynamics");
         QCOMPARE(saved,
                  "\t\t\t<dynamic propname=\"fillcolor\" expression=\"" + composed.replace('>', "&gt;").toStdString() +
                      "\" type=\"color_analog\" >\r\n\t\t\t\t<type_params expression=\"$plc.temperature\" count=\"3\" "
-                     "defaultcolor=\"0xff\"  limit_value0=\"10\" color0=\"0xff00\"  limit_value1=\"20\" color1=\"0xff0000\" "
-                     " limit_value2=\"30\" color2=\"0xffff\"  />\r\n\t\t\t</dynamic>\r\n");
+                     "defaultcolor=\"0xff\"  limit_value0=\"10\" color0=\"0xff00\"  limit_value1=\"20\" "
+                     "color1=\"0xff0000\"  limit_value2=\"30\" color2=\"0xffff\"  />\r\n\t\t\t</dynamic>\r\n");
 
         // Opened again, the dialog starts from the binding as it is and leaves it alone on Cancel.
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
@@ -206,14 +206,13 @@ private slots:
             QCOMPARE(dialog.findChild<QLineEdit*>("expression")->text(), QString("$plc.temperature"));
             dialog.reject();
         });
-        QVERIFY(!EditDynamicProperty(nullptr, rect, row, Services()));
-        QCOMPARE(SavedSection(rect, "dynamics"), saved);
+        QVERIFY(!EditBinding());
+        QCOMPARE(SavedSection("dynamics"), saved);
     }
 
     void textFloatBinding()
     {
-        CHmiWidget& text = AddWidget("text");
-        MemoryOptionItem& row = Row(text, "text");
+        Add("text", "text");
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
             QCOMPARE(dialog.findChild<QComboBox*>("type")->currentText(), QString("text_int"));
             ChooseType(dialog, "text_float");
@@ -229,11 +228,11 @@ private slots:
             Click(dialog, "settings");
             PressOk(dialog);
         });
-        QVERIFY(EditDynamicProperty(nullptr, text, row, Services()));
-        QCOMPARE(text.FindProperty("text")->m_strExpression, std::string("(float2str3((t1),5,3))"));
+        QVERIFY(EditBinding());
+        QCOMPARE(m_widget->FindProperty("text")->m_strExpression, std::string("(float2str3((t1),5,3))"));
 
         // A property that cannot be bound opens nothing.
-        QVERIFY(!EditDynamicProperty(nullptr, text, Row(text, "textlength"), Services()));
+        QVERIFY(!EditBinding(*m_tree.Find("textlength")));
 
         // A whole-number text has no decimal width to set.
         CHmiDynTextInt whole;
@@ -243,8 +242,7 @@ private slots:
 
     void scriptBinding()
     {
-        CHmiWidget& rect = AddWidget("rectangle");
-        MemoryOptionItem& row = Row(rect, "edgecolor");
+        Add("rectangle", "edgecolor");
         m_variable = "$level";
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
             ChooseType(dialog, "script");
@@ -258,8 +256,8 @@ private slots:
             QTest::keyClicks(code, "  alarm();");
             PressOk(dialog);
         });
-        QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
-        QCOMPARE(SavedSection(rect, "dynamics"),
+        QVERIFY(EditBinding());
+        QCOMPARE(SavedSection("dynamics"),
                  std::string("\t\t\t<dynamic propname=\"edgecolor\" expression=\"script\" type=\"script\" >\r\n"
                              "\t\t\t\t<code>\r\n\t\t\t\t\t<![CDATA[if ($level > 3)\r\n  alarm();]]>\r\n"
                              "\t\t\t\t</code>\r\n\t\t\t</dynamic>\r\n"));
@@ -267,8 +265,7 @@ private slots:
 
     void deletingABinding()
     {
-        CHmiWidget& rect = AddWidget("rectangle");
-        MemoryOptionItem& row = Row(rect, "fillcolor");
+        Add("rectangle", "fillcolor");
         m_colorChoices = {Qt::green, Qt::blue};
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
             QCOMPARE(dialog.findChild<QComboBox*>("type")->currentText(), QString("color_digit"));
@@ -282,8 +279,9 @@ private slots:
             Click(dialog, "settings");
             PressOk(dialog);
         });
-        QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
-        QCOMPARE(rect.FindProperty("fillcolor")->m_strExpression, std::string("($plc.burner.flame)?0xff00:0xff0000"));
+        QVERIFY(EditBinding());
+        QCOMPARE(m_widget->FindProperty("fillcolor")->m_strExpression,
+                 std::string("($plc.burner.flame)?0xff00:0xff0000"));
         m_document->SetModifiedFlag(false);
 
         // An emptied expression asks first; No keeps the dialog and the binding, Yes deletes it.
@@ -298,17 +296,17 @@ private slots:
             WhenModal<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
             PressOk(dialog);
         });
-        QVERIFY(EditDynamicProperty(nullptr, rect, row, Services()));
-        QCOMPARE(row.extraColumnColor, kHmiColor3DFace);
+        QVERIFY(EditBinding());
+        QCOMPARE(m_row->extraColumnColor, kHmiColor3DFace);
         QVERIFY(m_document->IsModified());
-        QCOMPARE(SavedSection(rect, "dynamics"), std::string());
+        QCOMPARE(SavedSection("dynamics"), std::string());
 
         // With nothing bound, an empty expression has nothing to delete: no question, no change.
         WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) { PressOk(dialog); });
-        QVERIFY(!EditDynamicProperty(nullptr, rect, row, Services()));
+        QVERIFY(!EditBinding());
 
         // A row of no property (here a group's root) opens nothing.
-        QVERIFY(!EditDynamicProperty(nullptr, rect, *m_tree.Find("Basic properties"), Services()));
+        QVERIFY(!EditBinding(*m_tree.Find("Basic properties")));
     }
 
     void eventCodeKeepsItsLineEndsUntilEdited()
@@ -316,20 +314,20 @@ private slots:
         // One pass each: a CR CR LF in the file becomes CR CR CR LF and then CR CR LF again.
         QCOMPARE(ToEditorLineEnds("a\r\nb\nc\rd\r\r\ne"), std::string("a\r\nb\r\nc\rd\r\r\ne"));
 
-        CHmiWidget& rect = AddWidget("rectangle");
-        rect.SetWidgetEventCode("click", "a();\r\nb();\nc();\rd();");
-        MemoryOptionItem& row = Row(rect, "Button Down", "Event");
+        Add("rectangle", "Button Down", "Event");
+        m_widget->SetWidgetEventCode("click", "a();\r\nb();\nc();\rd();");
         const std::vector<ScriptFunction> functions = {{"beep", "", "Sounds the buzzer"},
                                                        {"setvalue", "setvalue(var, value)", "Writes a variable"}};
+        const auto edit = [&](COptionTreeItem& row) { return EditWidgetEvent(nullptr, *m_widget, row, functions); };
 
         // OK on untouched code keeps it as shown: every line end CR LF, a lone CR as it was.
         WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
             QVERIFY(QFontInfo(dialog.CodeEdit()->font()).fixedPitch());
             PressOk(dialog);
         });
-        QVERIFY(EditWidgetEvent(nullptr, rect, row, functions));
-        QCOMPARE(rect.GetEvents()[0].code, std::string("a();\r\nb();\r\nc();\rd();"));
-        QCOMPARE(row.staticText, rect.GetEvents()[0].code);
+        QVERIFY(edit(*m_row));
+        QCOMPARE(m_widget->GetEvents()[0].code, std::string("a();\r\nb();\r\nc();\rd();"));
+        QCOMPARE(m_row->staticText, m_widget->GetEvents()[0].code);
 
         // Inserting a function edits the code, which then comes back with CR LF after every line.
         WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
@@ -342,10 +340,10 @@ private slots:
             Click(dialog, "insertFunction");
             PressOk(dialog);
         });
-        QVERIFY(EditWidgetEvent(nullptr, rect, row, functions));
+        QVERIFY(edit(*m_row));
         const std::string code = "a();\r\nb();\r\nc();\r\nd();\r\nsetvalue(var, value)\r\nbeep()";
-        QCOMPARE(rect.GetEvents()[0].code, code);
-        QCOMPARE(SavedSection(rect, "events"),
+        QCOMPARE(m_widget->GetEvents()[0].code, code);
+        QCOMPARE(SavedSection("events"),
                  "\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[" + code + "]]>\n\t\t\t</event>\r\n");
 
         // Cancel changes nothing.
@@ -353,8 +351,7 @@ private slots:
             QTest::keyClicks(dialog.CodeEdit(), "lost();");
             dialog.reject();
         });
-        QVERIFY(!EditWidgetEvent(nullptr, rect, row, functions));
-        QCOMPARE(rect.GetEvents()[0].code, code);
+        QVERIFY(!edit(*m_row));
         QVERIFY(!m_document->IsModified());
 
         // Code cleared in the dialog leaves the event out of the file.
@@ -362,11 +359,11 @@ private slots:
             TypeInto(dialog.CodeEdit(), "");
             PressOk(dialog);
         });
-        QVERIFY(EditWidgetEvent(nullptr, rect, row, functions));
+        QVERIFY(edit(*m_row));
         QVERIFY(m_document->IsModified());
-        QCOMPARE(SavedSection(rect, "events"), std::string());
+        QCOMPARE(SavedSection("events"), std::string());
         // A row outside the "Event" group opens nothing.
-        QVERIFY(!EditWidgetEvent(nullptr, rect, Row(rect, "Left"), functions));
+        QVERIFY(!edit(*m_tree.Find("Left")));
     }
 
     void scriptFunctionsFile()
@@ -380,8 +377,9 @@ private slots:
         // Elements without a name, or of another kind, are skipped.
         m_folder.Write("program/hmifuncs.xml",
                        "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<functions>\n"
-                       "  <function name=\"setvalue\" signature=\"setvalue(var, value)\" help=\"Writes &quot;var&quot;\"/>\n"
-                       "  <function signature=\"nameless()\"/>\n  <comment name=\"notafunction\"/>\n"
+                       "  <function name=\"setvalue\" signature=\"setvalue(var, value)\""
+                       " help=\"Writes &quot;var&quot;\"/>\n  <function signature=\"nameless()\"/>\n"
+                       "  <comment name=\"notafunction\"/>\n"
                        "  <function name=\"beep\"/>\n</functions>\n");
         const std::string found = FindScriptFunctionsFile({"", project, program});
         QCOMPARE(found, m_folder.Path("program/hmifuncs.xml"));

@@ -119,48 +119,45 @@ class ProjectDialogsTest : public QObject {
 
 private:
     QString ProjectFile(const QString& name) const { return m_project->filePath(name); }
-    // Loads a window file of the project into m_document and returns its widget of that name.
-    CHmiWidget& OpenWidget(const QString& file, const std::string& name)
+    // Loads a window file of the project into m_document, and builds the property list of its
+    // widget of that name: m_widget and its row of that label, m_row.
+    void Open(const QString& file, const std::string& name, const std::string& label)
     {
         if (m_document->Load(QFile::encodeName(ProjectFile(file)).toStdString()))
             for (const HmiWidgetPtr& widget : m_document->Widgets())
                 if (widget->GetWidgetName() == name)
-                    return *widget;
-        qFatal("no widget %s in %s", name.c_str(), qPrintable(file));
+                    m_widget = widget.get();
+        if (m_widget)
+            m_widget->CreateWidgetPropertyTree(*m_tree);
+        m_row = m_tree->Find(label);
+        if (!m_row)
+            qFatal("no row %s of %s in %s", label.c_str(), name.c_str(), qPrintable(file));
     }
 
-    // The row of a widget's property, after the widget built its property list.
-    COptionTreeItem& RowOf(CHmiWidget& widget, const std::string& label)
-    {
-        if (m_tree->items.empty())
-            widget.CreateWidgetPropertyTree(*m_tree);
-        MemoryOptionItem* item = m_tree->Find(label);
-        if (!item)
-            qFatal("no row %s", label.c_str());
-        return *item;
-    }
-
-    // Saves the document and returns the `property` line of that name inside the widget's element.
-    QByteArray SavedProperty(const std::string& widgetName, const std::string& property)
+    // Saves the document and returns the `property` line of that name inside m_widget's element.
+    QByteArray SavedProperty(const std::string& property)
     {
         const std::string path = m_document->GetPathName();
         if (!m_document->Save(path))
             return "not saved";
         const QByteArray bytes = ReadFile(QFile::decodeName(QByteArray::fromStdString(path)));
-        const qsizetype widget = bytes.indexOf("<widget name=\"" + QByteArray::fromStdString(widgetName) + "\"");
+        const QByteArray name = QByteArray::fromStdString(m_widget->GetWidgetName());
+        const qsizetype widget = bytes.indexOf("<widget name=\"" + name + "\"");
         const qsizetype start = bytes.indexOf("<property name=\"" + QByteArray::fromStdString(property) + "\"", widget);
         if (widget < 0 || start < 0)
             return "missing";
         return bytes.mid(start, bytes.indexOf('\n', start) - start);
     }
 
-    // Runs what a click on the row's button runs, with the dialogs and choosers of m_context.
-    bool Select(CHmiWidget& widget, COptionTreeItem& row) { return SelectWidgetItem(nullptr, widget, row, m_context); }
+    // Runs what a click on m_row's button runs, with the dialogs and choosers of m_context.
+    bool Select() { return SelectWidgetItem(nullptr, *m_widget, *m_row, m_context); }
 
     std::unique_ptr<QTemporaryDir> m_project;
     std::unique_ptr<QTemporaryDir> m_elsewhere;
     std::unique_ptr<CTamloDoc> m_document;
     std::unique_ptr<MemoryOptionTree> m_tree;
+    CHmiWidget* m_widget = nullptr;
+    MemoryOptionItem* m_row = nullptr;
     ProjectContext m_context;
 
 private slots:
@@ -181,6 +178,7 @@ private slots:
         SetProjectPath(QFile::encodeName(m_project->path()).toStdString());
         m_document = std::make_unique<CTamloDoc>();
         m_tree = std::make_unique<MemoryOptionTree>();
+        m_widget = nullptr;
         m_context = {};
     }
 
@@ -239,20 +237,19 @@ private slots:
 
     void variableRowTakesThePickedReference()
     {
-        CHmiWidget& list = OpenWidget("trends.xml", "records");
-        COptionTreeItem& row = RowOf(list, "redrawvar");
+        Open("trends.xml", "records", "redrawvar");
         m_context.runDialog = DriveWith([](QDialog& dialog) {
             ChooseVariable(dialog, "burner", 1);
             ClickButton(dialog, "OK");
         });
-        QVERIFY(Select(list, row));
-        QCOMPARE(row.GetEditText(), std::string("$plc.mode"));
+        QVERIFY(Select());
+        QCOMPARE(m_row->editText, std::string("$plc.mode"));
         QVERIFY(m_document->IsModified());
-        QCOMPARE(SavedProperty("records", "redrawvar"), PropertyLine("redrawvar", "string", "$plc.mode", 32));
+        QCOMPARE(SavedProperty("redrawvar"), PropertyLine("redrawvar", "string", "$plc.mode", 32));
 
         m_context.runDialog = Press("Cancel");
-        QVERIFY(!Select(list, row));
-        QCOMPARE(row.GetEditText(), std::string("$plc.mode"));
+        QVERIFY(!Select());
+        QCOMPARE(m_row->editText, std::string("$plc.mode"));
     }
 
     // "Project Window Information"
@@ -261,8 +258,9 @@ private slots:
         m_context.runDialog = DriveWith([this](QDialog& dialog) {
             QCOMPARE(dialog.findChild<QLineEdit*>()->text(), m_project->path() + "/");
             auto& list = *dialog.findChild<QTreeWidget*>();
-            QCOMPARE(Rows(*list.model()), QStringList({"trends|Trends and alarms|trends.xml",
-                                                       "pumps|Pump station|pumps.xml", "main|Boiler overview|main.xml"}));
+            const QStringList windows = {"trends|Trends and alarms|trends.xml", "pumps|Pump station|pumps.xml",
+                                         "main|Boiler overview|main.xml"};
+            QCOMPARE(Rows(*list.model()), windows);
             ClickCell(list, list.model()->index(1, 0));
             ClickButton(dialog, "OK");
         });
@@ -311,7 +309,8 @@ private slots:
     {
         QStringList standard = Entries(AlarmFieldChoices(""));
         QCOMPARE(standard.removeAll("Time"), 1);
-        QCOMPARE(Entries(AlarmFieldChoices("Timer,alarm type,")), QStringList({"[x] Timer", "[x] alarm type"}) + standard);
+        QCOMPARE(Entries(AlarmFieldChoices("Timer,alarm type,")),
+                 QStringList({"[x] Timer", "[x] alarm type"}) + standard);
 
         QCOMPARE(Entries(HistoryFieldChoices("Temperature_avg,x,", {"temp", "pressure", "x"})),
                  QStringList({"[x] Temperature_avg", "[x] x", "pressure", "DateTime"}));
@@ -322,13 +321,10 @@ private slots:
 
     void alarmFieldDialogMovesAndChecksFields()
     {
-        CHmiWidget& alarms = OpenWidget("trends.xml", "alarms");
-        COptionTreeItem& row = RowOf(alarms, "Display fields");
-        const QByteArray before = SavedProperty("alarms", "dispfields");
+        Open("trends.xml", "alarms", "Display fields");
         m_context.runDialog = Press("Cancel");
-        QVERIFY(!Select(alarms, row));
+        QVERIFY(!Select());
         QVERIFY(!m_document->IsModified());
-        QCOMPARE(SavedProperty("alarms", "dispfields"), before);
 
         m_context.runDialog = DriveWith([](QDialog& dialog) {
             // Information, the last and unchecked, is checked and moved up one place: a move past
@@ -342,12 +338,12 @@ private slots:
             ToggleEntry(list, 0);
             ClickButton(dialog, "OK");
         });
-        QVERIFY(Select(alarms, row));
+        QVERIFY(Select());
         const std::string fields =
             "Event Type,Variable Name,Alarm info,Alarm value,Restore value,Limit value,Information,Alarm group,";
-        QCOMPARE(static_cast<MemoryOptionItem&>(row).staticText.c_str(), fields.c_str());
+        QCOMPARE(m_row->staticText, fields);
         QVERIFY(m_document->IsModified());
-        QCOMPARE(SavedProperty("alarms", "dispfields"),
+        QCOMPARE(SavedProperty("dispfields"),
                  PropertyLine("dispfields", "string", fields.c_str(), int(fields.size()) + 1));
     }
 
@@ -355,9 +351,8 @@ private slots:
     // history the project does not list has no variables to offer, and its name is kept.
     void historyFieldDialogOffersTheRecordedVariables()
     {
-        CHmiWidget& records = OpenWidget("trends.xml", "records");
-        records.SetWidgetProperty("dispfields", "string", "pressure", "32");
-        COptionTreeItem& row = RowOf(records, "dispfields");
+        Open("trends.xml", "records", "dispfields");
+        m_widget->SetWidgetProperty("dispfields", "string", "pressure", "32");
         m_context.runDialog = DriveWith([](QDialog& dialog) {
             auto& list = *dialog.findChild<QListWidget*>();
             QCOMPARE(Entries(list), QStringList({"[x] pressure", "temperature", "DateTime"}));
@@ -366,24 +361,23 @@ private slots:
             ClickButton(dialog, "Move up");
             ClickButton(dialog, "OK");
         });
-        QVERIFY(Select(records, row));
-        QCOMPARE(SavedProperty("records", "dispfields"), PropertyLine("dispfields", "string", "DateTime,pressure,", 32));
+        QVERIFY(Select());
+        QCOMPARE(SavedProperty("dispfields"), PropertyLine("dispfields", "string", "DateTime,pressure,", 32));
 
-        records.SetWidgetProperty("historyname", "string", "retired_history", "32");
-        records.SetWidgetProperty("dispfields", "string", "pressure", "32");
+        m_widget->SetWidgetProperty("historyname", "string", "retired_history", "32");
+        m_widget->SetWidgetProperty("dispfields", "string", "pressure", "32");
         m_context.runDialog = DriveWith([](QDialog& dialog) {
             QCOMPARE(Entries(*dialog.findChild<QListWidget*>()), QStringList({"[x] pressure", "DateTime"}));
             ClickButton(dialog, "OK");
         });
-        QVERIFY(Select(records, row));
-        QCOMPARE(SavedProperty("records", "historyname"), PropertyLine("historyname", "string", "retired_history", 32));
+        QVERIFY(Select());
+        QCOMPARE(SavedProperty("historyname"), PropertyLine("historyname", "string", "retired_history", 32));
     }
 
     // Picture file
     void pictureFileIsTakenIntoTheProject()
     {
-        CHmiWidget& logo = OpenWidget("main.xml", "logo");
-        COptionTreeItem& row = RowOf(logo, "filename");
+        Open("main.xml", "logo", "filename");
         m_context.reportError = [](QWidget*, const QString& message) { QFAIL(qPrintable(message)); };
         const QByteArray picture = ReadFile(ProjectFile("logo.png"));
         WriteFile(m_elsewhere->filePath("badge.png"), picture);
@@ -391,57 +385,48 @@ private slots:
         m_context.choosePicture = [&](QWidget*, const QString& start) {
             return start == m_project->path() + "/" ? m_elsewhere->filePath("badge.png") : QString();
         };
-        QVERIFY(Select(logo, row));
+        QVERIFY(Select());
         QCOMPARE(ReadFile(ProjectFile("badge.png")), picture);
-        QCOMPARE(SavedProperty("logo", "filename"), PropertyLine("filename", "string", "badge.png", 32));
+        QCOMPARE(SavedProperty("filename"), PropertyLine("filename", "string", "badge.png", 32));
 
         // A file that already lies in the project is taken as it is, and a second time changes nothing.
         m_context.choosePicture = [&](QWidget*, const QString&) { return ProjectFile("logo.png"); };
-        QVERIFY(Select(logo, row));
+        QVERIFY(Select());
         QCOMPARE(ReadFile(ProjectFile("logo.png")), picture);
-        QCOMPARE(row.GetEditText(), std::string("logo.png"));
-        QVERIFY(!Select(logo, row));
+        QCOMPARE(m_row->editText, std::string("logo.png"));
+        QVERIFY(!Select());
 
         // One of the same name from elsewhere replaces the project's copy; the widget keeps its name.
         WriteFile(m_elsewhere->filePath("logo.png"), "a newer logo");
         m_context.choosePicture = [&](QWidget*, const QString&) { return m_elsewhere->filePath("logo.png"); };
-        QVERIFY(!Select(logo, row));
+        QVERIFY(!Select());
         QCOMPARE(ReadFile(ProjectFile("logo.png")), QByteArray("a newer logo"));
 
         m_context.choosePicture = [](QWidget*, const QString&) { return QString(); };
-        QVERIFY(!Select(logo, row));
+        QVERIFY(!Select());
     }
 
     void pictureFailuresAreReported()
     {
-        CHmiWidget& logo = OpenWidget("main.xml", "logo");
+        Open("main.xml", "logo", "filename");
         QStringList reports;
         m_context.reportError = [&](QWidget*, const QString& message) { reports << message; };
         m_context.choosePicture = [&](QWidget*, const QString&) { return m_elsewhere->filePath("missing.png"); };
-        QVERIFY(!Select(logo, RowOf(logo, "filename")));
+        QVERIFY(!Select());
         QCOMPARE(reports.size(), 1);
         QVERIFY(reports.front().contains("missing.png"));
-        QCOMPARE(SavedProperty("logo", "filename"), PropertyLine("filename", "string", "logo.png", 32));
+        QCOMPARE(SavedProperty("filename"), PropertyLine("filename", "string", "logo.png", 32));
 
         // A window never saved has no folder to take a picture into.
-        CTamloDoc unsaved;
-        unsaved.OnNewDocument();
-        HmiWidgetPtr picture = CHmiWidget::GetWidgetClass("picture")->CreateObject();
-        CHmiWidget& added = *picture;
-        QVERIFY(unsaved.AddWidget(std::move(picture), true, false));
-        MemoryOptionTree tree;
-        added.CreateWidgetPropertyTree(tree);
-        WriteFile(m_elsewhere->filePath("badge.png"), "picture");
-        m_context.choosePicture = [&](QWidget*, const QString&) { return m_elsewhere->filePath("badge.png"); };
-        QVERIFY(!Select(added, *tree.Find("filename")));
+        m_document->SetPathName({});
+        QVERIFY(!Select());
         QCOMPARE(reports.last(), QString("The window has no folder for its pictures yet: save it first."));
     }
 
     // Font of the bitmap text
     void fontPickerSetsFontAndColour()
     {
-        CHmiWidget& title = OpenWidget("main.xml", "title");
-        COptionTreeItem& row = RowOf(title, "Font");
+        Open("main.xml", "title", "Font");
         // The colour chooser starts from the title's navy text; red is picked.
         m_context.chooseColor = [](QWidget*, const QColor& initial) {
             return initial == QColor(0, 0, 128) ? QColor(255, 0, 0) : QColor();
@@ -460,13 +445,13 @@ private slots:
             ClickButton(dialog, "Color...");
             ClickButton(dialog, "OK");
         });
-        QVERIFY(Select(title, row));
-        QCOMPARE(static_cast<MemoryOptionItem&>(row).staticText.c_str(), "DejaVu Serif, -24, 400");
-        QCOMPARE(SavedProperty("title", "fontunderline"), PropertyLine("fontunderline", "uchar", "1"));
-        QCOMPARE(SavedProperty("title", "color"), PropertyLine("color", "ulong", "255"));
+        QVERIFY(Select());
+        QCOMPARE(m_row->staticText, std::string("DejaVu Serif, -24, 400"));
+        QCOMPARE(SavedProperty("fontunderline"), PropertyLine("fontunderline", "uchar", "1"));
+        QCOMPARE(SavedProperty("color"), PropertyLine("color", "ulong", "255"));
 
         m_context.runDialog = Press("Cancel");
-        QVERIFY(!Select(title, row));
+        QVERIFY(!Select());
     }
 };
 
