@@ -32,9 +32,11 @@ const std::string kGbPump = "\xB1\xC3";
 const QColor kBoundColor(255, 0, 0);
 const QColor kFaceColor(0xF0, 0xF0, 0xF0);
 
-QString RectText(const HmiRect& r)
+// left, top, right, bottom, width and height, as the geometry rows show them.
+QString Geometry(const HmiRect& r)
 {
-    return QStringLiteral("%1,%2,%3,%4").arg(r.left).arg(r.top).arg(r.right).arg(r.bottom);
+    return QStringLiteral("%1,%2,%3,%4,%5,%6")
+        .arg(r.left).arg(r.top).arg(r.right).arg(r.bottom).arg(r.Width()).arg(r.Height());
 }
 
 } // namespace
@@ -84,6 +86,15 @@ private:
         for (const QChar c : text)
             QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c), Qt::NoModifier);
         QTest::keyClick(edit, Qt::Key_Return);
+    }
+
+    // The geometry rows' texts, in the order of Geometry().
+    QString ShownGeometry()
+    {
+        QStringList texts;
+        for (const char* caption : {"Left", "Top", "Right", "Bottom", "Width", "Height"})
+            texts << EditorOf<QLineEdit>(caption)->text();
+        return texts.join(',');
     }
 
     // The colour the screen shows in the extra column of a row.
@@ -183,46 +194,35 @@ private slots:
         QVERIFY(doc->HasWidgetName("tank"));
     }
 
-    void geometryEditsChangeTheRectangle_data()
-    {
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("rect");
-        QTest::addColumn<QString>("width");
-        // The rules for each row are tested with the widget's property list; here, that the pane
-        // commits what was typed and shows the widget again.
-        QTest::newRow("left moves") << "Left" << "30" << "30,10,70,60" << "40";
-        QTest::newRow("height resizes") << "Height" << "7" << "10,10,50,17" << "40";
-        QTest::newRow("right on left refused") << "Right" << "10" << "10,10,50,60" << "40";
-    }
-
+    // The rules for each row are tested with the widget's property list; here, that the pane
+    // commits what was typed on Return alone and shows the widget again: derived rows follow,
+    // refused values are put back.
     void geometryEditsChangeTheRectangle()
     {
-        QFETCH(QString, caption);
-        QFETCH(QString, typed);
-        auto* rect = Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60});
-        Show(rect);
-        QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
-        QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
-
-        QLineEdit* edit = EditorOf<QLineEdit>(caption.toUtf8().constData());
-        QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(edit, typed);
-        QCOMPARE(changed.count(), 0); // typing alone commits nothing
-        QTest::keyClick(edit, Qt::Key_Return);
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.first().first().value<COptionTreeItem*>(),
-                 static_cast<COptionTreeItem*>(pane->FindItem(caption.toStdString())));
-        QCOMPARE(edited.count(), 1);
-
-        QTEST(RectText(rect->GetWidgetRect()), "rect");
-        // Every row shows the widget again: derived rows follow, refused values are put back.
-        QTEST(EditorOf<QLineEdit>("Width")->text(), "width");
-        QCOMPARE(EditorOf<QLineEdit>("Right")->text(), QString::number(rect->GetWidgetRect().right));
-        QCOMPARE(EditorOf<QLineEdit>("Bottom")->text(), QString::number(rect->GetWidgetRect().bottom));
-
-        QTest::keyClick(edit, Qt::Key_Return);
-        QCOMPARE(changed.count(), 1); // an unchanged text is no edit
+        const struct {
+            const char* caption;
+            const char* typed;
+            const char* geometry;
+        } edits[] = {{"Left", "30", "30,10,70,60,40,50"}, {"Height", "7", "10,10,50,17,40,7"},
+                     {"Right", "10", "10,10,50,60,40,50"}};
+        for (const auto& edit : edits) {
+            auto* rect = Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60});
+            Show(rect);
+            QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
+            QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
+            QLineEdit* field = EditorOf<QLineEdit>(edit.caption);
+            QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(field, edit.typed);
+            QCOMPARE(changed.count(), 0); // typing alone commits nothing
+            QTest::keyClick(field, Qt::Key_Return);
+            QTest::keyClick(field, Qt::Key_Return); // an unchanged text is no edit
+            QCOMPARE(changed.count(), 1);
+            QCOMPARE(changed.first().first().value<COptionTreeItem*>(),
+                     static_cast<COptionTreeItem*>(Row(edit.caption)));
+            QCOMPARE(edited.count(), 1);
+            QCOMPARE(Geometry(rect->GetWidgetRect()), QString(edit.geometry));
+            QCOMPARE(ShownGeometry(), QString(edit.geometry));
+        }
     }
 
     void checkBoxesCombosAndColoursCommitTheUsersChoice()
@@ -374,7 +374,7 @@ private slots:
         QCOMPARE(pane->Tree()->topLevelItemCount(), 0);
         QCOMPARE(pane->CurrentWidget(), nullptr);
         QVERIFY(pane->DescriptionText().isEmpty());
-        QCOMPARE(RectText(rect->GetWidgetRect()), QString("10,10,50,50"));
+        QCOMPARE(Geometry(rect->GetWidgetRect()), QString("10,10,50,50,40,40"));
 
         // A main frame that rebuilds the pane whenever the widget was edited.
         connect(pane.get(), &CPropertyPane::widgetEdited, pane.get(),
@@ -382,8 +382,8 @@ private slots:
         Show(rect);
         Type(EditorOf<QLineEdit>("Top"), "0");
         QCoreApplication::processEvents();
-        QCOMPARE(RectText(rect->GetWidgetRect()), QString("10,0,50,40"));
-        QCOMPARE(EditorOf<QLineEdit>("Bottom")->text(), QString("40"));
+        QCOMPARE(Geometry(rect->GetWidgetRect()), QString("10,0,50,40,40,40"));
+        QCOMPARE(ShownGeometry(), Geometry(rect->GetWidgetRect()));
     }
 };
 

@@ -63,64 +63,51 @@ struct SignalLog {
 class SingleInstanceTest : public QObject {
     Q_OBJECT
 private slots:
-    void recordsAreDispatched_data()
-    {
-        QTest::addColumn<int>("identifier");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QStringList>("expected");
-        const QString path = QStringLiteral("/home/op/Pläne/window 1.xml");
-        const QString raise = QStringLiteral("raise");
-        QTest::newRow("path") << 1 << path.toUtf8() << QStringList{QStringLiteral("open ") + path, raise};
-        QTest::newRow("no path") << 1 << QByteArray() << QStringList{raise};
-        QTest::newRow("other identifier") << 7 << QByteArray("/x.xml") << QStringList{QStringLiteral("beep")};
-    }
     void recordsAreDispatched()
     {
-        QFETCH(int, identifier);
-        QFETCH(QByteArray, text);
-        QFETCH(QStringList, expected);
-        CInstanceGuard guard(UniqueName());
-        QVERIFY(guard.Listen());
-        SignalLog log(guard);
-        QVERIFY(CInstanceGuard::SendRecord(guard.Name(), quint32(identifier), text));
-        QTRY_COMPARE(log.events, expected);
+        const QString path = QStringLiteral("/home/op/Pläne/window 1.xml");
+        const struct {
+            quint32 identifier;
+            QByteArray text;
+            QStringList expected;
+        } records[] = {{1, path.toUtf8(), {"open " + path, "raise"}}, {1, {}, {"raise"}}, {7, "/x.xml", {"beep"}}};
+        for (const auto& record : records) {
+            CInstanceGuard guard(UniqueName());
+            QVERIFY(guard.Listen());
+            SignalLog log(guard);
+            QVERIFY(CInstanceGuard::SendRecord(guard.Name(), record.identifier, record.text));
+            QTRY_COMPARE(log.events, record.expected);
+        }
     }
 
-    void malformedRecordsAreIgnored_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("listenerCloses");
-        QTest::newRow("no terminating zero") << Header(1, 4) + "abcd" << true;
-        QTest::newRow("zero inside the text") << Header(7, 5) + QByteArray("ab\0c\0", 5) << true;
-        QTest::newRow("zero length") << Header(1, 0) << true;
-        QTest::newRow("huge length") << Header(1, 0xFFFFFFFFu) + "garbage" << true;
-        QTest::newRow("short header") << QByteArray("\1\0\0\0\4", 5) << false;
-        QTest::newRow("short text") << Header(1, 10) + "abc" << false;
-    }
+    // A record the listener can judge ends the connection from its side; an unfinished one ends
+    // when the sender goes. Either way the listener still serves the next editor start.
     void malformedRecordsAreIgnored()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(bool, listenerCloses);
-        CInstanceGuard guard(UniqueName());
-        QVERIFY(guard.Listen());
-        SignalLog log(guard);
-
-        {
-            QLocalSocket raw;
-            raw.connectToServer(guard.Name());
-            QVERIFY(raw.waitForConnected());
-            QSignalSpy closed(&raw, &QLocalSocket::disconnected);
-            raw.write(bytes);
-            QVERIFY(raw.waitForBytesWritten());
-            // A record the listener can judge ends the connection from its side; an unfinished
-            // one ends when the sender goes.
-            if (listenerCloses)
-                QVERIFY(closed.wait());
+        const std::pair<QByteArray, bool> records[] = {
+            {Header(1, 4) + "abcd", true},                    // no terminating zero
+            {Header(7, 5) + QByteArray("ab\0c\0", 5), true},  // a zero inside the text
+            {Header(1, 0), true},                             // zero length
+            {Header(1, 0xFFFFFFFFu) + "garbage", true},       // huge length
+            {QByteArray("\1\0\0\0\4", 5), false},            // short header
+            {Header(1, 10) + "abc", false},                   // short text
+        };
+        for (const auto& [bytes, listenerCloses] : records) {
+            CInstanceGuard guard(UniqueName());
+            QVERIFY(guard.Listen());
+            SignalLog log(guard);
+            {
+                QLocalSocket raw;
+                raw.connectToServer(guard.Name());
+                QVERIFY(raw.waitForConnected());
+                QSignalSpy closed(&raw, &QLocalSocket::disconnected);
+                raw.write(bytes);
+                QVERIFY(raw.waitForBytesWritten());
+                QVERIFY2(!listenerCloses || closed.wait(), bytes.toHex().constData());
+            }
+            QVERIFY(CInstanceGuard::HandOver(guard.Name(), "/home/op/next.xml"));
+            QTRY_COMPARE(log.events, (QStringList{QStringLiteral("open /home/op/next.xml"), QStringLiteral("raise")}));
         }
-
-        // The listener still serves the next editor start.
-        QVERIFY(CInstanceGuard::HandOver(guard.Name(), "/home/op/next.xml"));
-        QTRY_COMPARE(log.events, (QStringList{QStringLiteral("open /home/op/next.xml"), QStringLiteral("raise")}));
     }
 
     // A hand-over needs a listening editor: not one that crashed and left its socket file, nor one
