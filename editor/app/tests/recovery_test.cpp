@@ -60,7 +60,7 @@ private:
 
     // Starts the real program in a home of its own on a window with one drifting widget away
     // from its resting place: the widget's library modifies the window as soon as it is drawn.
-    // True once the editor has written its copy.
+    // True once the editor has written its copy, record and all: the record follows the content.
     bool StartDriftingEditor(QProcess& editor)
     {
         const std::string window = "<hmiwidget><widget name=\"drifter1\" class=\"drifter\"><properties>\n" +
@@ -76,8 +76,11 @@ private:
         editor.setWorkingDirectory(QStringLiteral(KELVO_DRIFTING_RUN_DIR));
         editor.setProcessChannelMode(QProcess::ForwardedChannels);
         editor.start(QStringLiteral(KELVO_EDITOR_PROGRAM), {driftingWindow});
-        return editor.waitForStarted(kProcessTimeoutMs) &&
-               QTest::qWaitFor([this] { return !CopiesUnder(root).isEmpty(); }, kProcessTimeoutMs);
+        const auto copied = [this] {
+            const QStringList copies = CopiesUnder(root);
+            return !copies.isEmpty() && QFileInfo::exists(copies.first().chopped(4) + QStringLiteral(".record"));
+        };
+        return editor.waitForStarted(kProcessTimeoutMs) && QTest::qWaitFor(copied, kProcessTimeoutMs);
     }
 
 private slots:
