@@ -17,17 +17,12 @@ ProjectContext::DialogRunner DriveWith(std::function<void(QDialog&)> steps)
     };
 }
 
-QPushButton* ButtonOf(QWidget& dialog, const QString& text)
+void ClickButton(QWidget& dialog, const QString& text)
 {
     for (QPushButton* button : dialog.findChildren<QPushButton*>())
         if (button->text() == text)
-            return button;
+            return QTest::mouseClick(button, Qt::LeftButton);
     qFatal("no button %s", qPrintable(text));
-}
-
-void ClickButton(QWidget& dialog, const QString& text)
-{
-    QTest::mouseClick(ButtonOf(dialog, text), Qt::LeftButton);
 }
 
 void ClickCell(QAbstractItemView& view, const QModelIndex& index)

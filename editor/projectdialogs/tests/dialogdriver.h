@@ -9,15 +9,13 @@
 class QAbstractItemView;
 class QDialog;
 class QModelIndex;
-class QPushButton;
 class QWidget;
 
 // Runs a dialog as the editor does, except that the given steps play the user's part instead
 // of an event loop waiting for a person. The dialog's result is what its buttons made of it.
 ProjectContext::DialogRunner DriveWith(std::function<void(QDialog&)> steps);
 
-// The push button of the dialog that shows this text; fails the test when there is none.
-QPushButton* ButtonOf(QWidget& dialog, const QString& text);
+// Clicks the push button of the dialog that shows this text; ends the test when there is none.
 void ClickButton(QWidget& dialog, const QString& text);
 // A mouse click in the middle of a cell of a view.
 void ClickCell(QAbstractItemView& view, const QModelIndex& index);

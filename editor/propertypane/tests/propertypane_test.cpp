@@ -183,17 +183,6 @@ private slots:
         QCOMPARE(pane->DescriptionText(), QString("Height"));
     }
 
-    // How a rename updates the name list is tested with the property list; here, that the
-    // document learns the name typed in the pane.
-    void renamingGoesThroughTheDocumentsNameList()
-    {
-        auto* rect = Add<CHmiWidgetRect>("rectangle");
-        Show(rect);
-        Type(EditorOf<QLineEdit>("Name"), "tank");
-        QCOMPARE(rect->GetWidgetName(), std::string("tank"));
-        QVERIFY(doc->HasWidgetName("tank"));
-    }
-
     // The rules for each row are tested with the widget's property list; here, that the pane
     // commits what was typed on Return alone and shows the widget again: derived rows follow,
     // refused values are put back.
@@ -284,6 +273,11 @@ private slots:
         QTest::mouseClick(edit, Qt::LeftButton);
         QCOMPARE(changed.count(), 1);
         QCOMPARE(text->GetWidgetName(), kGbTest);
+
+        // How a rename updates the name list is tested with the property list; here, that the
+        // document learns the name typed in the pane.
+        Type(EditorOf<QLineEdit>("Name"), "tank");
+        QVERIFY(doc->HasWidgetName("tank"));
     }
 
     void rowButtonsAskForTheirDialogs()
