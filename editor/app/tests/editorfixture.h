@@ -80,11 +80,6 @@ inline CHmiWidget* AddRect(CTamloDoc& document, const HmiRect& rect)
     return added;
 }
 
-inline QPoint At(int x, int y)
-{
-    return QPoint(x, y);
-}
-
 // A press, one move and a release: what a short drag with the mouse delivers.
 inline void Drag(QWidget* target, QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = {})
 {

@@ -54,7 +54,7 @@ private slots:
         QVERIFY(toolbox.findItems(QStringLiteral("window"), Qt::MatchExactly).isEmpty());
         Click(toolbox.viewport(), toolbox.visualItemRect(gauge).center());
         CChildFrame& child = editor.NewWindow();
-        Drag(&child.View(), At(40, 40), At(140, 100));
+        Drag(&child.View(), QPoint(40, 40), QPoint(140, 100));
         const CHmiWidget& placed = *child.Document().Widgets().back();
         QCOMPARE(std::string(placed.GetRuntimeClass()->m_lpszClassName), std::string("CGaugeWidget"));
         QCOMPARE(placed.GetWidgetRect(), (HmiRect{40, 40, 140, 100}));

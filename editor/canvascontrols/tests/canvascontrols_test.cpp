@@ -159,24 +159,24 @@ private slots:
     void theMouseOnAControlReachesTheCanvas()
     {
         auto* checkbox = qobject_cast<QCheckBox*>(ControlWidget(kCheckbox));
-        Click(checkbox, At(8, 8));
+        Click(checkbox, QPoint(8, 8));
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kCheckbox)});
         QVERIFY(!checkbox->isChecked());
-        Click(ControlWidget(kCombobox), At(30, 10), Qt::ControlModifier);
+        Click(ControlWidget(kCombobox), QPoint(30, 10), Qt::ControlModifier);
         QCOMPARE(Selected(), (std::vector<CHmiWidget*>{Find(kCheckbox), Find(kCombobox)}));
         QVERIFY(!QApplication::activePopupWidget()); // no drop-down list opened
-        QTest::mouseDClick(checkbox, Qt::LeftButton, Qt::ShiftModifier, At(8, 8));
+        QTest::mouseDClick(checkbox, Qt::LeftButton, Qt::ShiftModifier, QPoint(8, 8));
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kCombobox)});
 
-        Click(List(kAlarms)->viewport(), At(50, 50));
+        Click(List(kAlarms)->viewport(), QPoint(50, 50));
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kAlarms)});
         // A heading, away from its dividers, is part of the control like the rows.
         QHeaderView* header = List(kHistory)->header();
-        Click(header->viewport(), At(70, header->height() / 2));
+        Click(header->viewport(), QPoint(70, header->height() / 2));
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{Find(kHistory)});
 
         QWidget* edit = ControlWidget(kEdit);
-        Drag(edit, At(10, 10), At(40, 30));
+        Drag(edit, QPoint(10, 10), QPoint(40, 30));
         ExpectPlaced(kEdit, {50, 120, 170, 144});
 
         // The bottom-right handle reaches into the control's last pixel; the drag takes the corner
@@ -189,7 +189,7 @@ private slots:
     void deletingHidesTheControlAndUndoShowsItAgain()
     {
         QWidget* checkbox = ControlWidget(kCheckbox);
-        Click(checkbox, At(8, 8));
+        Click(checkbox, QPoint(8, 8));
         QTest::keyClick(view, Qt::Key_Delete);
         LetTheCanvasPaint();
         QVERIFY(!checkbox->isVisible());
@@ -218,7 +218,7 @@ private slots:
             }
             const int y = header->height() / 2;
             // Just inside the first column's right edge, where the header starts a resize.
-            Drag(header->viewport(), At(149, y), At(189, y));
+            Drag(header->viewport(), QPoint(149, y), QPoint(189, y));
             QCOMPARE(columns->m_columns.front().width, 190);
             ExpectPlaced(sample, sample.rect); // the widget itself stays put
             QVERIFY(child->isWindowModified());
@@ -234,11 +234,11 @@ private slots:
 
     void propertyEditsShowInTheControls()
     {
-        Click(ControlWidget(kCheckbox), At(8, 8));
+        Click(ControlWidget(kCheckbox), QPoint(8, 8));
         CommitRow("Caption", "\xC6\xF4\xB6\xAF"); // the pane holds the model's GB2312 text
         QCOMPARE(qobject_cast<QCheckBox*>(ControlWidget(kCheckbox))->text(), QStringLiteral("启动"));
 
-        Click(ControlWidget(kCombobox), At(30, 10));
+        Click(ControlWidget(kCombobox), QPoint(30, 10));
         CommitRow("List", "a,b,,c");
         auto* combobox = qobject_cast<QComboBox*>(ControlWidget(kCombobox));
         QStringList items;
@@ -267,7 +267,7 @@ private slots:
         const QList<QListWidgetItem*> found = toolbox.findItems(QStringLiteral("Checkbox"), Qt::MatchExactly);
         QCOMPARE(found.size(), 1);
         Click(toolbox.viewport(), toolbox.visualItemRect(found.first()).center());
-        Drag(view, At(600, 400), At(700, 430));
+        Drag(view, QPoint(600, 400), QPoint(700, 430));
         auto* placed = dynamic_cast<CHmiCtrlWidget*>(document->Widgets().back().get());
         QVERIFY(placed);
         const CCanvasControl* control = view->Controls().ControlOf(*placed);
