@@ -120,7 +120,6 @@ private slots:
         editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Cancel;
         QVERIFY(!child.close());
         QCOMPARE(editor->prompts.savedQuestions, QStringList{child.DisplayName()});
-        QCOMPARE(editor->frame.Children().size(), 1);
 
         editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Save;
         editor->prompts.saveFileName = FilePath(QStringLiteral("saved.xml"));

