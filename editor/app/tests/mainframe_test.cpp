@@ -38,11 +38,7 @@ private:
     QString FilePath(const QString& name) const { return editor->folder.filePath(name); }
 
 private slots:
-    void initTestCase()
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-    }
+    void initTestCase() { RegisterBuiltinWidgetClasses(); }
 
     void init() { editor = std::make_unique<EditorUnderTest>(); }
     void cleanup() { editor.reset(); }

@@ -121,11 +121,7 @@ private:
     }
 
 private slots:
-    void initTestCase()
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-    }
+    void initTestCase() { RegisterBuiltinWidgetClasses(); }
 
     void init()
     {

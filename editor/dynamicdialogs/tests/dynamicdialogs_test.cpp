@@ -141,10 +141,10 @@ private:
     std::optional<QString> m_variable;   // what the variable picker answers
 
 private slots:
+    void initTestCase() { RegisterBuiltinWidgetClasses(); }
+
     void init()
     {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
         m_document = std::make_unique<CTamloDoc>();
         m_document->OnNewDocument();
         m_tree.items.clear();
@@ -152,11 +152,7 @@ private slots:
         m_variable.reset();
     }
 
-    void cleanup()
-    {
-        m_document.reset();
-        CHmiWidget::RemoveAllRunTimeClass();
-    }
+    void cleanup() { m_document.reset(); }
 
     void colorAnalogWithThreeLevels()
     {

@@ -45,8 +45,8 @@ TEST_F(CanvasToolsTest, RubberBandSelectsOnlyWidgetsWhollyInsideAndShowsItsFrame
 
     Press(5, 5);
     Move(100, 100);
-    ASSERT_EQ(feedback.size(), 1u);
-    EXPECT_EQ(feedback[0], (HmiRect{Client(5, 5).x, Client(5, 5).y, Client(100, 100).x, Client(100, 100).y}));
+    const HmiRect band = {Client(5, 5).x, Client(5, 5).y, Client(100, 100).x, Client(100, 100).y};
+    EXPECT_EQ(feedback, std::vector<HmiRect>{band});
     Release(100, 100);
     EXPECT_EQ(Selected(), Widgets{inside});
     EXPECT_TRUE(feedback.empty());

@@ -162,11 +162,7 @@ private:
     ProjectContext m_context;
 
 private slots:
-    void initTestCase()
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-    }
+    void initTestCase() { RegisterBuiltinWidgetClasses(); }
 
     void init()
     {

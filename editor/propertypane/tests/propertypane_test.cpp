@@ -107,13 +107,7 @@ private:
     }
 
 private slots:
-    void initTestCase()
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-    }
-
-    void cleanupTestCase() { CHmiWidget::RemoveAllRunTimeClass(); }
+    void initTestCase() { RegisterBuiltinWidgetClasses(); }
 
     void init()
     {

@@ -19,10 +19,7 @@ HMI_IMPLEMENT_WIDGET_CLASS(CGaugeWidget, CHmiWidget)
 std::span<const PropertySpec<CGaugeWidget>> CGaugeWidget::Properties()
 {
     static const PropertySpec<CGaugeWidget> properties[] = {
-        {.key = "needle",
-         .label = "Needle",
-         .description = "Needle colour",
-         .itemType = PROP_COLOR,
+        {.key = "needle", .label = "Needle", .description = "Needle colour", .itemType = PROP_COLOR,
          .color = &CGaugeWidget::m_needleColor},
     };
     return properties;
