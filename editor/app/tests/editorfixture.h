@@ -26,7 +26,7 @@ struct ScriptedPrompts : CEditorPrompts {
         return saveAnswer;
     }
     QString AskSaveFileName(QWidget*, const QString&) override { return saveFileName; }
-    QString AskOpenFileName(QWidget*, const QString&) override { return openFileName; }
+    QString AskOpenFileName(QWidget*, const QString&) override { return {}; } // the tests open files directly
     std::optional<int> AskZoomPercent(QWidget*) override { return zoomPercent; }
     void ShowError(QWidget*, const QString& text) override { errors << text; }
     void ShowInformation(QWidget*, const QString& text) override { information << text; }
@@ -38,7 +38,6 @@ struct ScriptedPrompts : CEditorPrompts {
 
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
     QString saveFileName;
-    QString openFileName;
     std::optional<int> zoomPercent;
     RecoveryAnswer recoveryAnswer = RecoveryAnswer::Later;
     QStringList savedQuestions;

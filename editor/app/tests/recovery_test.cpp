@@ -127,9 +127,7 @@ private slots:
         AddRect(child.Document(), {6, 6, 9, 9});
         QVERIFY(keeper.UpdateCopies());
         QCOMPARE(CopiesUnder(root).size(), 1);
-        const QFileInfo renamed(CopiesUnder(root).first());
-        QVERIFY(ReadBytes(renamed.path() + QLatin1Char('/') + renamed.completeBaseName() + QStringLiteral(".record"))
-                    .contains("/renamed.xml\n"));
+        QVERIFY(ReadBytes(CopiesUnder(root).first().chopped(4) + QStringLiteral(".record")).contains("/renamed.xml\n"));
     }
 
     void windowsTheUserClosesLoseTheirCopies()
@@ -205,8 +203,7 @@ private slots:
             const QDateTime now = QDateTime::currentDateTimeUtc();
             QVERIFY(left->Write(1, {window, QStringLiteral("restored.xml"), now.addSecs(-2)}, content));
             QVERIFY(left->Write(2, {{}, QStringLiteral("Tamlo7"), now.addSecs(-1)}, content));
-            QVERIFY(left->Write(3, {sandbox.filePath(QStringLiteral("broken.xml")), QStringLiteral("broken.xml"), now},
-                                "<hmiwidget"));
+            QVERIFY(left->Write(3, {sandbox.filePath("broken.xml"), "broken.xml", now}, "<hmiwidget"));
         }
 
         StartedEditor editor(RecoveryAnswer::Restore, window);
@@ -238,20 +235,19 @@ private slots:
         const QDateTime copiedAt(QDate(2026, 5, 6), QTime(7, 8, 9));
         const QList<RecoveryCopy> copies = {{{QStringLiteral("/p/main.xml"), QStringLiteral("main.xml"), copiedAt}, {}},
                                             {{{}, QStringLiteral("Tamlo2"), copiedAt}, {}}};
-        {
-            const CRecoveryDialog dialog(copies);
-            const auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("recoveryList"));
-            QStringList cells;
-            for (int row = 0; row < list->topLevelItemCount(); ++row)
-                for (int column = 0; column < list->columnCount(); ++column)
-                    cells << list->topLevelItem(row)->text(column);
-            QCOMPARE(cells, QStringList({"main.xml", "/p/main.xml", "2026-05-06 07:08:09", "Tamlo2", "(never saved)",
-                                         "2026-05-06 07:08:09"}));
-        }
-        const std::pair<QString, RecoveryAnswer> choices[] = {{QStringLiteral("&Restore"), RecoveryAnswer::Restore},
-                                                              {QStringLiteral("&Discard"), RecoveryAnswer::Discard},
-                                                              {QStringLiteral("Decide &Later"), RecoveryAnswer::Later},
-                                                              {QString(), RecoveryAnswer::Later}};
+        const CRecoveryDialog shown(copies);
+        const auto* list = shown.findChild<QTreeWidget*>(QStringLiteral("recoveryList"));
+        QStringList cells;
+        for (int row = 0; row < list->topLevelItemCount(); ++row)
+            for (int column = 0; column < list->columnCount(); ++column)
+                cells << list->topLevelItem(row)->text(column);
+        QCOMPARE(cells, QStringList({"main.xml", "/p/main.xml", "2026-05-06 07:08:09", "Tamlo2", "(never saved)",
+                                     "2026-05-06 07:08:09"}));
+
+        // No button is Escape.
+        using enum RecoveryAnswer;
+        const std::pair<QString, RecoveryAnswer> choices[] = {
+            {"&Restore", Restore}, {"&Discard", Discard}, {"Decide &Later", Later}, {QString(), Later}};
         for (const auto& [button, answer] : choices) {
             CRecoveryDialog dialog(copies);
             dialog.show();

@@ -108,14 +108,12 @@ private:
     }
     bool EditBinding(COptionTreeItem& row) { return EditDynamicProperty(nullptr, *m_widget, row, Services()); }
 
-    // Saves the document and returns the text between `<tag>` and `</tag>` of m_widget's element.
-    // How each kind of binding is written is pinned by the window file tests; the tests here
-    // compare saved text for what the dialogs composed and where line ends have to be kept.
+    // The text between `<tag>` and `</tag>` of m_widget's element in the window file. How each
+    // kind of binding is written is pinned by the window file tests; the tests here compare the
+    // file's text for what the dialogs composed and where line ends have to be kept.
     std::string SavedSection(const std::string& tag)
     {
-        if (!m_document->Save(m_folder.Path("window.xml")))
-            return "(not saved)";
-        const std::string file = m_folder.Read("window.xml");
+        const std::string file = m_document->Serialize();
         const std::string open = "\t\t<" + tag + ">\r\n";
         const std::size_t start = file.find(open, file.find("\t<widget name=\"" + m_widget->GetWidgetName() + "\""));
         const std::size_t end = file.find("\t\t</" + tag + ">\r\n", start);
@@ -127,9 +125,7 @@ private:
     DynamicDialogServices Services()
     {
         return {[this](QWidget*) { return m_variable; },
-                [this](const QColor&, QWidget*) {
-                    return m_colorChoices.isEmpty() ? QColor() : m_colorChoices.takeFirst();
-                }};
+                [this](const QColor&, QWidget*) { return m_colors.isEmpty() ? QColor() : m_colors.takeFirst(); }};
     }
 
     std::unique_ptr<CTamloDoc> m_document;
@@ -137,8 +133,8 @@ private:
     CHmiWidget* m_widget = nullptr;
     MemoryOptionItem* m_row = nullptr;
     TempDir m_folder;
-    QList<QColor> m_colorChoices;        // what the colour chooser answers, in turn
-    std::optional<QString> m_variable;   // what the variable picker answers
+    QList<QColor> m_colors;             // what the colour chooser answers, in turn
+    std::optional<QString> m_variable; // what the variable picker answers
 
 private slots:
     void initTestCase() { RegisterBuiltinWidgetClasses(); }
@@ -148,7 +144,7 @@ private slots:
         m_document = std::make_unique<CTamloDoc>();
         m_document->OnNewDocument();
         m_tree.items.clear();
-        m_colorChoices.clear();
+        m_colors.clear();
         m_variable.reset();
     }
 
@@ -159,7 +155,7 @@ private slots:
         Add("rectangle", "fillcolor");
         m_variable = "$plc.temperature";
         // Default colour red, then the levels green, blue and yellow (0x00BBGGRR in the file).
-        m_colorChoices = {Qt::red, Qt::green, Qt::blue, Qt::yellow};
+        m_colors = {Qt::red, Qt::green, Qt::blue, Qt::yellow};
         QString composed = "(($plc.temperature)>=(10))?((($plc.temperature)>=(20))?((($plc.temperature)>=(30))?"
                            "0xffff:0xff0000):0xff00):0xff";
         QVERIFY(EditBinding([&composed](CDynPropertyDialog& dialog) {
@@ -257,7 +253,7 @@ private slots:
     void deletingABinding()
     {
         Add("rectangle", "fillcolor");
-        m_colorChoices = {Qt::green, Qt::blue};
+        m_colors = {Qt::green, Qt::blue};
         QVERIFY(EditBinding([](CDynPropertyDialog& dialog) {
             TypeInto(dialog.findChild<QLineEdit*>("expression"), "$plc.burner.flame");
             WhenModal<CDynColorDialog>([](CDynColorDialog& colors) {
@@ -335,6 +331,7 @@ private slots:
                  "\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[" + code + "]]>\n\t\t\t</event>\r\n");
 
         // Cancel changes nothing.
+        m_document->SetModifiedFlag(false);
         QVERIFY(!edit([](CEventEditDialog& dialog) {
             QTest::keyClicks(dialog.CodeEdit(), "lost();");
             dialog.reject();

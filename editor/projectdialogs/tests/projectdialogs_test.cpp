@@ -129,13 +129,10 @@ private:
             qFatal("no row %s of %s in %s", label.c_str(), name.c_str(), qPrintable(file));
     }
 
-    // Saves the document and returns the `property` line of that name inside m_widget's element.
+    // The `property` line of that name inside m_widget's element of the window file.
     QByteArray SavedProperty(const std::string& property)
     {
-        const std::string path = m_document->GetPathName();
-        if (!m_document->Save(path))
-            return "not saved";
-        const QByteArray bytes = ReadFile(QFile::decodeName(QByteArray::fromStdString(path)));
+        const QByteArray bytes = QByteArray::fromStdString(m_document->Serialize());
         const QByteArray name = QByteArray::fromStdString(m_widget->GetWidgetName());
         const qsizetype widget = bytes.indexOf("<widget name=\"" + name + "\"");
         const qsizetype start = bytes.indexOf("<property name=\"" + QByteArray::fromStdString(property) + "\"", widget);
