@@ -79,8 +79,7 @@ private slots:
     {
         CTamloApp editor(prompts, QStringLiteral("missing-test"));
         prompts.errors.clear();
-        QCOMPARE(editor.Start(Arguments(sandbox.filePath(QStringLiteral("none.xml")))),
-                 CTamloApp::StartResult::Failed);
+        QCOMPARE(editor.Start(Arguments(sandbox.filePath("none.xml"))), CTamloApp::StartResult::Failed);
         QCOMPARE(prompts.errors.size(), 1);
     }
 

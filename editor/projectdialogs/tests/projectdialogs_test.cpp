@@ -50,13 +50,6 @@ QByteArray PropertyLine(const char* name, const char* type, const QByteArray& va
     return line + "value=\"" + value + "\" />";
 }
 
-// The tree item with this text, wherever it stands.
-QTreeWidgetItem* TreeItem(QTreeWidget& tree, const QString& text)
-{
-    const QList<QTreeWidgetItem*> found = tree.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
-    return found.isEmpty() ? nullptr : found.front();
-}
-
 // Each row of a table, or of a tree's top level, as its cells joined by "|".
 QStringList Rows(const QAbstractItemModel& model)
 {
@@ -70,23 +63,21 @@ QStringList Rows(const QAbstractItemModel& model)
     return rows;
 }
 
-// The entries of a check list, or the choices offered to one, as "name" or "[x] name".
-QString Entry(const QString& name, bool checked) { return (checked ? "[x] " : "") + name; }
-
-QStringList Entries(const QListWidget& list)
-{
-    QStringList entries;
-    for (int row = 0; row < list.count(); ++row)
-        entries << Entry(list.item(row)->text(), list.item(row)->checkState() == Qt::Checked);
-    return entries;
-}
-
+// The choices offered to a check list as "name" or "[x] name", and the entries it shows.
 QStringList Entries(const std::vector<FieldChoice>& choices)
 {
     QStringList entries;
     for (const FieldChoice& choice : choices)
-        entries << Entry(QString::fromStdString(choice.field), choice.checked);
+        entries << (choice.checked ? "[x] " : "") + QString::fromStdString(choice.field);
     return entries;
+}
+
+QStringList Entries(const QListWidget& list)
+{
+    std::vector<FieldChoice> shown;
+    for (int row = 0; row < list.count(); ++row)
+        shown.push_back({list.item(row)->text().toStdString(), list.item(row)->checkState() == Qt::Checked});
+    return Entries(shown);
 }
 
 // Makes an entry current by a click and toggles its check box with the space bar.
@@ -96,15 +87,17 @@ void ToggleEntry(QListWidget& list, int row)
     QTest::keyClick(&list, Qt::Key_Space);
 }
 
-// Picks a tree node and a row of its list with the mouse, as a user of the picker does.
-void ChooseVariable(QDialog& dialog, const QString& node, int row)
+// Picks a tree node, wherever it stands, and a row of its list (unless none is given) with the
+// mouse, as a user of the picker does.
+void ChooseVariable(QDialog& dialog, const QString& node, int row = -1)
 {
     auto& tree = *dialog.findChild<QTreeWidget*>();
-    QTreeWidgetItem* item = TreeItem(tree, node);
-    QVERIFY(item);
-    ClickCell(tree, tree.indexFromItem(item));
+    const QList<QTreeWidgetItem*> found = tree.findItems(node, Qt::MatchExactly | Qt::MatchRecursive);
+    QVERIFY(!found.isEmpty());
+    ClickCell(tree, tree.indexFromItem(found.front()));
     auto& list = *dialog.findChild<QTableWidget*>();
-    ClickCell(list, list.model()->index(row, 1));
+    if (row >= 0)
+        ClickCell(list, list.model()->index(row, 1));
 }
 
 } // namespace
@@ -201,8 +194,7 @@ private slots:
         const std::optional<QString> none = PickVariable(nullptr, database, DriveWith([](QDialog& dialog) {
             ClickButton(dialog, "OK");
             QVERIFY2(dialog.isVisible(), "OK without a node and a row keeps the dialog open");
-            auto& tree = *dialog.findChild<QTreeWidget*>();
-            ClickCell(tree, tree.indexFromItem(TreeItem(tree, "in")));
+            ChooseVariable(dialog, "in");
             ClickButton(dialog, "OK");
             QVERIFY2(dialog.isVisible(), "a node alone is not enough");
             ClickButton(dialog, "Cancel");

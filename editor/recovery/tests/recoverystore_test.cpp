@@ -147,23 +147,19 @@ private slots:
     {
         const QString path = QStringLiteral("/p/odd name=%41\nline two/\u00e9\u6e29\u5ea6.xml");
         const QString name = QStringLiteral("odd name=%41\n\u6e29\u5ea6");
-        auto session = NewSession(root);
-        QVERIFY(session->Write(1, Record(path, name), "x"));
-        session.reset();
+        QVERIFY(NewSession(root)->Write(1, Record(path, name), "x"));
         QCOMPARE(Described(CAbandonedCopies(root).Copies()), QStringList{path + " | " + name + " | x"});
     }
 
     void damagedCopiesOfferWhatTheyStillHold()
     {
-        auto session = NewSession(root);
-        const QString folder = session->Folder();
-        session.reset();
-        QVERIFY(WriteBytes(folder + QStringLiteral("/1.xml"), "content without a record"));
-        QVERIFY(WriteBytes(folder + QStringLiteral("/2.xml"), "content with a damaged record"));
-        QVERIFY(WriteBytes(folder + QStringLiteral("/2.record"), "path\ncopied=yesterday\n\xff\xfe=%%%\n"));
-        QVERIFY(WriteBytes(folder + QStringLiteral("/3.record"), "path=/p/gone.xml\n"));
-        QVERIFY(WriteBytes(folder + QStringLiteral("/1.xml.Ab12Cd"), "a write that never finished"));
-        QVERIFY(WriteBytes(folder + QStringLiteral("/notes.xml"), "not a copy"));
+        const QString folder = NewSession(root)->Folder();
+        const std::pair<const char*, QByteArray> files[] = {
+            {"/1.xml", "content without a record"}, {"/2.xml", "content with a damaged record"},
+            {"/2.record", "path\ncopied=yesterday\n\xff\xfe=%%%\n"}, {"/3.record", "path=/p/gone.xml\n"},
+            {"/1.xml.Ab12Cd", "a write that never finished"}, {"/notes.xml", "not a copy"}};
+        for (const auto& [name, bytes] : files)
+            QVERIFY(WriteBytes(folder + name, bytes));
         const QDateTime written = QFileInfo(folder + QStringLiteral("/1.xml")).lastModified();
 
         // Without a readable record, a copy is named after its id and dated by its file.

@@ -115,11 +115,9 @@ private slots:
     void aHandOverNeedsARunningEditor()
     {
         const QTemporaryDir dir;
-        QVERIFY(dir.isValid());
         const QString name = dir.filePath(QStringLiteral("editor"));
         QVERIFY(!CInstanceGuard::HandOver(name, "/home/op/window.xml"));
         QVERIFY(MakeStaleSocket(QFile::encodeName(name)));
-        QVERIFY(QFile::exists(name));
         QVERIFY(!CInstanceGuard::HandOver(name, "/home/op/window.xml"));
         {
             CInstanceGuard running(name);
