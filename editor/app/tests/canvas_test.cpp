@@ -71,13 +71,12 @@ private slots:
         CHmiWidget* a = AddRect(*document, {10, 10, 50, 50});
         CHmiWidget* b = AddRect(*document, {100, 10, 140, 50});
         CHmiWidget* c = AddRect(*document, {300, 300, 340, 340});
-        CPropertyPane& pane = editor->frame.PropertyPane();
         Drag(view, QPoint(5, 5), QPoint(150, 60));
         QCOMPARE(Selected(), (std::vector<CHmiWidget*>{a, b}));
         Click(view, QPoint(200, 200));
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{document->FindWindowWidget()});
         Click(view, QPoint(20, 20));
-        QCOMPARE(pane.CurrentWidget(), a);
+        QCOMPARE(editor->frame.PropertyPane().CurrentWidget(), a);
         Drag(view, QPoint(290, 290), QPoint(350, 350), Qt::ShiftModifier);
         QCOMPARE(Selected(), (std::vector<CHmiWidget*>{a, c}));
         QTest::mouseDClick(view, Qt::LeftButton, Qt::ShiftModifier, QPoint(310, 310)); // takes c out
@@ -92,31 +91,26 @@ private slots:
         QCOMPARE(RectOf(a), (HmiRect{25, 15, 65, 55}));
         QCOMPARE(RectOf(b), (HmiRect{115, 15, 155, 55}));
         QVERIFY(child->isWindowModified());
-        QCOMPARE(pane.FindItem("Left")->GetEditText(), std::to_string(RectOf(b).left));
+        QCOMPARE(editor->frame.PropertyPane().FindItem("Left")->GetEditText(), std::to_string(RectOf(b).left));
         Press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(RectOf(a), (HmiRect{10, 10, 50, 50}));
     }
 
-    void aHandleShowsItsCursorAndResizes()
+    // What the handles, the keys and a locked canvas do is tested with the tools; here, that the
+    // mouse, the keys and the lock's action reach them and that the lock belongs to its canvas.
+    void handlesAndArrowKeysResizeUnlessTheCanvasIsLocked()
     {
-        CHmiWidget* widget = AddRect(*document, {100, 100, 200, 160});
+        CHmiWidget* a = AddRect(*document, {10, 10, 50, 50});
+        CHmiWidget* b = AddRect(*document, {100, 100, 200, 160});
         Click(view, QPoint(150, 130));
         QTest::mouseMove(view, QPoint(600, 600));
-        const QLabel* position = editor->frame.findChild<QLabel*>(QStringLiteral("cursorPosition"));
-        QCOMPARE(position->text(), QStringLiteral("600, 600"));
+        QCOMPARE(editor->frame.findChild<QLabel*>("cursorPosition")->text(), QStringLiteral("600, 600"));
         QCOMPARE(view->cursor().shape(), Qt::ArrowCursor);
         QTest::mouseMove(view, QPoint(200, 160));
         QCOMPARE(view->cursor().shape(), Qt::SizeFDiagCursor);
         Drag(view, QPoint(200, 160), QPoint(210, 170));
-        QCOMPARE(RectOf(widget), (HmiRect{100, 100, 210, 170}));
-    }
+        QCOMPARE(RectOf(b), (HmiRect{100, 100, 210, 170}));
 
-    // What a locked canvas keeps is tested with the tools; here, that the keys and the lock's
-    // action reach them and that the lock belongs to its canvas.
-    void arrowKeysMoveAndResizeUnlessTheCanvasIsLocked()
-    {
-        CHmiWidget* a = AddRect(*document, {10, 10, 50, 50});
-        AddRect(*document, {100, 10, 140, 50});
         Click(view, QPoint(20, 20));
         Press(Qt::Key_Right);
         Press(Qt::Key_Down);
@@ -137,9 +131,9 @@ private slots:
         QCOMPARE(RectOf(a), (HmiRect{10, 10, 51, 49}));
 
         // Format commands still work on a locked canvas.
-        Click(view, QPoint(110, 20), Qt::ControlModifier);
+        Click(view, QPoint(150, 130), Qt::ControlModifier);
         editor->frame.findChild<QAction*>(QStringLiteral("actionAlignBottom"))->trigger();
-        QCOMPARE(RectOf(a), (HmiRect{10, 11, 51, 50}));
+        QCOMPARE(RectOf(a), (HmiRect{10, 131, 51, 170}));
 
         // Another window starts unlocked and shows it so.
         CChildFrame& other = editor->NewWindow();

@@ -109,21 +109,8 @@ private slots:
         QVERIFY(!document.CanUndo());
     }
 
-    void closingAModifiedWindowAsksToSave()
-    {
-        CChildFrame& child = editor->NewWindow();
-        AddRect(child.Document(), {0, 0, 10, 10});
-        editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Cancel;
-        QVERIFY(!child.close());
-        QCOMPARE(editor->prompts.savedQuestions, QStringList{child.DisplayName()});
-
-        editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Save;
-        editor->prompts.saveFileName = FilePath(QStringLiteral("saved.xml"));
-        QVERIFY(child.close());
-        QCOMPARE(editor->frame.RecentFiles().Files(), QStringList{FilePath(QStringLiteral("saved.xml"))});
-    }
-
-    void aFailedSaveSaysWhyAndKeepsTheDocumentModified()
+    // A save that fails says why and keeps the window modified and unnamed; closing asks first.
+    void savingOrClosingAModifiedWindow()
     {
         CChildFrame& child = editor->NewWindow();
         AddRect(child.Document(), {0, 0, 10, 10});
@@ -133,6 +120,14 @@ private slots:
         QVERIFY(editor->prompts.errors.first().contains(QStringLiteral("missing/window.xml")));
         QVERIFY(child.Document().IsModified());
         QVERIFY(child.DisplayName().startsWith(QStringLiteral("Tamlo")));
+
+        editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Cancel;
+        QVERIFY(!child.close());
+        QCOMPARE(editor->prompts.savedQuestions, QStringList{child.DisplayName()});
+        editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Save;
+        editor->prompts.saveFileName = FilePath(QStringLiteral("saved.xml"));
+        QVERIFY(child.close());
+        QCOMPARE(editor->frame.RecentFiles().Files(), QStringList{FilePath(QStringLiteral("saved.xml"))});
     }
 
     void quittingAsksForEveryModifiedWindow()

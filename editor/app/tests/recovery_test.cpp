@@ -174,8 +174,7 @@ private slots:
 
     void leftWindowsWaitUntilTheUserDecides()
     {
-        const RecoveryRecord untitled = {{}, QStringLiteral("Tamlo1"), QDateTime::currentDateTimeUtc()};
-        QVERIFY(NewSession(root)->Write(1, untitled, "<hmiwidget/>"));
+        QVERIFY(NewSession(root)->Write(1, {{}, "Tamlo1", QDateTime::currentDateTimeUtc()}, "<hmiwidget/>"));
         const QString demo = CTamloApp::DemoProjectFolder() + QStringLiteral("/main.xml");
         for (const RecoveryAnswer answer : {RecoveryAnswer::Later, RecoveryAnswer::Later, RecoveryAnswer::Discard}) {
             StartedEditor editor(answer, demo);

@@ -191,15 +191,14 @@ private slots:
         QCOMPARE(database.ReadRealtimeDatabase(QFile::encodeName(m_elsewhere->filePath("rtdb.xml")).toStdString()), 1);
         QCOMPARE(database.ReadHmiDatabase(QFile::encodeName(m_elsewhere->filePath("hmidb.xml")).toStdString()), 1);
 
-        const std::optional<QString> none = PickVariable(nullptr, database, DriveWith([](QDialog& dialog) {
+        QCOMPARE(PickVariable(nullptr, database, DriveWith([](QDialog& dialog) {
             ClickButton(dialog, "OK");
             QVERIFY2(dialog.isVisible(), "OK without a node and a row keeps the dialog open");
             ChooseVariable(dialog, "in");
             ClickButton(dialog, "OK");
             QVERIFY2(dialog.isVisible(), "a node alone is not enough");
             ClickButton(dialog, "Cancel");
-        }));
-        QCOMPARE(none, std::nullopt);
+        })), std::nullopt);
 
         // Each node shows the columns of its kind of data; OK gives the chosen row's reference.
         const struct {
@@ -212,12 +211,11 @@ private slots:
             {"Custom data", {"speed|unsigned short|2|5"}, "$speed"},
         };
         for (const auto& pick : picks) {
-            const std::optional<QString> picked = PickVariable(nullptr, database, DriveWith([&pick](QDialog& dialog) {
+            QCOMPARE(PickVariable(nullptr, database, DriveWith([&pick](QDialog& dialog) {
                 ChooseVariable(dialog, pick.node, 0);
                 QCOMPARE(Rows(*dialog.findChild<QTableWidget*>()->model()), pick.rows);
                 ClickButton(dialog, "OK");
-            }));
-            QCOMPARE(picked, std::optional<QString>(pick.reference));
+            })), std::optional<QString>(pick.reference));
         }
     }
 
@@ -235,8 +233,9 @@ private slots:
         QVERIFY(!Select([](QDialog& dialog) { ClickButton(dialog, "Cancel"); }));
     }
 
-    // "Project Window Information"
-    void projectDialogListsWindowsLastToFirst()
+    // "Project Window Information": the windows last to first; a browsed folder's windows, and
+    // its path stays the project even when the dialog is cancelled.
+    void projectDialogListsTheWindowsOfTheProjectOrABrowsedFolder()
     {
         m_context.runDialog = DriveWith([this](QDialog& dialog) {
             QCOMPARE(dialog.findChild<QLineEdit*>()->text(), m_project->path() + "/");
@@ -248,20 +247,9 @@ private slots:
             ClickButton(dialog, "OK");
         });
         QCOMPARE(ChooseProjectWindow(nullptr, m_context), std::optional<std::string>(GetProjectPath() + "pumps.xml"));
-
         m_context.runDialog = DriveWith([](QDialog& dialog) { ClickButton(dialog, "OK"); });
         QVERIFY2(!ChooseProjectWindow(nullptr, m_context), "OK without a window gives none");
-        SetProjectPath("");
-        m_context.runDialog = DriveWith([](QDialog& dialog) {
-            QCOMPARE(dialog.findChild<QTreeWidget*>()->topLevelItemCount(), 0);
-            QCOMPARE(dialog.findChild<QLineEdit*>()->text(), QString());
-            ClickButton(dialog, "OK");
-        });
-        QVERIFY2(!ChooseProjectWindow(nullptr, m_context), "without a project there is no window to give");
-    }
 
-    void browsedProjectPathStaysAfterCancel()
-    {
         WriteFile(m_elsewhere->filePath("hmiwindow.xml"),
                   "<hmiwindow><window name=\"A\" caption=\"a\" filename=\"a.xml\"/><window name=\"B\"/></hmiwindow>");
         QStringList browsedFrom;
@@ -283,6 +271,14 @@ private slots:
         QCOMPARE(ChooseProjectWindow(nullptr, m_context), std::nullopt);
         QCOMPARE(browsedFrom, QStringList({QDir::currentPath(), QDir::currentPath()}));
         QCOMPARE(GetProjectPath(), QFile::encodeName(m_elsewhere->path()).toStdString() + "/");
+
+        SetProjectPath("");
+        m_context.runDialog = DriveWith([](QDialog& dialog) {
+            QCOMPARE(dialog.findChild<QTreeWidget*>()->topLevelItemCount(), 0);
+            QCOMPARE(dialog.findChild<QLineEdit*>()->text(), QString());
+            ClickButton(dialog, "OK");
+        });
+        QVERIFY2(!ChooseProjectWindow(nullptr, m_context), "without a project there is no window to give");
     }
 
     // "Setting Alarm Field" and "History Data Variable": an alarm window's standard field is

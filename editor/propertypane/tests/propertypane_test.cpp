@@ -126,7 +126,7 @@ private slots:
         doc.reset();
     }
 
-    void eachKindOfRowHasItsEditorAndButtons()
+    void eachKindOfRowHasItsEditorAndButtonsThatAskForTheirDialogs()
     {
         auto* button = Add<CHmiWidgetButton>("button");
         button->m_strCaption = "Start";
@@ -137,14 +137,57 @@ private slots:
         QCOMPARE(EditorOf<QLineEdit>("Caption")->text(), QString("Start"));
         QVERIFY(EditorOf<QCheckBox>("Visible")->isChecked());
         QCOMPARE(EditorOf<QComboBox>("Type")->currentText(), QString("Normal"));
-        QVERIFY(EditorOf<QPushButton>("Backcolor"));
+        QVERIFY(EditorOf<QPushButton>("Backcolor") && EditorOf<QLabel>("Button Down"));
         QVERIFY(EditorOf<QLineEdit>("Var Name"));
-        QVERIFY(EditorOf<QLabel>("Button Down"));
 
-        // Only bindable rows have the binding button; plain edit rows have no other. Which rows
-        // have one is in rowButtonsAskForTheirDialogs.
+        // Only bindable rows have the binding button; plain edit rows have no other.
         QVERIFY(!Row("Name")->BindButton());
         QVERIFY(!Row("Left")->BrowseButton());
+
+        // Each row button asks for its dialog.
+        auto* root = pane->CreateNewRootItem("Extra", "");
+        root->Expand();
+        pane->CreateNewItem(OptionItemKind::File, root, "Picture", "");
+        pane->CreateNewItem(OptionItemKind::Font, root, "Face", "")->SetStaticText("Serif, 12");
+        QCoreApplication::processEvents();
+
+        const struct {
+            const char* caption;
+            void (CPropertyPane::*signal)(COptionTreeItem*);
+            QToolButton* (CPropertyPaneItem::*button)() const;
+        } cases[] = {
+            {"Left", &CPropertyPane::dynPropEditRequested, &CPropertyPaneItem::BindButton},
+            {"Button Down", &CPropertyPane::eventEditRequested, &CPropertyPaneItem::BrowseButton},
+            {"Var Name", &CPropertyPane::selectItemRequested, &CPropertyPaneItem::BrowseButton},
+            {"Picture", &CPropertyPane::fileRequested, &CPropertyPaneItem::BrowseButton},
+            {"Face", &CPropertyPane::fontRequested, &CPropertyPaneItem::BrowseButton},
+        };
+        QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
+        for (const auto& c : cases) {
+            QSignalSpy requested(pane.get(), c.signal);
+            CPropertyPaneItem* item = Row(c.caption);
+            QToolButton* rowButton = (item->*c.button)();
+            QVERIFY2(rowButton, c.caption);
+            QTest::mouseClick(rowButton, Qt::LeftButton);
+            QVERIFY2(requested.count() == 1, c.caption);
+            QCOMPARE(requested.first().first().value<COptionTreeItem*>(), static_cast<COptionTreeItem*>(item));
+        }
+        QCOMPARE(changed.count(), 0); // a button only asks; nothing is changed yet
+
+        // The variable chooser answered: the main frame puts the name in the row and commits it.
+        connect(pane.get(), &CPropertyPane::selectItemRequested, pane.get(), [this](COptionTreeItem* item) {
+            item->SetEditText("$rtdb.pump1");
+            pane->CommitItem(item);
+        });
+        QTest::mouseClick(Row("Var Name")->BrowseButton(), Qt::LeftButton);
+        QCOMPARE(button->m_strVarName, std::string("$rtdb.pump1"));
+        QCOMPARE(changed.count(), 1);
+
+        // A row of a pane that has since been rebuilt is no longer applied.
+        COptionTreeItem* stale = Row("Var Name");
+        Show(button);
+        pane->CommitItem(stale);
+        QCOMPARE(changed.count(), 1);
     }
 
     void boundPropertiesAreMarkedRedInTheExtraColumn()
@@ -168,16 +211,6 @@ private slots:
         QCOMPARE(ExtraColumnPixel("Top"), kBoundColor);
         QCOMPARE(ExtraColumnPixel("Left"), kFaceColor);
         QCOMPARE(edited.count(), 1);
-    }
-
-    void descriptionFollowsTheCurrentRow()
-    {
-        Show(Add<CHmiWidgetRect>("rectangle"));
-        QTest::mouseClick(EditorOf<QCheckBox>("Visible"), Qt::LeftButton);
-        QCOMPARE(pane->DescriptionText(), QString("Is widget visible"));
-        QTest::mouseClick(EditorOf<QLineEdit>("Width"), Qt::LeftButton);
-        QTest::keyClick(EditorOf<QLineEdit>("Width"), Qt::Key_Tab); // focus moves on to the Height row
-        QCOMPARE(pane->DescriptionText(), QString("Height"));
     }
 
     // The rules for each row are tested with the widget's property list; here, that the pane
@@ -210,11 +243,16 @@ private slots:
         }
     }
 
-    void checkBoxesCombosAndColoursCommitTheUsersChoice()
+    // The description follows the current row, whichever way it became current.
+    void editorsCommitTheUsersChoiceAndTheDescriptionFollows()
     {
         auto* rect = Show(Add<CHmiWidgetRect>("rectangle"));
         QTest::mouseClick(EditorOf<QCheckBox>("Visible"), Qt::LeftButton);
         QCOMPARE(rect->m_bVisible, std::uint8_t(0));
+        QCOMPARE(pane->DescriptionText(), QString("Is widget visible"));
+        QTest::mouseClick(EditorOf<QLineEdit>("Width"), Qt::LeftButton);
+        QTest::keyClick(EditorOf<QLineEdit>("Width"), Qt::Key_Tab); // focus moves on to the Height row
+        QCOMPARE(pane->DescriptionText(), QString("Height"));
 
         // The chooser starts from the white fill.
         pane->SetColorChooser([](const QColor& initial, QWidget*) {
@@ -268,54 +306,6 @@ private slots:
         // document learns the name typed in the pane.
         Type(EditorOf<QLineEdit>("Name"), "tank");
         QVERIFY(doc->HasWidgetName("tank"));
-    }
-
-    void rowButtonsAskForTheirDialogs()
-    {
-        auto* button = Show(Add<CHmiWidgetButton>("button"));
-        auto* root = pane->CreateNewRootItem("Extra", "");
-        root->Expand();
-        pane->CreateNewItem(OptionItemKind::File, root, "Picture", "");
-        pane->CreateNewItem(OptionItemKind::Font, root, "Face", "")->SetStaticText("Serif, 12");
-        QCoreApplication::processEvents();
-
-        const struct {
-            const char* caption;
-            void (CPropertyPane::*signal)(COptionTreeItem*);
-            QToolButton* (CPropertyPaneItem::*button)() const;
-        } cases[] = {
-            {"Left", &CPropertyPane::dynPropEditRequested, &CPropertyPaneItem::BindButton},
-            {"Button Down", &CPropertyPane::eventEditRequested, &CPropertyPaneItem::BrowseButton},
-            {"Var Name", &CPropertyPane::selectItemRequested, &CPropertyPaneItem::BrowseButton},
-            {"Picture", &CPropertyPane::fileRequested, &CPropertyPaneItem::BrowseButton},
-            {"Face", &CPropertyPane::fontRequested, &CPropertyPaneItem::BrowseButton},
-        };
-        QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
-        for (const auto& c : cases) {
-            QSignalSpy requested(pane.get(), c.signal);
-            CPropertyPaneItem* item = Row(c.caption);
-            QToolButton* rowButton = (item->*c.button)();
-            QVERIFY2(rowButton, c.caption);
-            QTest::mouseClick(rowButton, Qt::LeftButton);
-            QVERIFY2(requested.count() == 1, c.caption);
-            QCOMPARE(requested.first().first().value<COptionTreeItem*>(), static_cast<COptionTreeItem*>(item));
-        }
-        QCOMPARE(changed.count(), 0); // a button only asks; nothing is changed yet
-
-        // The variable chooser answered: the main frame puts the name in the row and commits it.
-        connect(pane.get(), &CPropertyPane::selectItemRequested, pane.get(), [this](COptionTreeItem* item) {
-            item->SetEditText("$rtdb.pump1");
-            pane->CommitItem(item);
-        });
-        QTest::mouseClick(Row("Var Name")->BrowseButton(), Qt::LeftButton);
-        QCOMPARE(button->m_strVarName, std::string("$rtdb.pump1"));
-        QCOMPARE(changed.count(), 1);
-
-        // A row of a pane that has since been rebuilt is no longer applied.
-        COptionTreeItem* stale = Row("Var Name");
-        Show(button);
-        pane->CommitItem(stale);
-        QCOMPARE(changed.count(), 1);
     }
 
     void valuesSetByTheProgramAreNotReportedAsEdits()
