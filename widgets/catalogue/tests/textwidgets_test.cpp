@@ -1,7 +1,6 @@
-// The button, text and input widgets and the picture: their file lines, the reading rules and
-// their drawing steps.
+// The drawing steps of the button, text and input widgets and the picture, and how a picture
+// file comes into the project.
 
-#include "ownproperties.h"
 #include "tests/support/fulldiskscope.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/recordingdc.h"
@@ -17,31 +16,6 @@
 
 #include <filesystem>
 #include <sys/stat.h>
-
-namespace {
-
-std::string Line(const char* name, const char* type, const std::string& value, const char* length = nullptr)
-{
-    std::string line = std::string("\t\t\t<property name=\"") + name + "\" type=\"" + type + "\" ";
-    if (length)
-        line += std::string("length=\"") + length + "\" ";
-    return line + "value=\"" + value + "\" />\n";
-}
-
-} // namespace
-
-TEST(Button, KeepsTheCaptionLengthItReadsAndReadsHexColours)
-{
-    CHmiWidgetButton button;
-    button.SetWidgetProperty("caption", "string", "Start", "24");
-    button.SetWidgetProperty("back_color", "ulong", "0x00FF00", "");
-    button.SetWidgetProperty("font_size", "ulong", "16", "");
-    EXPECT_EQ(button.m_backColor, 0xFF00u);
-    EXPECT_EQ(button.m_nFontSize, 3) << "the fourth size";
-    const std::string lines = OwnPropertyLines(button);
-    EXPECT_NE(lines.find(Line("caption", "string", "Start", "24")), std::string::npos);
-    EXPECT_NE(lines.find(Line("font_size", "ulong", "16")), std::string::npos);
-}
 
 TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
 {
@@ -65,9 +39,7 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     ASSERT_EQ(text.size(), 1u);
     EXPECT_EQ(text[0].text, "A&B");
     EXPECT_EQ(text[0].format, HMI_DT_CENTER | HMI_DT_VCENTER | HMI_DT_SINGLELINE | HMI_DT_NOPREFIX);
-    EXPECT_EQ(text[0].font.face, "MS Serif");
-    EXPECT_EQ(text[0].font.height, 12);
-    EXPECT_EQ(text[0].font.weight, 700);
+    EXPECT_EQ(std::tuple(text[0].font.face, text[0].font.height, text[0].font.weight), std::tuple("MS Serif", 12, 700));
     EXPECT_EQ(text[0].bkMode, HmiBkMode::Transparent);
     EXPECT_EQ(dc.font, HmiFont::DefaultGui()) << "the previous font is put back";
 
@@ -75,22 +47,6 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     RecordingDC noFont;
     button.Draw(noFont);
     EXPECT_EQ(noFont.ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
-}
-
-TEST(Text, ReadsAlignAndFontSizeBackToKnownValues)
-{
-    CHmiWidgetText text;
-    for (const char* value : {"0", "7"}) {
-        text.SetWidgetProperty("align", "ulong", value, "");
-        EXPECT_EQ(text.m_nAlign, 1) << value;
-    }
-    text.SetWidgetProperty("fontsize", "ulong", "10", "");
-    EXPECT_EQ(text.m_nFontSize, 0);
-    text.SetWidgetProperty("align", "ulong", "3", "");
-    text.SetWidgetProperty("fontsize", "ulong", "16", "");
-    text.SetWidgetProperty("text", "string", "Boiler", "40");
-    EXPECT_EQ(OwnPropertyLines(text), Line("color", "ulong", "0") + Line("text", "string", "Boiler", "40") +
-                                          Line("align", "ulong", "3") + Line("fontsize", "ulong", "16"));
 }
 
 TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
@@ -119,29 +75,6 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     RecordingDC none;
     text.Draw(none);
     EXPECT_TRUE(none.shapes.empty());
-}
-
-TEST(InputFields, ReadNumbersInEitherBaseAndFloatsAsTyped)
-{
-    CHmiWidgetNumInput number;
-    number.SetWidgetProperty("backcolor", "ulong", "0xFF", "");
-    number.SetWidgetProperty("intwidth", "ulong", "0x10", "");
-    number.SetWidgetProperty("minvalue", "float", "-12.5", "");
-    number.SetWidgetProperty("fontsize", "ulong", "16", "");
-    number.SetWidgetProperty("align", "ulong", "0", "");
-    number.SetWidgetProperty("password", "uchar", "1", "");
-    EXPECT_EQ(number.m_backColor, 0xFFu);
-    EXPECT_EQ(number.m_nIntWidth, 16);
-    EXPECT_FLOAT_EQ(number.m_fMinValue, -12.5f);
-    EXPECT_EQ(number.m_nFontSize, 3);
-    EXPECT_EQ(number.m_nAlign, 1);
-    EXPECT_EQ(number.m_bPassword, 1);
-
-    CHmiWidgetTextInput text;
-    text.SetWidgetProperty("align", "ulong", "3", "");
-    EXPECT_EQ(text.m_nAlign, 3);
-    text.SetWidgetProperty("align", "ulong", "4", "");
-    EXPECT_EQ(text.m_nAlign, 1);
 }
 
 TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
