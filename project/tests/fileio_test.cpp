@@ -24,11 +24,6 @@
 
 namespace {
 
-bool Contains(const std::string& text, std::string_view part)
-{
-    return text.find(part) != std::string::npos;
-}
-
 // A file of the given size that takes no room on disk.
 std::string WriteSparse(const TempDir& dir, std::string_view name, std::uint64_t size)
 {
@@ -59,7 +54,7 @@ TEST(ReadWholeFile, OpensRegularFilesWithinTheSizeLimitOnly)
     for (const auto& [path, reason] : cases) {
         const FileResult read = ReadWholeFile(path, bytes);
         EXPECT_FALSE(read) << path;
-        EXPECT_TRUE(Contains(read.error, path + ": " + reason)) << read.error;
+        EXPECT_NE(read.error.find(path + ": " + reason), std::string::npos) << read.error;
     }
 }
 
@@ -67,13 +62,12 @@ TEST(ReadWholeFile, StopsAtTheLimitWhenAFileHoldsMoreThanItsSizeTells)
 {
     // The page map of this process is a regular file of size 0 that reads on for gigabytes,
     // as a file does that grows while it is read.
-    const std::string pageMap = "/proc/self/pagemap";
-    if (::access(pageMap.c_str(), R_OK) != 0)
+    if (::access("/proc/self/pagemap", R_OK) != 0)
         GTEST_SKIP() << "no page map to read";
     std::string bytes;
-    const FileResult read = ReadWholeFile(pageMap, bytes);
+    const FileResult read = ReadWholeFile("/proc/self/pagemap", bytes);
     EXPECT_FALSE(read);
-    EXPECT_TRUE(Contains(read.error, "larger than the limit of 64 MiB")) << read.error;
+    EXPECT_NE(read.error.find("larger than the limit of 64 MiB"), std::string::npos) << read.error;
     EXPECT_TRUE(bytes.empty());
 }
 
@@ -169,7 +163,7 @@ TEST(WriteFileAtomically, RefusesWhatIsNotARegularFileOrIsReadOnlyAndChangesNoth
             result = WriteFileAtomically(path, "new bytes");
         }
         EXPECT_FALSE(result);
-        EXPECT_TRUE(Contains(result.error, path + ": " + target.reason)) << result.error;
+        EXPECT_NE(result.error.find(path + ": " + target.reason), std::string::npos) << result.error;
         EXPECT_EQ(SnapshotAll(dir), before);
     }
 }
@@ -202,8 +196,8 @@ TEST(WriteFileAtomically, RemovesTemporariesLeftByKilledSavesButNotThoseBeingWri
     EXPECT_TRUE(WriteFileAtomically(path, "new bytes"));
     ::close(writer);
     EXPECT_EQ(dir.Read("window.xml"), "new bytes");
-    const std::vector<std::string> kept{".other.xml.kelvo-save-Other1", ".window.xml.kelvo-save-Live01", "window.xml"};
-    EXPECT_EQ(dir.Entries(), kept);
+    EXPECT_EQ(dir.Entries(),
+              (std::vector<std::string>{".other.xml.kelvo-save-Other1", ".window.xml.kelvo-save-Live01", "window.xml"}));
 }
 
 namespace {
@@ -211,46 +205,33 @@ namespace {
 constexpr std::string_view kTemporaryPrefix = ".window.xml.kelvo-save-";
 
 // A process that saves the same large file over and over, killed when it goes out of scope.
-class SavingChild {
-public:
-    SavingChild(const std::string& path, const std::string& bytes)
+struct SavingChild {
+    SavingChild(const std::string& path, const std::string& bytes) : pid(::fork())
     {
-        m_pid = ::fork();
-        if (m_pid == 0) {
+        if (pid == 0) {
             ::prctl(PR_SET_PDEATHSIG, SIGKILL);
             for (;;)
                 WriteFileAtomically(path, bytes);
         }
-        m_exited = int(::syscall(SYS_pidfd_open, m_pid, 0));
+        exited = int(::syscall(SYS_pidfd_open, pid, 0));
     }
     ~SavingChild()
     {
         Kill();
-        ::close(m_exited);
+        ::close(exited);
     }
     SavingChild(const SavingChild&) = delete;
     SavingChild& operator=(const SavingChild&) = delete;
 
     void Kill()
     {
-        if (m_pid <= 0)
-            return;
-        ::kill(m_pid, SIGKILL);
-        ::waitpid(m_pid, nullptr, 0);
-        m_pid = 0;
+        if (pid > 0 && ::kill(pid, SIGKILL) == 0)
+            ::waitpid(std::exchange(pid, 0), nullptr, 0);
     }
-    void Stop()
-    {
-        ::kill(m_pid, SIGSTOP);
-        ::waitpid(m_pid, nullptr, WUNTRACED);
-    }
-    void Continue() { ::kill(m_pid, SIGCONT); }
-    // Readable once the child has ended.
-    int ExitedFd() const { return m_exited; }
+    void Stop() { ::kill(pid, SIGSTOP); ::waitpid(pid, nullptr, WUNTRACED); }
 
-private:
-    pid_t m_pid = 0;
-    int m_exited = -1;
+    pid_t pid;
+    int exited; // readable once the child has ended
 };
 
 // The name of the latest save temporary created in the watched folder, waiting for one; empty
@@ -259,7 +240,7 @@ std::string NextTemporary(int watch, const SavingChild& child)
 {
     std::string latest;
     while (latest.empty()) {
-        pollfd ready[] = {{watch, POLLIN, 0}, {child.ExitedFd(), POLLIN, 0}};
+        pollfd ready[] = {{watch, POLLIN, 0}, {child.exited, POLLIN, 0}};
         if (::poll(ready, 2, -1) <= 0 || ready[1].revents != 0)
             return {};
         alignas(inotify_event) char buffer[4096];
@@ -294,7 +275,7 @@ TEST(WriteFileAtomically, ASaveKilledMidWriteLeavesATemporaryThatTheNextSaveRemo
             child.Stop();
             if (std::filesystem::exists(dir.Path(created)))
                 break;
-            child.Continue();
+            ::kill(child.pid, SIGCONT);
         }
         child.Kill();
         const std::vector<std::string> entries = dir.Entries();
