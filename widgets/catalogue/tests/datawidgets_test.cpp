@@ -3,7 +3,6 @@
 // are pinned down by the catalogue reference.
 
 #include "ownproperties.h"
-#include "project/namelists.h"
 #include "project/projectpath.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/recordingdc.h"
@@ -92,16 +91,15 @@ struct ProjectNameTest : ::testing::Test {
 
 // A fixed sequence of samples for the curve preview, counting those taken.
 struct FixedSamples {
-    explicit FixedSamples(std::vector<int> values) : saved(CurveSettings::RandomSample())
+    explicit FixedSamples(std::vector<int> values)
+        : saved(std::exchange(CurveSettings::RandomSample(), [this, values] { return values[taken++ % values.size()]; }))
     {
-        CurveSettings::RandomSample() = [this, values]() { return values[taken++ % values.size()]; };
     }
     ~FixedSamples() { CurveSettings::RandomSample() = saved; }
     FixedSamples(const FixedSamples&) = delete;
     FixedSamples& operator=(const FixedSamples&) = delete;
 
-    mutable std::size_t taken = 0;
-
+    std::size_t taken = 0;
     std::function<int()> saved;
 };
 
@@ -118,8 +116,7 @@ TEST(ControlWidgets, WriteWhatWasTypedAndShowTheFirstItemWithoutAControl)
     ASSERT_EQ(combobox.SetWidgetProperty("list", "string", "a,b,,c", ""), 1);
     EXPECT_TRUE(OwnPropertyLines(combobox).starts_with(PropertyLine("list", "string", "a,b,,c")));
     combobox.SetWidgetRect({0, 0, 100, 20});
-    RecordingDC combo;
-    combobox.Draw(combo);
+    const RecordingDC combo = DrawnBy(combobox);
     ASSERT_EQ(combo.ShapesOfKind("text").size(), 1u);
     EXPECT_EQ(combo.ShapesOfKind("text")[0].text, "a") << "the first item shows";
 }
@@ -154,8 +151,7 @@ TEST(CurvePreview, DrawsTheGridLabelsAndScaledSamples)
     curve.SetWidgetRect({0, 0, 260, 130});
     curve.m_nXPoints = 3;
     curve.m_nCurveNum = 1;
-    RecordingDC dc;
-    curve.Draw(dc);
+    const RecordingDC dc = DrawnBy(curve);
 
     EXPECT_EQ(RectsOf(dc.ShapesOfKind("rectangle")), (std::vector<HmiRect>{{0, 0, 260, 130}, {30, 15, 230, 115}}));
     const auto texts = dc.ShapesOfKind("text");
@@ -179,9 +175,7 @@ TEST(CurvePreview, TimeLabelsStandUnderTheLeftEdgeAndEachVerticalLine)
 {
     CHmiWidgetCurve curve;
     curve.SetWidgetRect({0, 0, 260, 130});
-    RecordingDC dc;
-    curve.Draw(dc);
-    const auto texts = dc.ShapesOfKind("text");
+    const auto texts = DrawnBy(curve).ShapesOfKind("text");
     ASSERT_EQ(texts.size(), 5u + 6u);
     for (std::size_t t = 0; t < 6; ++t) {
         const HmiRect& at = texts[5 + t].rect;
@@ -195,9 +189,7 @@ TEST(CurvePreview, GuardsDivisionsAndCapsTheCurves)
     CHmiWidgetCurve curve;
     curve.SetWidgetRect({0, 0, 100, 100});
     curve.m_nCurveNum = 40;
-    RecordingDC many;
-    curve.Draw(many);
-    EXPECT_EQ(many.ShapesOfKind("line").size(), 5u + 3u + 16u * 50u) << "at most 16 curves";
+    EXPECT_EQ(DrawnBy(curve).ShapesOfKind("line").size(), 5u + 3u + 16u * 50u) << "at most 16 curves";
 
     for (auto spoil : std::vector<std::function<void(CHmiWidgetCurve&)>>{
              [](auto& c) { c.m_nXPoints = 1; }, [](auto& c) { c.m_fMaxValue = c.m_fMinValue; },
@@ -206,9 +198,7 @@ TEST(CurvePreview, GuardsDivisionsAndCapsTheCurves)
         CHmiWidgetCurve odd;
         odd.SetWidgetRect({0, 0, 40, 20}); // narrower than its margins
         spoil(odd);
-        RecordingDC dc;
-        odd.Draw(dc);
-        EXPECT_FALSE(dc.shapes.empty());
+        EXPECT_FALSE(DrawnBy(odd).shapes.empty());
     }
 }
 
@@ -330,17 +320,6 @@ TEST_F(ProjectNameTest, PaneMarksAKeptNameAndAPickedOneReplacesIt)
     }
 }
 
-TEST_F(ProjectNameTest, TheHistoryListFindsNoVariablesOfAKeptDatabase)
-{
-    UseProject("<zqhistory><historydb name=\"boiler\"><history dataname=\"temperature\"/></historydb></zqhistory>",
-               nullptr);
-    const HmiWidgetPtr widget = Read("hislist", HistoryLine("plant2"));
-    const auto& list = dynamic_cast<const CHmiWidgetHisList&>(*widget);
-    EXPECT_EQ(list.HistoryName(), "plant2");
-    EXPECT_TRUE(GetHistoryVariableNames(list.HistoryName()).empty());
-    EXPECT_EQ(GetHistoryVariableNames(list.HistoryNames().NameAt(0)), std::vector<std::string>{"temperature"});
-}
-
 TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
 {
     // A plot of 540 x 370 pixels, at (30, 15), in a view of 640 x 480.
@@ -349,10 +328,7 @@ TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
     curve.m_nHLines = curve.m_nVLines = curve.m_nXPoints = INT_MAX;
     curve.m_nCurveNum = 1;
     const FixedSamples samples({0, 32767});
-    RecordingDC dc;
-    dc.clipBox = {0, 0, 640, 480};
-    curve.Draw(dc);
-
+    const RecordingDC dc = DrawnBy(curve, {0, 0, 640, 480});
     const auto lines = dc.ShapesOfKind("line");
     const auto gridLines = std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.pen.width == 1; });
     EXPECT_LE(gridLines, 540 + 370) << "one grid line per pixel column and row of the plot";
@@ -368,9 +344,7 @@ TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
     margins.m_nXPoints = INT_MAX;
     margins.m_fMinValue = -3e38f;
     margins.m_fMaxValue = 3e38f;
-    RecordingDC view;
-    view.clipBox = {0, 0, 640, 480};
-    margins.Draw(view);
+    const RecordingDC view = DrawnBy(margins, {0, 0, 640, 480});
     EXPECT_LE(view.shapes.size(), 2u * 65535u + 2u * (640u + 480u));
 }
 
@@ -381,11 +355,8 @@ TEST(CurvePreview, PointsPastTheViewAreNeitherSampledNorDrawn)
     curve.m_nXPoints = 541; // one point per pixel column of the plot, x = 30 + p
     curve.m_nCurveNum = 1;
     const FixedSamples samples({16384});
-    RecordingDC dc;
-    dc.clipBox = {0, 0, 100, 100};
-    curve.Draw(dc);
+    EXPECT_EQ(DrawnBy(curve, {0, 0, 100, 100}).ShapesOfKind("line").back().rect.right, 100);
     EXPECT_EQ(samples.taken, 71u) << "the points at x 30 to 99 and the next one";
-    EXPECT_EQ(dc.ShapesOfKind("line").back().rect.right, 100);
 }
 
 TEST(ListPicture, HeadingsStopAtTheEdgeOfTheListOrOfTheView)

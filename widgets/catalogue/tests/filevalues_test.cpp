@@ -51,42 +51,47 @@ TEST_F(FileValuesTest, EachKindReadsItsNumbersByItsOwnRules)
         const char* type;
         const char* read;
         const char* written;
-        const char* before; // read first, to show what the value read replaces or leaves
-        const char* length; // read and written
+        const char* before = nullptr; // read first, to show what the value read replaces or leaves
+        const char* length = nullptr; // read and written
     } cases[] = {
         // The shapes and the timer read a signed decimal number, up to the first other character.
-        {"rectangle", "fillcolor", "ulong", "0x00FF00", "0", nullptr, nullptr},
-        {"line", "linewidth", "ulong", "-3", "-3", nullptr, nullptr},
-        {"line", "direction", "ulong", "7px", "7", nullptr, nullptr},
-        {"timer", "interval", "ulong", "0x10", "0", "1000", nullptr},
+        {"rectangle", "fillcolor", "ulong", "0x00FF00", "0"},
+        {"line", "linewidth", "ulong", "-3", "-3"},
+        {"line", "direction", "ulong", "7px", "7"},
+        {"timer", "interval", "ulong", "0x10", "0", "1000"},
         // The other kinds read hexadecimal too, and floats as the C locale writes them.
-        {"valve", "centercolor", "ulong", "0x00FF00", "65280", nullptr, nullptr},
-        {"window", "bkcolor", "ulong", "0x00FF00", "65280", nullptr, nullptr},
-        {"button", "back_color", "ulong", "0x00FF00", "65280", nullptr, nullptr},
-        {"numinput", "backcolor", "ulong", "0xFF", "255", nullptr, nullptr},
-        {"numinput", "intwidth", "ulong", "0x10", "16", nullptr, nullptr},
-        {"numinput", "minvalue", "float", "-12.5", "-12.500000", nullptr, nullptr},
-        {"numinput", "password", "uchar", "1", "1", nullptr, nullptr},
+        {"valve", "centercolor", "ulong", "0x00FF00", "65280"},
+        {"window", "bkcolor", "ulong", "0x00FF00", "65280"},
+        {"button", "back_color", "ulong", "0x00FF00", "65280"},
+        {"numinput", "backcolor", "ulong", "0xFF", "255"},
+        {"numinput", "intwidth", "ulong", "0x10", "16"},
+        {"numinput", "minvalue", "float", "-12.5", "-12.500000"},
+        {"numinput", "password", "uchar", "1", "1"},
+        {"bmptext", "color", "ulong", "0xFF", "255"},
+        {"bmptext", "fontheight", "long", "-20", "-20"},
+        {"bmptext", "fontitalic", "uchar", "1", "1"},
+        {"bmptext", "align", "ulong", "3", "3"},
         // A curve's series are read at their number.
-        {"curve", "datacolor16", "ulong", "0xFF00", "65280", nullptr, nullptr},
-        {"curve", "adddata3", "float", "2.5", "2.500000", nullptr, nullptr},
+        {"curve", "datacolor16", "ulong", "0xFF00", "65280"},
+        {"curve", "adddata3", "float", "2.5", "2.500000"},
         {"curve", "valuevarname1", "string", "$speed", "$speed", nullptr, "32"},
         // Font sizes and alignments outside their lists become the first entry.
-        {"button", "font_size", "ulong", "16", "16", nullptr, nullptr},
-        {"text", "fontsize", "ulong", "10", "0", "16", nullptr},
-        {"numinput", "fontsize", "ulong", "16", "16", nullptr, nullptr},
-        {"text", "align", "ulong", "3", "3", nullptr, nullptr},
-        {"text", "align", "ulong", "0", "1", "3", nullptr},
-        {"text", "align", "ulong", "7", "1", "3", nullptr},
-        {"numinput", "align", "ulong", "0", "1", "3", nullptr},
-        {"textinput", "align", "ulong", "4", "1", "3", nullptr},
+        {"button", "font_size", "ulong", "16", "16"},
+        {"text", "fontsize", "ulong", "10", "0", "16"},
+        {"numinput", "fontsize", "ulong", "16", "16"},
+        {"text", "align", "ulong", "3", "3"},
+        {"text", "align", "ulong", "0", "1", "3"},
+        {"text", "align", "ulong", "7", "1", "3"},
+        {"numinput", "align", "ulong", "0", "1", "3"},
+        {"textinput", "align", "ulong", "4", "1", "3"},
         // Texts keep the length they are read with.
         {"button", "caption", "string", "Start", "Start", nullptr, "24"},
         {"text", "text", "string", "Boiler", "Boiler", nullptr, "40"},
+        {"bmptext", "fontname", "string", "Serif", "Serif", nullptr, "32"},
         // The window's style bits set its flags; a clear bit leaves its flag as it was.
-        {"window", "style", "ulong", "0x4", "4", nullptr, nullptr},
-        {"window", "style", "ulong", "0", "4", "4", nullptr},
-        {"window", "style", "ulong", "1", "5", "4", nullptr},
+        {"window", "style", "ulong", "0x4", "4"},
+        {"window", "style", "ulong", "0", "4", "4"},
+        {"window", "style", "ulong", "1", "5", "4"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.classKey) + " " + c.name + " " + c.read);

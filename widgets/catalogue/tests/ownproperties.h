@@ -26,7 +26,6 @@ inline std::string OwnPropertyLines(const CHmiWidget& widget)
 inline std::string PropertyLine(const std::string& name, const char* type, const std::string& value,
                                 const char* length = nullptr)
 {
-    const std::string lengthAttribute = length ? std::string("length=\"") + length + "\" " : "";
-    return "\t\t\t<property name=\"" + name + "\" type=\"" + type + "\" " + lengthAttribute + "value=\"" + value +
-           "\" />\n";
+    return "\t\t\t<property name=\"" + name + "\" type=\"" + type + "\" " +
+           (length ? std::string("length=\"") + length + "\" " : "") + "value=\"" + value + "\" />\n";
 }

@@ -35,8 +35,7 @@ TEST(Shapes, LineRunsCornerToCornerInItsStyle)
     line.m_nLineWidth = 0;
     line.m_nStyle = 4;
     line.m_nDirection = 0;
-    RecordingDC dc;
-    line.Draw(dc);
+    RecordingDC dc = DrawnBy(line);
     ASSERT_EQ(dc.shapes.size(), 1u);
     EXPECT_EQ(dc.shapes[0].rect, (HmiRect{30, 20, 10, 40})) << "right top to left bottom";
     EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Solid, 0, 0}));
@@ -54,8 +53,7 @@ TEST(Shapes, RectangleAndEllipseDrawTheStoredRectangleWithTheirColours)
     CHmiWidgetRect rect;
     rect.SetWidgetRect({50, 50, 10, 10});
     rect.m_edgeColor = 0xFF;
-    RecordingDC dc;
-    rect.Draw(dc);
+    RecordingDC dc = DrawnBy(rect);
     CHmiWidgetEllipse ellipse;
     ellipse.m_fillColor = 0xFF00;
     ellipse.Draw(dc);
@@ -73,8 +71,7 @@ TEST(Shapes, ValveIsABowTieWithAStemAWheelAndTheCentreColour)
     CHmiWidgetValve valve;
     valve.SetWidgetRect({0, 0, 40, 48});
     valve.m_centerColor = 0xFF00;
-    RecordingDC dc;
-    valve.Draw(dc);
+    const RecordingDC dc = DrawnBy(valve);
     const auto lines = dc.ShapesOfKind("line");
     const auto ellipses = dc.ShapesOfKind("ellipse");
     ASSERT_EQ(ellipses.size(), 2u);
@@ -99,8 +96,7 @@ TEST(Shapes, WindowDrawsItsBackgroundFromTheOriginInADottedFrame)
     CHmiWidgetWindow window;
     window.SetWidgetRect({10, 20, 330, 260});
     window.m_bkColor = 0x00FF00;
-    RecordingDC dc;
-    window.Draw(dc);
+    const RecordingDC dc = DrawnBy(window);
     ASSERT_EQ(dc.shapes.size(), 1u);
     EXPECT_EQ(dc.shapes[0].rect, (HmiRect{0, 0, 320, 240}));
     EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Dot, 1, 0}));

@@ -24,8 +24,7 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     button.m_strCaption = "A&B";
     button.m_nFontSize = 1; // 8 points: the bold 12-pixel serif
     button.m_nShadowWidth = 2;
-    RecordingDC dc;
-    button.Draw(dc);
+    const RecordingDC dc = DrawnBy(button);
     ASSERT_EQ(dc.ShapesOfKind("rectangle").size(), 1u);
     EXPECT_EQ(dc.shapes[0].rect, (HmiRect{9, 9, 62, 32}));
     EXPECT_EQ(dc.shapes[0].brush.color, 0xC0C0C0u);
@@ -44,9 +43,7 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     EXPECT_EQ(dc.font, HmiFont::DefaultGui()) << "the previous font is put back";
 
     button.m_nFontSize = 9;
-    RecordingDC noFont;
-    button.Draw(noFont);
-    EXPECT_EQ(noFont.ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
+    EXPECT_EQ(DrawnBy(button).ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
 }
 
 TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
@@ -56,8 +53,7 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     text.m_nAlign = 2;
     text.m_nFontSize = 1;
     text.m_color = 0xFF;
-    RecordingDC dc;
-    text.Draw(dc);
+    const RecordingDC dc = DrawnBy(text);
     const auto drawn = dc.ShapesOfKind("text");
     ASSERT_EQ(drawn.size(), 1u);
     EXPECT_EQ(drawn[0].rect, (HmiRect{10, 20, 50, 40}));
@@ -67,14 +63,10 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     EXPECT_EQ(dc.textColor, 0u) << "the previous text colour is put back";
 
     text.m_nFontSize = 0;
-    RecordingDC sans;
-    text.Draw(sans);
-    EXPECT_EQ(sans.ShapesOfKind("text")[0].font.face, "MS Sans Serif");
+    EXPECT_EQ(DrawnBy(text).ShapesOfKind("text")[0].font.face, "MS Sans Serif");
 
     text.m_nAlign = 7;
-    RecordingDC none;
-    text.Draw(none);
-    EXPECT_TRUE(none.shapes.empty());
+    EXPECT_TRUE(DrawnBy(text).shapes.empty());
 }
 
 TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
@@ -82,8 +74,7 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     CHmiWidgetNumInput number;
     number.SetWidgetRect({0, 0, 80, 20});
     number.m_nAlign = 3;
-    RecordingDC transparent;
-    number.Draw(transparent);
+    const RecordingDC transparent = DrawnBy(number);
     ASSERT_EQ(transparent.shapes.size(), 1u);
     EXPECT_EQ(transparent.shapes[0].text, "##");
     EXPECT_EQ(transparent.shapes[0].format, HMI_DT_LEFT | HMI_DT_VCENTER | HMI_DT_SINGLELINE)
@@ -91,22 +82,18 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     EXPECT_EQ(transparent.shapes[0].font.face, "MS Serif");
 
     number.m_nTransparent = 0;
-    RecordingDC opaque;
-    number.Draw(opaque);
+    const RecordingDC opaque = DrawnBy(number);
     EXPECT_EQ(opaque.ShapesOfKind("rectangle").size(), 1u);
     EXPECT_EQ(opaque.ShapesOfKind("polygon").size(), 4u);
 
     CHmiWidgetTextInput text;
     text.m_nFontSize = 0;
-    RecordingDC textDc;
-    text.Draw(textDc);
+    const RecordingDC textDc = DrawnBy(text);
     ASSERT_EQ(textDc.ShapesOfKind("text").size(), 1u);
     EXPECT_EQ(textDc.shapes[0].text, "abc");
     EXPECT_EQ(textDc.shapes[0].font.face, "MS SansSerif");
     text.m_nAlign = 5;
-    RecordingDC nothing;
-    text.Draw(nothing);
-    EXPECT_TRUE(nothing.ShapesOfKind("text").empty());
+    EXPECT_TRUE(DrawnBy(text).ShapesOfKind("text").empty());
 }
 
 TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
@@ -116,16 +103,14 @@ TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
     auto* picture = new CHmiWidgetPic;
     picture->SetWidgetRect({1, 2, 30, 40});
     doc.AddWidget(HmiWidgetPtr(picture), true, false);
-    RecordingDC frame;
-    picture->Draw(frame);
+    const RecordingDC frame = DrawnBy(*picture);
     ASSERT_EQ(frame.shapes.size(), 1u);
     EXPECT_EQ(frame.shapes[0].kind, "rectangle");
 
     picture->m_strFileName = "pump.png";
     picture->m_nTransparent = 1;
     picture->m_transparentColor = 0xFF00FF;
-    RecordingDC dc;
-    picture->Draw(dc);
+    const RecordingDC dc = DrawnBy(*picture);
     ASSERT_EQ(dc.shapes.size(), 1u);
     EXPECT_EQ(dc.shapes[0].text, "/project/pump.png");
     EXPECT_EQ(dc.shapes[0].rect, (HmiRect{1, 2, 30, 40}));
@@ -158,11 +143,10 @@ TEST(Picture, ATypedPathIsCopiedIntoTheProjectOrChangesNothing)
 TEST(Picture, AnImportThatFailsKeepsThePictureOfTheSameName)
 {
     TempDir dir;
-    std::filesystem::create_directories(dir.Path("project"));
+    for (const char* folder : {"project", "fifo", "large"})
+        std::filesystem::create_directories(dir.Path(folder));
     const std::string project = dir.Path("project/");
     dir.Write("project/logo.png", "the picture the window shows");
-    std::filesystem::create_directories(dir.Path("fifo"));
-    std::filesystem::create_directories(dir.Path("large"));
     ASSERT_EQ(::mkfifo(dir.Path("fifo/logo.png").c_str(), 0644), 0);
     std::filesystem::resize_file(dir.Write("large/logo.png", ""), kMaxFileSize + 1);
     const std::string newer = dir.Write("logo.png", "a newer picture, longer than a full disk takes");
