@@ -193,8 +193,8 @@ TEST(WriteFileAtomically, RemovesTemporariesLeftByKilledSavesButNotThoseBeingWri
     EXPECT_TRUE(WriteFileAtomically(path, "new bytes"));
     ::close(writer);
     EXPECT_EQ(dir.Read("window.xml"), "new bytes");
-    EXPECT_EQ(dir.Entries(),
-              (std::vector<std::string>{".other.xml.kelvo-save-Other1", ".window.xml.kelvo-save-Live01", "window.xml"}));
+    EXPECT_EQ(dir.Entries(), (std::vector<std::string>{".other.xml.kelvo-save-Other1", ".window.xml.kelvo-save-Live01",
+                                                       "window.xml"}));
 }
 
 namespace {

@@ -40,7 +40,7 @@ TEST(WindowList, DeliversTheWindowsInFileOrderWithMissingAttributesEmpty)
                                                         "  <window name=\"B\" filename=\"b.xml\"><window name=\"deep\"/></window>\n"
                                                         "</hmiwindow>\n");
     EXPECT_EQ(ReadWindowList(path, collect), 1);
-    EXPECT_EQ(entries, (std::vector<std::string>{"A|\xB9\xF8|a.xml", "B||b.xml"})) << "GB2312 text comes back as it was";
+    EXPECT_EQ(entries, (std::vector<std::string>{"A|\xB9\xF8|a.xml", "B||b.xml"})) << "GB2312 text as it was";
 
     entries.clear();
     EXPECT_EQ(ReadWindowList(dir.Write("empty.xml", "<hmiwindow/>"), collect), 1);

@@ -92,7 +92,7 @@ struct ProjectNameTest : ::testing::Test {
 // A fixed sequence of samples for the curve preview, counting those taken.
 struct FixedSamples {
     explicit FixedSamples(std::vector<int> values)
-        : saved(std::exchange(CurveSettings::RandomSample(), [this, values] { return values[taken++ % values.size()]; }))
+        : saved(std::exchange(CurveSettings::RandomSample(), [=, this] { return values[taken++ % values.size()]; }))
     {
     }
     ~FixedSamples() { CurveSettings::RandomSample() = saved; }
@@ -109,7 +109,7 @@ TEST(ControlWidgets, WriteWhatWasTypedAndShowTheFirstItemWithoutAControl)
 {
     CHmiWidgetCheckbox checkbox;
     checkbox.m_strVariable = std::string(40, 'v');
-    EXPECT_NE(OwnPropertyLines(checkbox).find(PropertyLine("variable", "string", std::string(40, 'v'))), std::string::npos)
+    EXPECT_TRUE(OwnPropertyLines(checkbox).ends_with(PropertyLine("variable", "string", std::string(40, 'v'))))
         << "a variable longer than the short length is written without one";
 
     CHmiWidgetCombobox combobox;
@@ -330,7 +330,7 @@ TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
     const FixedSamples samples({0, 32767});
     const RecordingDC dc = DrawnBy(curve, {0, 0, 640, 480});
     const auto lines = dc.ShapesOfKind("line");
-    const auto gridLines = std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.pen.width == 1; });
+    const auto gridLines = std::count_if(lines.begin(), lines.end(), [](const auto& l) { return l.pen.width == 1; });
     EXPECT_LE(gridLines, 540 + 370) << "one grid line per pixel column and row of the plot";
     EXPECT_LE(dc.ShapesOfKind("text").size(), 2u * 640u) << "one label per pixel row and column";
     EXPECT_EQ(samples.taken, 65535u) << "the panel's 16-bit count of points";

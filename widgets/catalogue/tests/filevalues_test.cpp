@@ -26,7 +26,8 @@ struct FileValuesTest : ::testing::Test {
     // A new widget of a registered kind, or the valve, which is written but not registered.
     static HmiWidgetPtr Create(std::string_view classKey)
     {
-        return classKey == "valve" ? HmiWidgetPtr(new CHmiWidgetValve) : CHmiWidget::GetWidgetClass(classKey)->CreateObject();
+        return classKey == "valve" ? HmiWidgetPtr(new CHmiWidgetValve)
+                                   : CHmiWidget::GetWidgetClass(classKey)->CreateObject();
     }
 };
 
