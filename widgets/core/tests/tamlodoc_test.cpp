@@ -95,20 +95,6 @@ TEST_F(TamloDocTest, AddingAtTheHeadOrTailAndRemoving)
     EXPECT_EQ(names.log, (std::vector<std::string>{"add b", "add a", "add c selected", "remove b"}));
 }
 
-TEST_F(TamloDocTest, LoadingReversesTheFileOrderAndAddsAMissingWindow)
-{
-    const std::string path = dir.Write("abc.xml", "<hmiwidget>" + WidgetXml("A", "timer") + WidgetXml("B", "timer") +
-                                                      WidgetXml("C", "timer") + "</hmiwidget>");
-    CTamloDoc doc;
-    FakeView view;
-    doc.AddView(&view);
-    ASSERT_TRUE(doc.Load(path));
-    EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "C", "B", "A"}));
-    EXPECT_EQ(doc.Widgets()[1]->m_pView, &view);
-    EXPECT_EQ(view.wholeViewInvalidations, 1);
-    EXPECT_FALSE(doc.IsModified());
-}
-
 TEST_F(TamloDocTest, UnreadableFilesGiveAWindowAndAReason)
 {
     const std::pair<std::string, std::string> cases[] = {
@@ -127,7 +113,7 @@ TEST_F(TamloDocTest, UnreadableFilesGiveAWindowAndAReason)
     }
 }
 
-TEST_F(TamloDocTest, MalformedWidgetsAreDroppedAndTheirNeighboursKept)
+TEST_F(TamloDocTest, LoadingDropsMalformedWidgetsAndGivesTheRestInReverseAfterAWindow)
 {
     const std::string path = dir.Write(
         "mixed.xml",
@@ -143,10 +129,15 @@ TEST_F(TamloDocTest, MalformedWidgetsAreDroppedAndTheirNeighboursKept)
             WidgetXml("last", "timer", "<property name=\"left\" type=\"short\" value=\"7\"/><ignored/>") +
             "</hmiwidget>");
     CTamloDoc doc;
+    FakeView view;
+    doc.AddView(&view);
     ASSERT_TRUE(doc.Load(path));
     EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window", "last", "nosuchprop", "first"}));
     EXPECT_EQ(doc.Widgets()[1]->GetWidgetRect().left, 7);
     EXPECT_EQ(doc.Widgets()[2]->FindProperty("left")->m_strExpression, "$db.x");
+    EXPECT_EQ(doc.Widgets()[1]->m_pView, &view);
+    EXPECT_EQ(view.wholeViewInvalidations, 1);
+    EXPECT_FALSE(doc.IsModified());
 }
 
 TEST_F(TamloDocTest, ANewDocumentIsJustTheWindowUntilSavedUnderAPath)
@@ -204,10 +195,7 @@ TEST_F(TamloDocTest, EveryWayOfMarkingTheDocumentModifiedCountsARevision)
     EXPECT_TRUE(counted()) << "adding";
     doc.MoveWidget(gauge, 0);
     EXPECT_TRUE(counted()) << "reordering";
-    {
-        CUndoStepGuard click(doc);
-        click.Record(UndoOperation::Changed, gauge);
-    }
+    CUndoStepGuard(doc).Record(UndoOperation::Changed, gauge);
     EXPECT_FALSE(counted()) << "a click that moved nothing";
     {
         CUndoStepGuard drag(doc);
