@@ -78,12 +78,8 @@ TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
     EXPECT_EQ(analog.count, 0);
 
     // Composed and written, the count is held the same way.
-    analog = {};
-    analog.expression = "E";
-    analog.count = 1;
-    analog.defaultColor = 0xff;
-    analog.limits[0] = "10";
-    analog.colors[0] = 0xff00;
+    ASSERT_TRUE(ReadFrom(analog, "<type_params expression=\"E\" count=\"1\" defaultcolor=\"0xff\" limit_value0=\"10\" "
+                                 "color0=\"0xff00\"/>"));
     EXPECT_EQ(analog.ComposeExpression(), "((E)>=(10))?0xff00:0xff");
 
     analog.count = 1000;

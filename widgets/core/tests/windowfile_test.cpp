@@ -33,8 +33,6 @@ public:
     int SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,
                           std::string_view length) override
     {
-        if (CHmiWidget::SetWidgetProperty(name, type, value, length))
-            return 1;
         if (name == "text")
             text = value;
         else if (name == "format")
@@ -42,7 +40,7 @@ public:
         else if (name == "ratio")
             ratio = std::stof(std::string(value));
         else
-            return 0;
+            return CHmiWidget::SetWidgetProperty(name, type, value, length);
         return 1;
     }
     void SaveWidgetProperties(std::string& archive) const override
