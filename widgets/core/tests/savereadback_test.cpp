@@ -2,7 +2,6 @@
 // written as their well-formed equivalents, and a save whose text would not read back is
 // refused before it touches the file.
 
-#include "dynamics/dynamictypes.h"
 #include "project/textcodec.h"
 #include "tests/support/tempdir.h"
 #include "widgets/catalogue/builtinwidgets.h"
@@ -64,28 +63,15 @@ struct SaveReadBackTest : ::testing::Test {
 
 } // namespace
 
-TEST_F(SaveReadBackTest, CodeThatHoldsTheEndOfACdataSection)
-{
-    CTamloDoc doc;
-    doc.OnNewDocument();
-    CHmiWidget& button = AddWidget(doc, "button", "b1");
-    button.SetWidgetEventCode("click", "if (a[b[0]]>5) beep();");
-    CHmiWidgetProp* visible = button.AddWidgetDynProp("visible", "script");
-    auto script = CreateDynamicType("script");
-    script->expression = "x = y[z[1]]>2;]]>";
-    visible->SetDynamicType(std::move(script));
-
-    const std::string saved = SaveAndReadBack(doc);
-    EXPECT_NE(saved.find("<![CDATA[if (a[b[0]]]]><![CDATA[>5) beep();]]>"), std::string::npos) << saved;
-    EXPECT_NE(saved.find("<![CDATA[x = y[z[1]]]]><![CDATA[>2;]]]]><![CDATA[>]]>"), std::string::npos) << saved;
-}
-
-// Markup in names, class keys, custom values and limits, and GB2312 text with blanks of every
-// kind, as a loaded file holds them.
-TEST_F(SaveReadBackTest, MarkupAndGb2312TextComeBackByteForByte)
+// Code that holds the end of a CDATA section, markup in names, class keys, custom values and
+// limits, and GB2312 text with blanks of every kind, as a loaded file holds them.
+TEST_F(SaveReadBackTest, CdataEndsMarkupAndGb2312TextComeBackByteForByte)
 {
     const std::string file = WindowFile(
-        kGb2312, "<widget name=\"a&quot;b&lt;c&amp;d\" class=\"g&lt;&quot;&amp;>\"><properties>"
+        kGb2312, "<widget name=\"b1\" class=\"button\"><dynamics><dynamic propname=\"visible\" expression=\"script\" "
+                 "type=\"script\"><code><![CDATA[x = y[z[1]]]]><![CDATA[>2;]]]]><![CDATA[>]]></code></dynamic></dynamics>"
+                 "<events><event name=\"click\"><![CDATA[if (a[b[0]]]]><![CDATA[>5) beep();]]></event></events></widget>\n"
+                 "<widget name=\"a&quot;b&lt;c&amp;d\" class=\"g&lt;&quot;&amp;>\"><properties>"
                  "<property name=\"v\" type=\"string\" value=\"1&quot;2&lt;3&amp;4>5'6\"/></properties>"
                  "<dynamics><dynamic propname=\"left\" expression=\"x\" type=\"color_analog\">"
                  "<type_params expression=\"$t\" count=\"1\" defaultcolor=\"0x0\" "
@@ -97,6 +83,8 @@ TEST_F(SaveReadBackTest, MarkupAndGb2312TextComeBackByteForByte)
     CTamloDoc doc;
     ASSERT_TRUE(doc.Load(dir.Write("loaded.xml", file)));
     const std::string saved = SaveAndReadBack(doc);
+    EXPECT_NE(saved.find("<![CDATA[if (a[b[0]]]]><![CDATA[>5) beep();]]>"), std::string::npos) << saved;
+    EXPECT_NE(saved.find("<![CDATA[x = y[z[1]]]]><![CDATA[>2;]]]]><![CDATA[>]]>"), std::string::npos) << saved;
     EXPECT_NE(saved.find("<widget name=\"a&quot;b&lt;c&amp;d\"  class=\"g&lt;&quot;&amp;>\">"), std::string::npos)
         << "only the characters that would break the file are escaped";
     EXPECT_NE(saved.find("value=\"1&quot;2&lt;3&amp;4>5'6\""), std::string::npos) << saved;
