@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -49,13 +50,12 @@ TEST(DynamicTypes, ColorDigitReadsHexOrDecimalAndNeedsAllThree)
 {
     CHmiDynColorDigit digit;
     EXPECT_FALSE(ReadFrom(digit, "<type_params expression=\"x\" opencolor=\"0xff\"/>"));
-    EXPECT_EQ(digit.openColor, 0u);
-    EXPECT_EQ(digit.expression, "");
+    EXPECT_EQ(std::tuple(digit.expression, digit.openColor), std::tuple("", 0u)) << "nothing is taken";
 
+    // The open colour is decimal, stopping at the first letter; the close colour is hexadecimal
+    // from the start, stopping at the x.
     ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp;&amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
-    EXPECT_EQ(digit.expression, "a && b");
-    EXPECT_EQ(digit.openColor, 12u) << "decimal, stopping at the first letter";
-    EXPECT_EQ(digit.closeColor, 0xab0u) << "hexadecimal from the start, stopping at the x";
+    EXPECT_EQ(std::tuple(digit.expression, digit.openColor, digit.closeColor), std::tuple("a && b", 12u, 0xab0u));
 }
 
 TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
@@ -66,11 +66,8 @@ TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
     CHmiDynColorAnalog analog;
     analog.limits[1] = "kept";
     ASSERT_TRUE(ReadFrom(analog, xml + "/>"));
-    EXPECT_EQ(analog.count, 32);
-    EXPECT_EQ(analog.defaultColor, 7u);
-    EXPECT_EQ(analog.limits[1], "kept");
-    EXPECT_EQ(analog.limits[31], "L31");
-    EXPECT_EQ(analog.colors[31], 9u);
+    EXPECT_EQ(std::tuple(analog.count, analog.defaultColor, analog.limits[1], analog.limits[31], analog.colors[31]),
+              std::tuple(32, 7u, "kept", "L31", 9u));
 
     EXPECT_FALSE(ReadFrom(analog, "<type_params expression=\"w\" count=\"2\"/>"));
     EXPECT_EQ(analog.expression, "v");

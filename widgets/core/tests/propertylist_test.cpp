@@ -30,12 +30,9 @@ public:
     }
     int GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text) const override
     {
-        if (prop.m_strName == "scale" || prop.m_strName == "empty")
-            text = std::to_string(scale);
-        else if (prop.m_strName == "face")
-            text = "Serif, 16";
-        else
-            return CHmiWidget::GetWidgetPropValue(prop, text);
+        if (CHmiWidget::GetWidgetPropValue(prop, text))
+            return 1;
+        text = prop.m_strName == "face" ? "Serif, 16" : std::to_string(scale); // the lists show the scale
         return 1;
     }
 
