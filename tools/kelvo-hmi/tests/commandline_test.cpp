@@ -41,18 +41,6 @@ ToolRun RunTool(const std::string& arguments, const std::string& prefix = "")
     return run;
 }
 
-// The window files of the fuzz corpus with huge coordinates and counts.
-std::vector<std::string> HostileWindowFiles()
-{
-    std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(KELVO_HOSTILE_WINDOWS_DIR)) {
-        const std::string name = entry.path().filename().string();
-        if (name.starts_with("huge-") || name.starts_with("reversed-"))
-            files.push_back(entry.path().string());
-    }
-    return files;
-}
-
 // Half a minute of processor time and a gigabyte of address space are far more than any of them
 // needs; address-sanitised programs reserve terabytes up front, so there only the time counts.
 #if defined(__SANITIZE_ADDRESS__)
@@ -140,17 +128,23 @@ TEST(CommandLine, RenderingOnAFullDiskKeepsTheOlderImage)
 
 TEST(CommandLine, RendersHostileWindowsWithinBoundedMemoryAndTime)
 {
-    const std::vector<std::string> files = HostileWindowFiles();
-    ASSERT_GE(files.size(), 8u);
-    for (const std::string& file : files) {
-        SCOPED_TRACE(file);
+    // The window files of the fuzz corpus with huge coordinates and counts.
+    int rendered = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(KELVO_HOSTILE_WINDOWS_DIR)) {
+        const std::string name = entry.path().filename().string();
+        if (!name.starts_with("huge-") && !name.starts_with("reversed-"))
+            continue;
+        SCOPED_TRACE(name);
+        ++rendered;
         TempDir dir;
-        const ToolRun run = RunTool("render '" + file + "' '" + dir.Path("out.png") + "'", kRenderLimits);
+        const ToolRun run =
+            RunTool("render '" + entry.path().string() + "' '" + dir.Path("out.png") + "'", kRenderLimits);
         EXPECT_EQ(run.status, 0) << run.errors;
         const QImage image(QString::fromStdString(dir.Path("out.png")));
         EXPECT_FALSE(image.isNull());
         EXPECT_LE(std::max(image.width(), image.height()), 4096);
     }
+    EXPECT_GE(rendered, 8);
 }
 
 TEST(CommandLine, DrawsAHugeWindowClippedToItsTopLeftAndSaysSo)

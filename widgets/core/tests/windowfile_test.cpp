@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -156,20 +157,14 @@ void Bind(CHmiWidget& widget, const char* propName, std::unique_ptr<CHmiDynamicT
     prop->SetDynamicType(std::move(type));
 }
 
+// A binding of the given type on the user's expression, with its other parameters set by setUp.
 template <typename Type>
-std::unique_ptr<Type> Made(std::string expression)
+std::unique_ptr<Type> Made(std::string expression, const std::function<void(Type&)>& setUp = nullptr)
 {
     auto type = std::make_unique<Type>();
     type->expression = std::move(expression);
-    return type;
-}
-
-template <typename TextType>
-std::unique_ptr<TextType> MadeText(std::string expression, int intWidth, int decWidth = 2)
-{
-    auto type = Made<TextType>(std::move(expression));
-    type->intWidth = intWidth;
-    type->decWidth = decWidth;
+    if (setUp)
+        setUp(*type);
     return type;
 }
 
@@ -190,10 +185,8 @@ void BuildSmallWindow(CTamloDoc& doc)
     window.m_nCenterWnd = 1;
     window.m_nSecurityLevel = 2;
     window.m_nSecurityMode = 1;
-    auto digit = Made<CHmiDynColorDigit>("$run");
-    digit->openColor = 0xff00;
-    digit->closeColor = 0xff;
-    Bind(window, "bkcolor", std::move(digit));
+    Bind(window, "bkcolor",
+         Made<CHmiDynColorDigit>("$run", [](auto& digit) { digit.openColor = 0xff00; digit.closeColor = 0xff; }));
     window.SetWidgetEventCode("open", "init();\r\nshow(\"main\");\nbeep();");
 
     auto& valve = Add(doc, new CHmiWidgetValve, "valve1", {100, 50, 160, 110});
@@ -205,21 +198,21 @@ void BuildSmallWindow(CTamloDoc& doc)
 
     auto& timer = Add(doc, new CHmiWidgetTimer, "tick", {10, 10, 42, 42});
     timer.m_nInterval = 250;
-    Bind(timer, "interval", MadeText<CHmiDynTextInt>("$db.period", 4));
+    Bind(timer, "interval", Made<CHmiDynTextInt>("$db.period", [](auto& text) { text.intWidth = 4; }));
     timer.SetWidgetEventCode("timer", "n = n + 1;\nif (n > 9) stop();");
 
     auto& label = Add(doc, new LabelWidget, "label1", {200, 100, 400, 140});
     label.text = "a<b & \"c\" > 'd'";
     label.format = "%.2f";
     label.ratio = 12.5f;
-    Bind(label, "text", MadeText<CHmiDynTextFloat>("$db.level", 5));
-    Bind(label, "format", MadeText<CHmiDynTextDouble>("$a<$b", 3, 1));
-    auto analog = Made<CHmiDynColorAnalog>("$db.temp");
-    analog->count = 3;
-    analog->defaultColor = 0xff0000;
-    analog->limits = {"10", "20", "30"};
-    analog->colors = {0xff00, 0xffff, 0xff};
-    Bind(label, "color", std::move(analog));
+    Bind(label, "text", Made<CHmiDynTextFloat>("$db.level", [](auto& text) { text.intWidth = 5; }));
+    Bind(label, "format", Made<CHmiDynTextDouble>("$a<$b", [](auto& text) { text.intWidth = 3; text.decWidth = 1; }));
+    Bind(label, "color", Made<CHmiDynColorAnalog>("$db.temp", [](auto& analog) {
+             analog.count = 3;
+             analog.defaultColor = 0xff0000;
+             analog.limits = {"10", "20", "30"};
+             analog.colors = {0xff00, 0xffff, 0xff};
+         }));
 
     auto& gauge = Add(doc, new CHmiWidgetCustom, "g1", {5, 5, 25, 25});
     gauge.ClassName = "gauge";
