@@ -139,20 +139,16 @@ const std::string kGaugeElement =
     "\t\t</events>\r\n"
     "\t</widget>\r\n";
 
-std::string WindowFile(const std::vector<std::string>& elements)
-{
-    std::string file = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
-    for (const std::string& element : elements)
-        file += element;
-    return file + "</hmiwidget>\n";
-}
+const std::string kHead = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
+const std::string kTail = "</hmiwidget>\n";
+const std::string kSmallWindowFile =
+    kHead + kWindowElement + kValveElement + kTimerElement + kLabelElement + kGaugeElement + kTail;
 
 // Binds a property the way the dynamic-property dialog does: the record keeps the composed
 // expression and the type object keeps the user's parameters.
-void Bind(CHmiWidget& widget, const char* propName, std::unique_ptr<CHmiDynamicType> type,
-          std::string expression = {})
+void Bind(CHmiWidget& widget, const char* name, std::unique_ptr<CHmiDynamicType> type, std::string expression = {})
 {
-    CHmiWidgetProp* prop = widget.FindProperty(propName);
+    CHmiWidgetProp* prop = widget.FindProperty(name);
     prop->m_strExpression = expression.empty() ? type->ComposeExpression() : expression;
     prop->SetDynamicType(std::move(type));
 }
@@ -246,19 +242,17 @@ TEST_F(WindowFileTest, TheWriterProducesTheHandWrittenFile)
 {
     CTamloDoc doc;
     BuildSmallWindow(doc);
-    EXPECT_EQ(doc.Serialize(), WindowFile({kWindowElement, kValveElement, kTimerElement, kLabelElement,
-                                           kGaugeElement}));
+    EXPECT_EQ(doc.Serialize(), kSmallWindowFile);
 }
 
 TEST_F(WindowFileTest, ReadingItBackAndSavingWritesTheWidgetsInReverse)
 {
     CTamloDoc doc;
-    ASSERT_TRUE(doc.Load(dir.Write("small.xml", WindowFile({kWindowElement, kValveElement, kTimerElement,
-                                                             kLabelElement, kGaugeElement}))));
+    ASSERT_TRUE(doc.Load(dir.Write("small.xml", kSmallWindowFile)));
     ASSERT_TRUE(doc.Save(dir.Path("again.xml")));
 
-    EXPECT_EQ(dir.Read("again.xml"), WindowFile({kGaugeElement, kLabelElement, kTimerElement,
-                                                 AsParsed(kValveElement), AsParsed(kWindowElement)}));
+    EXPECT_EQ(dir.Read("again.xml"), kHead + kGaugeElement + kLabelElement + kTimerElement + AsParsed(kValveElement) +
+                                         AsParsed(kWindowElement) + kTail);
 }
 
 } // namespace
