@@ -35,8 +35,7 @@ TEST(DynamicTypes, FactoryMakesExactlyTheSixAndClonesAreIndependent)
         binding->expression = "e";
         const auto twin = binding->Clone();
         binding->expression.clear();
-        EXPECT_STREQ(twin->GetTypeName(), name);
-        EXPECT_EQ(twin->expression, "e");
+        EXPECT_EQ(std::tuple(std::string(twin->GetTypeName()), twin->expression), std::tuple(name, "e"));
     }
     EXPECT_EQ(CreateDynamicType("Script"), nullptr);
     EXPECT_EQ(CreateDynamicType(""), nullptr);

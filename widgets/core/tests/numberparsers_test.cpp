@@ -24,7 +24,7 @@ TEST(NumberParsers, HexadecimalWheneverTheTextContains0xAndUnsignedAndSignedDiff
         {"0xg", 0u}, {"0xFFFFFFFF", 0xFFFFFFFFu}, {"0x1FFFFFFFF", 0xFFFFFFFFu}, {"-1", 0xFFFFFFFFu}};
     for (const auto& [text, value] : unsignedCases)
         EXPECT_EQ(HmiParseULong(text), value) << text;
-    const std::pair<const char*, std::int32_t> signedCases[] = {{"12 (0x0C)", 18}, {"0xFFFFFFFF", 2147483647}, {"-0x10", -16}};
+    const std::pair<const char*, int> signedCases[] = {{"12 (0x0C)", 18}, {"0xFFFFFFFF", 2147483647}, {"-0x10", -16}};
     for (const auto& [text, value] : signedCases)
         EXPECT_EQ(HmiParseLong(text), value) << text;
 }

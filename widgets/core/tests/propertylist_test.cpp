@@ -32,7 +32,7 @@ public:
     {
         if (CHmiWidget::GetWidgetPropValue(prop, text))
             return 1;
-        text = prop.m_strName == "face" ? "Serif, 16" : std::to_string(scale); // the lists show the scale
+        text = prop.m_strName == "face" ? "Serif, 16" : std::to_string(scale); // both lists show the scale
         return 1;
     }
 
@@ -78,10 +78,9 @@ TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
     const auto gaugeRows = tree.ChildrenOf(tree.Find("Gauge"));
     ASSERT_EQ(gaugeRows.size(), 3u) << "an unknown item type builds no row";
     EXPECT_EQ(gaugeRows[0]->choices, (std::vector<std::string>{"Linear", "Logarithmic"}));
-    EXPECT_EQ(gaugeRows[0]->selection, 1);
-    EXPECT_EQ(gaugeRows[1]->selection, -1) << "an empty list selects nothing";
-    EXPECT_EQ(gaugeRows[2]->kind, OptionItemKind::Font);
-    EXPECT_EQ(gaugeRows[2]->staticText, "Serif, 16") << "a font row shows its text read-only";
+    // An empty list selects nothing; a font row shows its text read-only.
+    EXPECT_EQ(std::tuple(gaugeRows[0]->selection, gaugeRows[1]->selection), std::tuple(1, -1));
+    EXPECT_EQ(std::tuple(gaugeRows[2]->kind, gaugeRows[2]->staticText), std::tuple(OptionItemKind::Font, "Serif, 16"));
     EXPECT_EQ(tree.ChildrenOf(tree.Find("Event")).size(), 2u) << "the events are created for the list";
 
     MemoryOptionTree outOfRange;

@@ -69,8 +69,9 @@ TEST_F(SaveReadBackTest, CdataEndsMarkupAndGb2312TextComeBackByteForByte)
 {
     const std::string file = WindowFile(
         kGb2312, "<widget name=\"b1\" class=\"button\"><dynamics><dynamic propname=\"visible\" expression=\"script\" "
-                 "type=\"script\"><code><![CDATA[x = y[z[1]]]]><![CDATA[>2;]]]]><![CDATA[>]]></code></dynamic></dynamics>"
-                 "<events><event name=\"click\"><![CDATA[if (a[b[0]]]]><![CDATA[>5) beep();]]></event></events></widget>\n"
+                 "type=\"script\"><code><![CDATA[x = y[z[1]]]]><![CDATA[>2;]]]]><![CDATA[>]]></code></dynamic>"
+                 "</dynamics><events><event name=\"click\"><![CDATA[if (a[b[0]]]]><![CDATA[>5) beep();]]></event>"
+                 "</events></widget>\n"
                  "<widget name=\"a&quot;b&lt;c&amp;d\" class=\"g&lt;&quot;&amp;>\"><properties>"
                  "<property name=\"v\" type=\"string\" value=\"1&quot;2&lt;3&amp;4>5'6\"/></properties>"
                  "<dynamics><dynamic propname=\"left\" expression=\"x\" type=\"color_analog\">"
@@ -96,8 +97,7 @@ TEST_F(SaveReadBackTest, CdataEndsMarkupAndGb2312TextComeBackByteForByte)
 
 TEST_F(SaveReadBackTest, TextThatGb2312CannotHoldTravelsAsCharacterReferences)
 {
-    const std::string euro = "\xE2\x82\xAC";
-    const std::string smile = "\xF0\x9F\x98\x80";
+    const std::string euro = "\xE2\x82\xAC", smile = "\xF0\x9F\x98\x80";
     const std::string widgets = "<widget name=\"t" + kTemperatureUtf8 + euro + "\" class=\"text\"><properties>"
                                 "<property name=\"text\" type=\"string\" value=\"" + kTemperatureUtf8 + " " + euro +
                                 "&#x1F600;\"/></properties><events><event name=\"click\"><![CDATA[say(\"" + smile +
