@@ -53,15 +53,16 @@ TEST(DynamicTypes, ColorDigitReadsHexOrDecimalAndNeedsAllThree)
 
     // The open colour is decimal, stopping at the first letter; the close colour is hexadecimal
     // from the start, stopping at the x.
-    ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp;&amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
-    EXPECT_EQ(std::tuple(digit.expression, digit.openColor, digit.closeColor), std::tuple("a && b", 12u, 0xab0u));
+    ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
+    EXPECT_EQ(std::tuple(digit.expression, digit.openColor, digit.closeColor), std::tuple("a & b", 12u, 0xab0u));
 }
 
 TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
 {
     std::string xml = "<type_params expression=\"v\" count=\"40\" defaultcolor=\"7\" limit_value1=\"2\" color1=\"\"";
     for (int i = 2; i < 40; ++i)
-        xml += " limit_value" + std::to_string(i) + "=\"L" + std::to_string(i) + "\" color" + std::to_string(i) + "=\"9\"";
+        xml += " limit_value" + std::to_string(i) + "=\"L" + std::to_string(i) + "\" color" + std::to_string(i) +
+               "=\"9\"";
     CHmiDynColorAnalog analog;
     analog.limits[1] = "kept";
     ASSERT_TRUE(ReadFrom(analog, xml + "/>"));
@@ -79,8 +80,7 @@ TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
     EXPECT_EQ(analog.ComposeExpression(), "((E)>=(10))?0xff00:0xff");
 
     analog.count = 1000;
-    const std::string composed = analog.ComposeExpression();
-    EXPECT_EQ(std::count(composed.begin(), composed.end(), '?'), 32);
+    EXPECT_EQ(std::ranges::count(analog.ComposeExpression(), '?'), 32);
 
     for (const int count : {0, -3}) {
         analog.count = count;

@@ -182,19 +182,19 @@ TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
     QImage red(2, 2, QImage::Format_RGB32);
     red.fill(Qt::red);
     // A picture followed by zeros up to a given size: its decoder stops at the picture's end.
-    auto paddedPicture = [&](const char* name, std::uint64_t size) {
+    auto padded = [&](const char* name, std::uint64_t size) {
         const std::string path = dir.Path(name);
         EXPECT_TRUE(red.save(QString::fromStdString(path), "PNG"));
         std::filesystem::resize_file(path, size);
         return path;
     };
     CHmiImageDC atLimit(6, 6);
-    EXPECT_TRUE(atLimit.DrawPictureFile(paddedPicture("limit.png", kMaxFileSize), {0, 0, 6, 6}, nullptr));
+    EXPECT_TRUE(atLimit.DrawPictureFile(padded("limit.png", kMaxFileSize), {0, 0, 6, 6}, nullptr));
     EXPECT_EQ(ColoursIn(atLimit), std::set<HmiColor>{kRed});
 
     ASSERT_EQ(::mkfifo(dir.Path("fifo.png").c_str(), 0644), 0);
-    for (const std::string& path : {paddedPicture("over.png", kMaxFileSize + 1), dir.Path("fifo.png"),
-                                    std::string("/dev/zero"), dir.Path("none.png"), dir.Write("bad.png", "no picture")}) {
+    for (const std::string& path : {padded("big.png", kMaxFileSize + 1), dir.Path("fifo.png"), std::string("/dev/zero"),
+                                    dir.Path("none.png"), dir.Write("bad.png", "no picture")}) {
         CHmiImageDC refused(6, 6);
         EXPECT_FALSE(refused.DrawPictureFile(path, {0, 0, 6, 6}, nullptr)) << path;
         EXPECT_EQ(ColoursIn(refused), std::set<HmiColor>{kWhite}) << path;
@@ -203,18 +203,17 @@ TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
 
 TEST(PainterDC, ShapesRunningPastTheImageKeepEveryPixelInside)
 {
-    struct Pen {
+    const struct {
         HmiPenStyle style;
         std::int32_t width;
-        HmiBkMode mode;
-    };
-    for (const Pen pen : {Pen{HmiPenStyle::Solid, 1, HmiBkMode::Opaque}, Pen{HmiPenStyle::Dot, 1, HmiBkMode::Opaque},
-                          Pen{HmiPenStyle::Dash, 0, HmiBkMode::Transparent}, Pen{HmiPenStyle::Solid, 5, HmiBkMode::Opaque},
-                          Pen{HmiPenStyle::Dot, 3, HmiBkMode::Opaque}}) {
+        bool opaque;
+    } pens[] = {{HmiPenStyle::Solid, 1, true}, {HmiPenStyle::Dot, 1, true}, {HmiPenStyle::Dash, 0, false},
+                {HmiPenStyle::Solid, 5, true}, {HmiPenStyle::Dot, 3, true}};
+    for (const auto& pen : pens) {
         const std::string changed = FirstPixelChangedByClipping([&](CHmiDC& dc, HmiPoint at) {
             const auto p = [&](std::int32_t x, std::int32_t y) { return HmiPoint{at.x + x, at.y + y}; };
             dc.SelectPen({pen.style, pen.width, kBlack});
-            dc.SetBkMode(pen.mode);
+            dc.SetBkMode(pen.opaque ? HmiBkMode::Opaque : HmiBkMode::Transparent);
             dc.SetBkColor(kBlue);
             dc.SelectBrush({true, 0});
             for (const HmiPoint to : {p(170, 130), p(-130, 120), p(160, -100), p(37, 129), p(-129, -99)}) {
@@ -248,7 +247,7 @@ TEST(PainterDC, CoordinatesAreHeldToTheDrawingRangeAndOnlyTheImageIsDrawn)
     const auto dots = [](int x, int y) { return y == 5 && (x - kHmiDrawingMin) % 6 < 3; };
     EXPECT_EQ(PixelsOf(dotted, kBlack), PixelsWhere(40, 30, dots)) << "the pattern runs on from the range's left end";
 
-    for (const HmiRect huge : {HmiRect{INT_MIN, INT_MIN, INT_MAX, INT_MAX}, HmiRect{INT_MAX, INT_MAX, INT_MIN, INT_MIN}}) {
+    for (const auto huge : {HmiRect{INT_MIN, INT_MIN, INT_MAX, INT_MAX}, HmiRect{INT_MAX, INT_MAX, INT_MIN, INT_MIN}}) {
         CHmiImageDC shapes(40, 30);
         shapes.SelectPen({HmiPenStyle::Dash, INT_MAX, kBlack});
         shapes.SelectBrush({false, kRed});

@@ -140,9 +140,8 @@ const std::string kGaugeElement =
     "\t</widget>\r\n";
 
 const std::string kHead = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
-const std::string kTail = "</hmiwidget>\n";
 const std::string kSmallWindowFile =
-    kHead + kWindowElement + kValveElement + kTimerElement + kLabelElement + kGaugeElement + kTail;
+    kHead + kWindowElement + kValveElement + kTimerElement + kLabelElement + kGaugeElement + "</hmiwidget>\n";
 
 // Binds a property the way the dynamic-property dialog does: the record keeps the composed
 // expression and the type object keeps the user's parameters.
@@ -252,7 +251,7 @@ TEST_F(WindowFileTest, ReadingItBackAndSavingWritesTheWidgetsInReverse)
     ASSERT_TRUE(doc.Save(dir.Path("again.xml")));
 
     EXPECT_EQ(dir.Read("again.xml"), kHead + kGaugeElement + kLabelElement + kTimerElement + AsParsed(kValveElement) +
-                                         AsParsed(kWindowElement) + kTail);
+                                         AsParsed(kWindowElement) + "</hmiwidget>\n");
 }
 
 } // namespace
