@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -34,8 +35,7 @@ TEST(DynamicTypes, FactoryMakesExactlyTheSixAndClonesAreIndependent)
         binding->expression = "e";
         const auto twin = binding->Clone();
         binding->expression.clear();
-        EXPECT_STREQ(twin->GetTypeName(), name);
-        EXPECT_EQ(twin->expression, "e");
+        EXPECT_EQ(std::tuple(std::string(twin->GetTypeName()), twin->expression), std::tuple(name, "e"));
     }
     EXPECT_EQ(CreateDynamicType("Script"), nullptr);
     EXPECT_EQ(CreateDynamicType(""), nullptr);
@@ -49,28 +49,25 @@ TEST(DynamicTypes, ColorDigitReadsHexOrDecimalAndNeedsAllThree)
 {
     CHmiDynColorDigit digit;
     EXPECT_FALSE(ReadFrom(digit, "<type_params expression=\"x\" opencolor=\"0xff\"/>"));
-    EXPECT_EQ(digit.openColor, 0u);
-    EXPECT_EQ(digit.expression, "");
+    EXPECT_EQ(std::tuple(digit.expression, digit.openColor), std::tuple("", 0u)) << "nothing is taken";
 
-    ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp;&amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
-    EXPECT_EQ(digit.expression, "a && b");
-    EXPECT_EQ(digit.openColor, 12u) << "decimal, stopping at the first letter";
-    EXPECT_EQ(digit.closeColor, 0xab0u) << "hexadecimal from the start, stopping at the x";
+    // The open colour is decimal, stopping at the first letter; the close colour is hexadecimal
+    // from the start, stopping at the x.
+    ASSERT_TRUE(ReadFrom(digit, "<type_params expression=\"a &amp; b\" opencolor=\"12ab\" closecolor=\"ab0xF\"/>"));
+    EXPECT_EQ(std::tuple(digit.expression, digit.openColor, digit.closeColor), std::tuple("a & b", 12u, 0xab0u));
 }
 
 TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
 {
     std::string xml = "<type_params expression=\"v\" count=\"40\" defaultcolor=\"7\" limit_value1=\"2\" color1=\"\"";
     for (int i = 2; i < 40; ++i)
-        xml += " limit_value" + std::to_string(i) + "=\"L" + std::to_string(i) + "\" color" + std::to_string(i) + "=\"9\"";
+        xml += " limit_value" + std::to_string(i) + "=\"L" + std::to_string(i) + "\" color" + std::to_string(i) +
+               "=\"9\"";
     CHmiDynColorAnalog analog;
     analog.limits[1] = "kept";
     ASSERT_TRUE(ReadFrom(analog, xml + "/>"));
-    EXPECT_EQ(analog.count, 32);
-    EXPECT_EQ(analog.defaultColor, 7u);
-    EXPECT_EQ(analog.limits[1], "kept");
-    EXPECT_EQ(analog.limits[31], "L31");
-    EXPECT_EQ(analog.colors[31], 9u);
+    EXPECT_EQ(std::tuple(analog.count, analog.defaultColor, analog.limits[1], analog.limits[31], analog.colors[31]),
+              std::tuple(32, 7u, "kept", "L31", 9u));
 
     EXPECT_FALSE(ReadFrom(analog, "<type_params expression=\"w\" count=\"2\"/>"));
     EXPECT_EQ(analog.expression, "v");
@@ -78,17 +75,12 @@ TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
     EXPECT_EQ(analog.count, 0);
 
     // Composed and written, the count is held the same way.
-    analog = {};
-    analog.expression = "E";
-    analog.count = 1;
-    analog.defaultColor = 0xff;
-    analog.limits[0] = "10";
-    analog.colors[0] = 0xff00;
+    ASSERT_TRUE(ReadFrom(analog, "<type_params expression=\"E\" count=\"1\" defaultcolor=\"0xff\" limit_value0=\"10\" "
+                                 "color0=\"0xff00\"/>"));
     EXPECT_EQ(analog.ComposeExpression(), "((E)>=(10))?0xff00:0xff");
 
     analog.count = 1000;
-    const std::string composed = analog.ComposeExpression();
-    EXPECT_EQ(std::count(composed.begin(), composed.end(), '?'), 32);
+    EXPECT_EQ(std::ranges::count(analog.ComposeExpression(), '?'), 32);
 
     for (const int count : {0, -3}) {
         analog.count = count;

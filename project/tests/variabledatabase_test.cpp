@@ -33,12 +33,15 @@ std::string Groups(int depth, const std::string& content = {})
     return text;
 }
 
-} // namespace
-
-TEST(VariableDatabase, DataRowsFollowTheTypeTable)
-{
+struct VariableDatabaseTest : ::testing::Test {
     TempDir dir;
     CHmiVariableDatabase db;
+};
+
+} // namespace
+
+TEST_F(VariableDatabaseTest, DataRowsFollowTheTypeTable)
+{
     ASSERT_EQ(db.ReadRealtimeDatabase(dir.Write("rtdb.xml",
         "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<rtdbs><rtdb name=\"plc\">"
         "<data name=\"a\" type=\"ulong\" init=\"0\"/>"
@@ -61,10 +64,8 @@ TEST(VariableDatabase, DataRowsFollowTheTypeTable)
                                 {"plc", "alpha", "", "", "", "", "a"}}));
 }
 
-TEST(VariableDatabase, NestedGroupsKeepTheirDatabaseInTheReferenceText)
+TEST_F(VariableDatabaseTest, NestedGroupsKeepTheirDatabaseInTheReferenceText)
 {
-    TempDir dir;
-    CHmiVariableDatabase db;
     const std::string rtdb = dir.Write("rtdb.xml",
         "<rtdbs><rtdb name=\"plc\"><datagroup name=\"io\"><datagroup name=\"in\">"
         "<data name=\"x1\" type=\"uchar\" init=\"0\"/></datagroup>"
@@ -84,10 +85,8 @@ TEST(VariableDatabase, NestedGroupsKeepTheirDatabaseInTheReferenceText)
     EXPECT_EQ(db.RealtimeRoot().children.size(), 2u);
 }
 
-TEST(VariableDatabase, HmiVariablesGoUnderTheirExactlyNamedGroups)
+TEST_F(VariableDatabaseTest, HmiVariablesGoUnderTheirExactlyNamedGroups)
 {
-    TempDir dir;
-    CHmiVariableDatabase db;
     ASSERT_EQ(db.ReadHmiDatabase(dir.Write("hmidb.xml",
         "<hmidb>"
         "<datagroup name=\"io\"><data name=\"level\" dbname=\"plc\" dataname=\"lv\"/></datagroup>"
@@ -112,13 +111,11 @@ TEST(VariableDatabase, HmiVariablesGoUnderTheirExactlyNamedGroups)
     EXPECT_EQ(db.ReadHmiDatabase(dir.Write("wrong.xml", "<hmidbs/>")), 0);
 }
 
-TEST(VariableDatabase, AProjectOffersEveryReferenceTextInTreeOrder)
+TEST_F(VariableDatabaseTest, AProjectOffersEveryReferenceTextInTreeOrder)
 {
-    TempDir dir;
     dir.Write("rtdb.xml", "<rtdbs><rtdb name=\"plc\"><data name=\"x\" type=\"long\" init=\"0\"/>"
                           "<datagroup name=\"g\"><datalias aliasname=\"y\" name=\"x\"/></datagroup></rtdb></rtdbs>");
     dir.Write("hmidb.xml", "<hmidb><datagroup name=\"memory\"><data name=\"speed\"/></datagroup></hmidb>");
-    CHmiVariableDatabase db;
     db.LoadProject(dir.Path(""));
     EXPECT_EQ(db.AllReferenceTexts(), (std::vector<std::string>{"$plc.x", "$plc.y", "$speed"}));
 
@@ -127,11 +124,9 @@ TEST(VariableDatabase, AProjectOffersEveryReferenceTextInTreeOrder)
     EXPECT_TRUE(none.AllReferenceTexts().empty());
 }
 
-TEST(VariableDatabase, HostileNestingGivesADefinedResult)
+TEST_F(VariableDatabaseTest, HostileNestingGivesADefinedResult)
 {
-    TempDir dir;
     constexpr int kDepth = 100000;
-    CHmiVariableDatabase db;
     db.ReadRealtimeDatabase(dir.Write("deep.xml", "<rtdbs><rtdb name=\"d\">" + Groups(kDepth) + "</rtdb></rtdbs>"));
     // The parser refuses such depth; whatever it lets through is walked without recursion.
     EXPECT_LE(db.RealtimeRoot().children.size(), 1u);

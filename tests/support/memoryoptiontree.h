@@ -10,7 +10,10 @@
 // rows a widget built and play the user's edits back to it.
 class MemoryOptionItem : public COptionTreeItem {
 public:
-    MemoryOptionItem(OptionItemKind kind, MemoryOptionItem* parent, std::string caption, std::string info);
+    MemoryOptionItem(OptionItemKind kind, MemoryOptionItem* parent, std::string caption, std::string info)
+        : kind(kind), parent(parent), caption(std::move(caption)), info(std::move(info))
+    {
+    }
 
     COptionTreeItem* GetParent() const override { return parent; }
     std::string GetLabelText() const override { return caption; }
@@ -50,7 +53,11 @@ public:
         return CreateNewItem(OptionItemKind::Root, nullptr, caption, info);
     }
     COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
-                                   const std::string& info) override;
+                                   const std::string& info) override
+    {
+        auto* memoryParent = static_cast<MemoryOptionItem*>(parent);
+        return items.emplace_back(std::make_unique<MemoryOptionItem>(kind, memoryParent, caption, info)).get();
+    }
 
     // The first item with this caption (under the given root caption, when one is given).
     MemoryOptionItem* Find(const std::string& caption, const std::string& rootCaption = {}) const;

@@ -39,12 +39,6 @@ std::vector<RecordingDC::Shape> RecordingDC::ShapesOfKind(const std::string& kin
 
 RecordingDC::Shape& RecordingDC::Record(const char* kind, const HmiRect& rect)
 {
-    Shape& shape = shapes.emplace_back();
-    shape.kind = kind;
-    shape.rect = rect;
-    shape.pen = pen;
-    shape.brush = brush;
-    shape.font = font;
-    shape.bkMode = bkMode;
-    return shape;
+    return shapes.emplace_back(
+        Shape{.kind = kind, .rect = rect, .pen = pen, .brush = brush, .font = font, .bkMode = bkMode});
 }

@@ -60,3 +60,13 @@ public:
 private:
     Shape& Record(const char* kind, const HmiRect& rect);
 };
+
+// What a widget (or anything else with a Draw(CHmiDC&)) draws into a view of the given area.
+template <class Drawable>
+RecordingDC DrawnBy(Drawable& drawable, const HmiRect& view = RecordingDC().clipBox)
+{
+    RecordingDC dc;
+    dc.clipBox = view;
+    drawable.Draw(dc);
+    return dc;
+}

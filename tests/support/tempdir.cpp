@@ -7,12 +7,6 @@
 #include <iterator>
 #include <unistd.h>
 
-namespace {
-
-constexpr uid_t kNobody = 65534;
-
-} // namespace
-
 TempDir::TempDir()
 {
     std::string pattern = (std::filesystem::temp_directory_path() / "kelvo-test-XXXXXX").string();
@@ -59,6 +53,7 @@ std::vector<std::string> TempDir::Entries() const
 
 UnprivilegedScope::UnprivilegedScope()
 {
+    constexpr uid_t kNobody = 65534;
     if (::geteuid() == 0)
         m_dropped = ::seteuid(kNobody) == 0;
 }

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <sys/wait.h>
@@ -21,12 +22,12 @@ struct ToolRun {
 };
 
 // Runs the tool with the arguments (already quoted for the shell), capturing stdout and
-// stderr, after the shell commands in limits (ulimit settings for the tool).
-ToolRun RunTool(const std::string& arguments, const std::string& limits = "")
+// stderr, after the shell text in prefix (ulimit settings or environment assignments).
+ToolRun RunTool(const std::string& arguments, const std::string& prefix = "")
 {
     ToolRun run;
     const TempDir dir;
-    const std::string command = limits + std::string(KELVO_HMI_TOOL) + " " + arguments + " 2>'" +
+    const std::string command = prefix + std::string(KELVO_HMI_TOOL) + " " + arguments + " 2>'" +
                                 dir.Path("errors") + "'";
     FILE* pipe = popen(command.c_str(), "r");
     if (!pipe)
@@ -40,18 +41,6 @@ ToolRun RunTool(const std::string& arguments, const std::string& limits = "")
     return run;
 }
 
-// The window files of the fuzz corpus with huge coordinates and counts.
-std::vector<std::string> HostileWindowFiles()
-{
-    std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(KELVO_HOSTILE_WINDOWS_DIR)) {
-        const std::string name = entry.path().filename().string();
-        if (name.starts_with("huge-") || name.starts_with("reversed-"))
-            files.push_back(entry.path().string());
-    }
-    return files;
-}
-
 // Half a minute of processor time and a gigabyte of address space are far more than any of them
 // needs; address-sanitised programs reserve terabytes up front, so there only the time counts.
 #if defined(__SANITIZE_ADDRESS__)
@@ -60,23 +49,27 @@ const char* const kRenderLimits = "ulimit -t 30; ";
 const char* const kRenderLimits = "ulimit -t 30; ulimit -v 1048576; ";
 #endif
 
-const char* kWindowFile = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
-                          "<widget name=\"window\" class=\"window\"><properties>"
-                          "<property name=\"right\" type=\"short\" value=\"40\"/>"
-                          "<property name=\"bottom\" type=\"short\" value=\"30\"/>"
-                          "<property name=\"bkcolor\" type=\"ulong\" value=\"255\"/>"
-                          "</properties></widget>\n"
-                          "<widget name=\"tick\" class=\"timer\"><properties>"
-                          "<property name=\"left\" type=\"short\" value=\"5\"/>"
-                          "<property name=\"right\" type=\"short\" value=\"9\"/>"
-                          "</properties></widget>\n</hmiwidget>\n";
+// A red window of the given size with a timer on it.
+std::string WindowFile(int right = 40, int bottom = 30)
+{
+    return "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n"
+           "<widget name=\"window\" class=\"window\"><properties>"
+           "<property name=\"right\" type=\"short\" value=\"" + std::to_string(right) + "\"/>"
+           "<property name=\"bottom\" type=\"short\" value=\"" + std::to_string(bottom) + "\"/>"
+           "<property name=\"bkcolor\" type=\"ulong\" value=\"255\"/>"
+           "</properties></widget>\n"
+           "<widget name=\"tick\" class=\"timer\"><properties>"
+           "<property name=\"left\" type=\"short\" value=\"5\"/>"
+           "<property name=\"right\" type=\"short\" value=\"9\"/>"
+           "</properties></widget>\n</hmiwidget>\n";
+}
 
 } // namespace
 
 TEST(CommandLine, ListsRoundTripsAndListsVariables)
 {
     TempDir dir;
-    const std::string in = dir.Write("w.xml", kWindowFile);
+    const std::string in = dir.Write("w.xml", WindowFile());
     const ToolRun list = RunTool("list '" + in + "'");
     EXPECT_EQ(list.status, 0);
     EXPECT_EQ(list.output, "tick\ttimer\t5\t0\t9\t0\nwindow\twindow\t0\t0\t40\t30\n");
@@ -96,7 +89,7 @@ TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
     TempDir dir;
     EXPECT_EQ(RunTool("list '" + dir.Path("missing.xml") + "'").status, 1);
     EXPECT_EQ(RunTool("render '" + dir.Path("missing.xml") + "' '" + dir.Path("x.png") + "'").status, 1);
-    EXPECT_EQ(RunTool("render '" + dir.Write("w.xml", kWindowFile) + "' '" + dir.Path("none/x.png") + "'").status, 1);
+    EXPECT_EQ(RunTool("render '" + dir.Write("w.xml", WindowFile()) + "' '" + dir.Path("none/x.png") + "'").status, 1);
     EXPECT_EQ(RunTool("list").status, 2);
     EXPECT_EQ(RunTool("vars /nonexistent/project").status, 1);
     EXPECT_EQ(RunTool("render a b --folder c").status, 2);
@@ -109,14 +102,11 @@ TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)
     std::string why;
     ASSERT_TRUE(CommaLocale::Prepare(why)) << why;
     TempDir dir;
-    for (const char* window : {"main.xml", "pumps.xml", "trends.xml"}) {
-        const std::string in = std::string(KELVO_DEMO_DIR) + "/" + window;
-        const std::string plain = dir.Path(std::string("plain-") + window);
-        const std::string comma = dir.Path(std::string("comma-") + window);
-        ASSERT_EQ(RunTool("roundtrip '" + in + "' '" + plain + "'").status, 0);
-        const std::string command = "roundtrip '" + in + "' '" + comma + "'";
-        ASSERT_EQ(std::system((CommaLocale::ShellEnvironment() + " " + KELVO_HMI_TOOL + " " + command).c_str()), 0);
-        EXPECT_EQ(dir.Read(std::string("comma-") + window), dir.Read(std::string("plain-") + window)) << window;
+    for (const std::string window : {"main.xml", "pumps.xml", "trends.xml"}) {
+        const std::string roundtrip = "roundtrip '" + std::string(KELVO_DEMO_DIR) + "/" + window + "' '" + dir.Path("");
+        ASSERT_EQ(RunTool(roundtrip + "plain-" + window + "'").status, 0);
+        ASSERT_EQ(RunTool(roundtrip + "comma-" + window + "'", CommaLocale::ShellEnvironment() + " ").status, 0);
+        EXPECT_EQ(dir.Read("comma-" + window), dir.Read("plain-" + window)) << window;
     }
     EXPECT_NE(dir.Read("comma-trends.xml").find("type=\"float\" value=\"150.000000\""), std::string::npos);
 }
@@ -124,7 +114,7 @@ TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)
 TEST(CommandLine, RenderingOnAFullDiskKeepsTheOlderImage)
 {
     TempDir dir;
-    const std::string in = dir.Write("w.xml", kWindowFile);
+    const std::string in = dir.Write("w.xml", WindowFile());
     const std::string out = dir.Write("w.png", "older image");
     ToolRun run;
     {
@@ -138,28 +128,29 @@ TEST(CommandLine, RenderingOnAFullDiskKeepsTheOlderImage)
 
 TEST(CommandLine, RendersHostileWindowsWithinBoundedMemoryAndTime)
 {
-    const std::vector<std::string> files = HostileWindowFiles();
-    ASSERT_GE(files.size(), 8u);
-    for (const std::string& file : files) {
-        SCOPED_TRACE(file);
+    // The window files of the fuzz corpus with huge coordinates and counts.
+    int rendered = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(KELVO_HOSTILE_WINDOWS_DIR)) {
+        const std::string name = entry.path().filename().string();
+        if (!name.starts_with("huge-") && !name.starts_with("reversed-"))
+            continue;
+        SCOPED_TRACE(name);
+        ++rendered;
         TempDir dir;
-        const ToolRun run = RunTool("render '" + file + "' '" + dir.Path("out.png") + "'", kRenderLimits);
+        const ToolRun run =
+            RunTool("render '" + entry.path().string() + "' '" + dir.Path("out.png") + "'", kRenderLimits);
         EXPECT_EQ(run.status, 0) << run.errors;
         const QImage image(QString::fromStdString(dir.Path("out.png")));
         EXPECT_FALSE(image.isNull());
-        EXPECT_LE(image.width(), 4096);
-        EXPECT_LE(image.height(), 4096);
+        EXPECT_LE(std::max(image.width(), image.height()), 4096);
     }
+    EXPECT_GE(rendered, 8);
 }
 
 TEST(CommandLine, DrawsAHugeWindowClippedToItsTopLeftAndSaysSo)
 {
     TempDir dir;
-    const std::string in = dir.Write("w.xml", "<hmiwidget><widget name=\"window\" class=\"window\"><properties>"
-                                              "<property name=\"right\" type=\"short\" value=\"100000\"/>"
-                                              "<property name=\"bottom\" type=\"short\" value=\"300\"/>"
-                                              "<property name=\"bkcolor\" type=\"ulong\" value=\"255\"/>"
-                                              "</properties></widget></hmiwidget>");
+    const std::string in = dir.Write("w.xml", WindowFile(100000, 300));
     const ToolRun run = RunTool("render '" + in + "' '" + dir.Path("w.png") + "'", kRenderLimits);
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "kelvo-hmi: the window is 100000 x 300 pixels; drawn clipped to its top-left 4096 x 300\n");

@@ -3,7 +3,6 @@
 // are pinned down by the catalogue reference.
 
 #include "ownproperties.h"
-#include "project/namelists.h"
 #include "project/projectpath.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/recordingdc.h"
@@ -23,17 +22,22 @@
 
 namespace {
 
-std::string Line(const std::string& name, const char* type, const std::string& value, const char* length = nullptr)
+std::string HistoryLine(const std::string& name)
 {
-    std::string line = "\t\t\t<property name=\"" + name + "\" type=\"" + type + "\" ";
-    if (length)
-        line += std::string("length=\"") + length + "\" ";
-    return line + "value=\"" + value + "\" />\n";
+    return PropertyLine("historyname", "string", name, "32");
 }
 
 std::string LogLines(const char* index, const std::string& name)
 {
-    return Line("lognamenum", "ushort", index) + Line("logname", "string", name, "32");
+    return PropertyLine("lognamenum", "ushort", index) + PropertyLine("logname", "string", name, "32");
+}
+
+std::vector<HmiRect> RectsOf(const std::vector<RecordingDC::Shape>& shapes)
+{
+    std::vector<HmiRect> rects;
+    for (const RecordingDC::Shape& shape : shapes)
+        rects.push_back(shape.rect);
+    return rects;
 }
 
 constexpr const char* kTwoDatabases = "<zqhistory><historydb name=\"boiler\"/><historydb name=\"pumps\"/></zqhistory>";
@@ -87,16 +91,15 @@ struct ProjectNameTest : ::testing::Test {
 
 // A fixed sequence of samples for the curve preview, counting those taken.
 struct FixedSamples {
-    explicit FixedSamples(std::vector<int> values) : saved(CurveSettings::RandomSample())
+    explicit FixedSamples(std::vector<int> values)
+        : saved(std::exchange(CurveSettings::RandomSample(), [=, this] { return values[taken++ % values.size()]; }))
     {
-        CurveSettings::RandomSample() = [this, values]() { return values[taken++ % values.size()]; };
     }
     ~FixedSamples() { CurveSettings::RandomSample() = saved; }
     FixedSamples(const FixedSamples&) = delete;
     FixedSamples& operator=(const FixedSamples&) = delete;
 
-    mutable std::size_t taken = 0;
-
+    std::size_t taken = 0;
     std::function<int()> saved;
 };
 
@@ -106,15 +109,14 @@ TEST(ControlWidgets, WriteWhatWasTypedAndShowTheFirstItemWithoutAControl)
 {
     CHmiWidgetCheckbox checkbox;
     checkbox.m_strVariable = std::string(40, 'v');
-    EXPECT_NE(OwnPropertyLines(checkbox).find(Line("variable", "string", std::string(40, 'v'))), std::string::npos)
+    EXPECT_TRUE(OwnPropertyLines(checkbox).ends_with(PropertyLine("variable", "string", std::string(40, 'v'))))
         << "a variable longer than the short length is written without one";
 
     CHmiWidgetCombobox combobox;
     ASSERT_EQ(combobox.SetWidgetProperty("list", "string", "a,b,,c", ""), 1);
-    EXPECT_TRUE(OwnPropertyLines(combobox).starts_with(Line("list", "string", "a,b,,c")));
+    EXPECT_TRUE(OwnPropertyLines(combobox).starts_with(PropertyLine("list", "string", "a,b,,c")));
     combobox.SetWidgetRect({0, 0, 100, 20});
-    RecordingDC combo;
-    combobox.Draw(combo);
+    const RecordingDC combo = DrawnBy(combobox);
     ASSERT_EQ(combo.ShapesOfKind("text").size(), 1u);
     EXPECT_EQ(combo.ShapesOfKind("text")[0].text, "a") << "the first item shows";
 }
@@ -124,29 +126,7 @@ TEST_F(ProjectNameTest, NewWidgetsWriteTheFirstNameTheProjectLists)
     UseProject(kTwoDatabases, kTwoLogs);
     EXPECT_NE(OwnPropertyLines(CHmiWidgetCurve()).find(LogLines("0", "fast")), std::string::npos);
     for (const HmiWidgetPtr& widget : {HmiWidgetPtr(new CHmiWidgetHisCurve), HmiWidgetPtr(new CHmiWidgetHisList)})
-        EXPECT_TRUE(OwnPropertyLines(*widget).starts_with(Line("historyname", "string", "boiler", "32")));
-}
-
-TEST(RealtimeCurve, EachSeriesIsReadEditedAndClonedAtItsNumber)
-{
-    CHmiWidgetCurve curve;
-    curve.SetWidgetProperty("datacolor16", "ulong", "0xFF00", "");
-    curve.SetWidgetProperty("adddata3", "float", "2.5", "");
-    curve.SetWidgetProperty("valuevarname1", "string", "$speed", "");
-    EXPECT_EQ(curve.m_dataColor[15], 0xFF00u);
-    EXPECT_FLOAT_EQ(curve.m_addData[2], 2.5f);
-    EXPECT_EQ(curve.m_valueVarName[0], "$speed");
-
-    MemoryOptionTree tree;
-    curve.CreateWidgetPropertyTree(tree);
-    MemoryOptionItem* colour = tree.Find("Color2", "Curve properties");
-    ASSERT_NE(colour, nullptr);
-    colour->SetColor(0x00FF00);
-    curve.UpdateWidgetPropByTree(colour);
-    const HmiWidgetPtr copy = curve.Clone();
-    const auto& clone = dynamic_cast<const CHmiWidgetCurve&>(*copy);
-    EXPECT_EQ(clone.m_dataColor[1], 0x00FF00u);
-    EXPECT_EQ(clone.m_valueVarName[0], "$speed");
+        EXPECT_TRUE(OwnPropertyLines(*widget).starts_with(HistoryLine("boiler")));
 }
 
 // Dragged widths and the field dialog's columns are covered with the editor's live list controls.
@@ -161,7 +141,7 @@ TEST(ListColumns, FieldsAndWidthsOfTheSameCountMakeTheColumns)
     alarm.SetWidgetProperty("dispfields", "string", "Time,Event Type,", "");
     alarm.SetWidgetProperty("fieldswidth", "string", "150,80,80,", "");
     EXPECT_TRUE(alarm.m_columns.empty()) << "two fields and three widths give no columns";
-    EXPECT_NE(OwnPropertyLines(alarm).find(Line("fieldswidth", "string", "", "32")), std::string::npos);
+    EXPECT_NE(OwnPropertyLines(alarm).find(PropertyLine("fieldswidth", "string", "", "32")), std::string::npos);
 }
 
 TEST(CurvePreview, DrawsTheGridLabelsAndScaledSamples)
@@ -171,29 +151,23 @@ TEST(CurvePreview, DrawsTheGridLabelsAndScaledSamples)
     curve.SetWidgetRect({0, 0, 260, 130});
     curve.m_nXPoints = 3;
     curve.m_nCurveNum = 1;
-    RecordingDC dc;
-    curve.Draw(dc);
+    const RecordingDC dc = DrawnBy(curve);
 
-    const auto rectangles = dc.ShapesOfKind("rectangle");
-    ASSERT_EQ(rectangles.size(), 2u);
-    EXPECT_EQ(rectangles[0].rect, (HmiRect{0, 0, 260, 130}));
-    EXPECT_EQ(rectangles[1].rect, (HmiRect{30, 15, 230, 115}));
+    EXPECT_EQ(RectsOf(dc.ShapesOfKind("rectangle")), (std::vector<HmiRect>{{0, 0, 260, 130}, {30, 15, 230, 115}}));
     const auto texts = dc.ShapesOfKind("text");
-    ASSERT_EQ(texts.size(), 5u) << "fewer points than lines leave the time labels out";
-    EXPECT_EQ(texts[0].text, "0.00");
-    EXPECT_EQ(texts[0].rect, (HmiRect{5, 110, 30, 135}));
-    EXPECT_EQ(texts[1].text, "25.00");
-    EXPECT_EQ(texts[4].text, "100.00");
-    EXPECT_EQ(texts[4].rect, (HmiRect{5, 10, 30, 35}));
-
+    const char* const labels[] = {"0.00", "25.00", "50.00", "75.00", "100.00"};
+    ASSERT_EQ(texts.size(), std::size(labels)) << "fewer points than lines leave the time labels out";
+    for (std::size_t t = 0; t < texts.size(); ++t) {
+        EXPECT_EQ(texts[t].text, labels[t]);
+        EXPECT_EQ(texts[t].rect, (HmiRect{5, 110 - 25 * std::int32_t(t), 30, 135 - 25 * std::int32_t(t)}));
+    }
+    // Five vertical and three horizontal grid lines, then the samples 0, 32767 and 16384.
     const auto lines = dc.ShapesOfKind("line");
-    ASSERT_EQ(lines.size(), 5u + 3u + 3u);
-    EXPECT_EQ(lines[0].rect, (HmiRect{63, 15, 63, 115})) << "the first vertical line";
-    EXPECT_EQ(lines[5].rect, (HmiRect{30, 40, 230, 40})) << "the first horizontal line";
-    EXPECT_EQ(lines[8].rect, (HmiRect{30, 115, 30, 115})) << "the first sample at the bottom";
-    EXPECT_EQ(lines[9].rect, (HmiRect{30, 115, 130, 15})) << "the largest sample at the top";
-    EXPECT_EQ(lines[10].rect.right, 230);
-    EXPECT_EQ(lines[10].pen, (HmiPen{HmiPenStyle::Solid, 0, 0xFF}));
+    EXPECT_EQ(RectsOf(lines), (std::vector<HmiRect>{{63, 15, 63, 115}, {96, 15, 96, 115}, {130, 15, 130, 115},
+                                                     {163, 15, 163, 115}, {196, 15, 196, 115}, {30, 40, 230, 40},
+                                                     {30, 65, 230, 65}, {30, 90, 230, 90}, {30, 115, 30, 115},
+                                                     {30, 115, 130, 15}, {130, 15, 230, 65}}));
+    EXPECT_EQ(lines.back().pen, (HmiPen{HmiPenStyle::Solid, 0, 0xFF}));
     EXPECT_EQ(dc.pen, HmiPen{}) << "the curve pen is released";
 }
 
@@ -201,9 +175,7 @@ TEST(CurvePreview, TimeLabelsStandUnderTheLeftEdgeAndEachVerticalLine)
 {
     CHmiWidgetCurve curve;
     curve.SetWidgetRect({0, 0, 260, 130});
-    RecordingDC dc;
-    curve.Draw(dc);
-    const auto texts = dc.ShapesOfKind("text");
+    const auto texts = DrawnBy(curve).ShapesOfKind("text");
     ASSERT_EQ(texts.size(), 5u + 6u);
     for (std::size_t t = 0; t < 6; ++t) {
         const HmiRect& at = texts[5 + t].rect;
@@ -217,22 +189,16 @@ TEST(CurvePreview, GuardsDivisionsAndCapsTheCurves)
     CHmiWidgetCurve curve;
     curve.SetWidgetRect({0, 0, 100, 100});
     curve.m_nCurveNum = 40;
-    RecordingDC many;
-    curve.Draw(many);
-    EXPECT_EQ(many.ShapesOfKind("line").size(), 5u + 3u + 16u * 50u) << "at most 16 curves";
+    EXPECT_EQ(DrawnBy(curve).ShapesOfKind("line").size(), 5u + 3u + 16u * 50u) << "at most 16 curves";
 
     for (auto spoil : std::vector<std::function<void(CHmiWidgetCurve&)>>{
-             [](CHmiWidgetCurve& c) { c.m_nXPoints = 1; },
-             [](CHmiWidgetCurve& c) { c.m_fMaxValue = c.m_fMinValue; },
-             [](CHmiWidgetCurve& c) { c.m_nVLines = -1; c.m_nHLines = -1; },
-             [](CHmiWidgetCurve& c) { c.m_nHLines = 80; },
-             [](CHmiWidgetCurve& c) { c.m_nCurveNum = -2; }}) {
+             [](auto& c) { c.m_nXPoints = 1; }, [](auto& c) { c.m_fMaxValue = c.m_fMinValue; },
+             [](auto& c) { c.m_nVLines = c.m_nHLines = -1; }, [](auto& c) { c.m_nHLines = 80; },
+             [](auto& c) { c.m_nCurveNum = -2; }}) {
         CHmiWidgetCurve odd;
         odd.SetWidgetRect({0, 0, 40, 20}); // narrower than its margins
         spoil(odd);
-        RecordingDC dc;
-        odd.Draw(dc);
-        EXPECT_FALSE(dc.shapes.empty());
+        EXPECT_FALSE(DrawnBy(odd).shapes.empty());
     }
 }
 
@@ -262,24 +228,19 @@ std::string Kept(const char* kind, const char* what, const char* name, const cha
 const std::vector<NameCase>& NameCases()
 {
     static const std::vector<NameCase> cases = {
-        {"unknown database of a list", kTwoDatabases, nullptr, "hislist", Line("historyname", "string", "plant2", "32"),
+        {"unknown database of a list", kTwoDatabases, nullptr, "hislist", HistoryLine("plant2"),
          {"boiler", "pumps", "plant2 (not in the project)"}, 2, Kept("History list", "history database", "plant2")},
-        {"unknown database of a curve", kTwoDatabases, nullptr, "hiscurve",
-         Line("historyname", "string", "plant2", "32"), {"boiler", "pumps", "plant2 (not in the project)"}, 2,
-         Kept("History curve", "history database", "plant2")},
-        {"listed database", kTwoDatabases, nullptr, "hislist", Line("historyname", "string", "pumps", "32"),
-         {"boiler", "pumps"}, 1, ""},
-        {"no database where the project lists some", kTwoDatabases, nullptr, "hiscurve",
-         Line("historyname", "string", "", "32"), {"boiler", "pumps", "(no name) (not in the project)"}, 2,
-         Kept("History curve", "history database", "")},
-        {"no history.xml", nullptr, nullptr, "hislist", Line("historyname", "string", "boiler", "32"),
-         {"boiler (not in the project)"}, 0, Kept("History list", "history database", "boiler")},
-        {"no history.xml and no name", nullptr, nullptr, "hislist", Line("historyname", "string", "", "32"), {}, -1,
-         ""},
-        {"older history form", kOlderHistory, nullptr, "hiscurve", Line("historyname", "string", "plant2", "32"),
+        {"unknown database of a curve", kTwoDatabases, nullptr, "hiscurve", HistoryLine("plant2"),
+         {"boiler", "pumps", "plant2 (not in the project)"}, 2, Kept("History curve", "history database", "plant2")},
+        {"listed database", kTwoDatabases, nullptr, "hislist", HistoryLine("pumps"), {"boiler", "pumps"}, 1, ""},
+        {"no database where the project lists some", kTwoDatabases, nullptr, "hiscurve", HistoryLine(""),
+         {"boiler", "pumps", "(no name) (not in the project)"}, 2, Kept("History curve", "history database", "")},
+        {"no history.xml", nullptr, nullptr, "hislist", HistoryLine("boiler"), {"boiler (not in the project)"}, 0,
+         Kept("History list", "history database", "boiler")},
+        {"no history.xml and no name", nullptr, nullptr, "hislist", HistoryLine(""), {}, -1, ""},
+        {"older history form", kOlderHistory, nullptr, "hiscurve", HistoryLine("plant2"),
          {"", "plant2 (not in the project)"}, 1, Kept("History curve", "history database", "plant2")},
-        {"older history form and no name", kOlderHistory, nullptr, "hislist", Line("historyname", "string", "", "32"),
-         {""}, 0, ""},
+        {"older history form and no name", kOlderHistory, nullptr, "hislist", HistoryLine(""), {""}, 0, ""},
         {"unknown log", nullptr, kTwoLogs, "curve", LogLines("3", "plant2"),
          {"fast", "slow", "plant2 (index 3, not in the project)"}, 2,
          Kept("Realtime curve", "data log", "plant2", " (index 3)")},
@@ -290,8 +251,8 @@ const std::vector<NameCase>& NameCases()
          {"fast", "slow", "(no name) (index 5, not in the project)"}, 2,
          Kept("Realtime curve", "data log", "", " (index 5)")},
         {"listed log", nullptr, kTwoLogs, "curve", LogLines("1", "slow"), {"fast", "slow"}, 1, ""},
-        {"log by its index alone", nullptr, kTwoLogs, "curve", Line("lognamenum", "ushort", "1"), {"fast", "slow"}, 1,
-         ""},
+        {"log by its index alone", nullptr, kTwoLogs, "curve", PropertyLine("lognamenum", "ushort", "1"),
+         {"fast", "slow"}, 1, ""},
         {"no datalog.xml", nullptr, nullptr, "curve", LogLines("0", "fast"), {"fast (index 0, not in the project)"}, 0,
          Kept("Realtime curve", "data log", "fast", " (index 0)")},
         {"no datalog.xml and no name", nullptr, nullptr, "curve", LogLines("0", ""), {}, -1, ""},
@@ -359,35 +320,18 @@ TEST_F(ProjectNameTest, PaneMarksAKeptNameAndAPickedOneReplacesIt)
     }
 }
 
-TEST_F(ProjectNameTest, TheHistoryListFindsNoVariablesOfAKeptDatabase)
-{
-    UseProject("<zqhistory><historydb name=\"boiler\"><history dataname=\"temperature\"/></historydb></zqhistory>",
-               nullptr);
-    const HmiWidgetPtr widget = Read("hislist", Line("historyname", "string", "plant2", "32"));
-    const auto& list = dynamic_cast<const CHmiWidgetHisList&>(*widget);
-    EXPECT_EQ(list.HistoryName(), "plant2");
-    EXPECT_TRUE(GetHistoryVariableNames(list.HistoryName()).empty());
-    EXPECT_EQ(GetHistoryVariableNames(list.HistoryNames().NameAt(0)), std::vector<std::string>{"temperature"});
-}
-
 TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
 {
     // A plot of 540 x 370 pixels, at (30, 15), in a view of 640 x 480.
     CHmiWidgetCurve curve;
     curve.SetWidgetRect({0, 0, 600, 400});
-    curve.m_nHLines = INT_MAX;
-    curve.m_nVLines = INT_MAX;
-    curve.m_nXPoints = INT_MAX;
+    curve.m_nHLines = curve.m_nVLines = curve.m_nXPoints = INT_MAX;
     curve.m_nCurveNum = 1;
     const FixedSamples samples({0, 32767});
-    RecordingDC dc;
-    dc.clipBox = {0, 0, 640, 480};
-    curve.Draw(dc);
-
-    std::size_t gridLines = 0;
-    for (const RecordingDC::Shape& line : dc.ShapesOfKind("line"))
-        gridLines += line.pen.width == 1 ? 1 : 0;
-    EXPECT_LE(gridLines, 540u + 370u) << "one grid line per pixel column and row of the plot";
+    const RecordingDC dc = DrawnBy(curve, {0, 0, 640, 480});
+    const auto lines = dc.ShapesOfKind("line");
+    const auto gridLines = std::count_if(lines.begin(), lines.end(), [](const auto& l) { return l.pen.width == 1; });
+    EXPECT_LE(gridLines, 540 + 370) << "one grid line per pixel column and row of the plot";
     EXPECT_LE(dc.ShapesOfKind("text").size(), 2u * 640u) << "one label per pixel row and column";
     EXPECT_EQ(samples.taken, 65535u) << "the panel's 16-bit count of points";
 
@@ -400,9 +344,7 @@ TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
     margins.m_nXPoints = INT_MAX;
     margins.m_fMinValue = -3e38f;
     margins.m_fMaxValue = 3e38f;
-    RecordingDC view;
-    view.clipBox = {0, 0, 640, 480};
-    margins.Draw(view);
+    const RecordingDC view = DrawnBy(margins, {0, 0, 640, 480});
     EXPECT_LE(view.shapes.size(), 2u * 65535u + 2u * (640u + 480u));
 }
 
@@ -413,11 +355,8 @@ TEST(CurvePreview, PointsPastTheViewAreNeitherSampledNorDrawn)
     curve.m_nXPoints = 541; // one point per pixel column of the plot, x = 30 + p
     curve.m_nCurveNum = 1;
     const FixedSamples samples({16384});
-    RecordingDC dc;
-    dc.clipBox = {0, 0, 100, 100};
-    curve.Draw(dc);
+    EXPECT_EQ(DrawnBy(curve, {0, 0, 100, 100}).ShapesOfKind("line").back().rect.right, 100);
     EXPECT_EQ(samples.taken, 71u) << "the points at x 30 to 99 and the next one";
-    EXPECT_EQ(dc.ShapesOfKind("line").back().rect.right, 100);
 }
 
 TEST(ListPicture, HeadingsStopAtTheEdgeOfTheListOrOfTheView)
@@ -425,9 +364,8 @@ TEST(ListPicture, HeadingsStopAtTheEdgeOfTheListOrOfTheView)
     RecordingDC ends;
     ends.clipBox = {0, 0, 640, 480};
     DrawListPicture(ends, {INT_MIN, 0, INT_MAX, INT_MAX}, {{"a", INT_MAX}, {"b", INT_MAX}, {"c", INT_MIN}, {"d", 0}});
-    const auto headings = ends.ShapesOfKind("text");
-    ASSERT_EQ(headings.size(), 1u) << "the first column spans the list";
-    EXPECT_EQ(headings[0].text, "a");
+    ASSERT_EQ(ends.ShapesOfKind("text").size(), 1u) << "the first column spans the list";
+    EXPECT_EQ(ends.ShapesOfKind("text")[0].text, "a");
 
     RecordingDC view;
     view.clipBox = {0, 0, 100, 100};
@@ -436,6 +374,7 @@ TEST(ListPicture, HeadingsStopAtTheEdgeOfTheListOrOfTheView)
 
     RecordingDC hidden;
     DrawListPicture(hidden, {0, 0, 70, 100}, {{"a", 40}, {"hidden", 0}, {"b", 40}});
-    ASSERT_EQ(hidden.ShapesOfKind("text").size(), 2u) << "a column without width shows nothing";
-    EXPECT_EQ(hidden.ShapesOfKind("rectangle")[2].rect, (HmiRect{40, 0, 70, 20})) << "cut at the list's edge";
+    EXPECT_EQ(RectsOf(hidden.shapes), (std::vector<HmiRect>{{0, 0, 70, 100}, {0, 0, 40, 20}, {2, 0, 38, 20},
+                                                            {40, 0, 70, 20}, {42, 0, 68, 20}}))
+        << "a column without width shows nothing; the last is cut at the list's edge";
 }

@@ -37,9 +37,7 @@ TEST(CommaLocale, FloatsTravelWithAPointThroughFileListAndPreview)
     curve.UpdateWidgetPropByTree(minimum);
     EXPECT_FLOAT_EQ(curve.m_fMinValue, -1.5f);
 
-    RecordingDC dc;
-    curve.Draw(dc);
-    const auto texts = dc.ShapesOfKind("text");
+    const auto texts = DrawnBy(curve).ShapesOfKind("text");
     ASSERT_FALSE(texts.empty());
     EXPECT_EQ(texts.front().text, "-1.50");
 }

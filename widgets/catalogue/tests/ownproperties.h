@@ -21,3 +21,11 @@ inline std::string OwnPropertyLines(const CHmiWidget& widget)
     }
     return archive.substr(start);
 }
+
+// One `property` line as a widget writes it, with a length attribute when one is given.
+inline std::string PropertyLine(const std::string& name, const char* type, const std::string& value,
+                                const char* length = nullptr)
+{
+    return "\t\t\t<property name=\"" + name + "\" type=\"" + type + "\" " +
+           (length ? std::string("length=\"") + length + "\" " : "") + "value=\"" + value + "\" />\n";
+}

@@ -1,7 +1,6 @@
-// The button, text and input widgets and the picture: their file lines, the reading rules and
-// their drawing steps.
+// The drawing steps of the button, text and input widgets and the picture, and how a picture
+// file comes into the project.
 
-#include "ownproperties.h"
 #include "tests/support/fulldiskscope.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/recordingdc.h"
@@ -18,31 +17,6 @@
 #include <filesystem>
 #include <sys/stat.h>
 
-namespace {
-
-std::string Line(const char* name, const char* type, const std::string& value, const char* length = nullptr)
-{
-    std::string line = std::string("\t\t\t<property name=\"") + name + "\" type=\"" + type + "\" ";
-    if (length)
-        line += std::string("length=\"") + length + "\" ";
-    return line + "value=\"" + value + "\" />\n";
-}
-
-} // namespace
-
-TEST(Button, KeepsTheCaptionLengthItReadsAndReadsHexColours)
-{
-    CHmiWidgetButton button;
-    button.SetWidgetProperty("caption", "string", "Start", "24");
-    button.SetWidgetProperty("back_color", "ulong", "0x00FF00", "");
-    button.SetWidgetProperty("font_size", "ulong", "16", "");
-    EXPECT_EQ(button.m_backColor, 0xFF00u);
-    EXPECT_EQ(button.m_nFontSize, 3) << "the fourth size";
-    const std::string lines = OwnPropertyLines(button);
-    EXPECT_NE(lines.find(Line("caption", "string", "Start", "24")), std::string::npos);
-    EXPECT_NE(lines.find(Line("font_size", "ulong", "16")), std::string::npos);
-}
-
 TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
 {
     CHmiWidgetButton button;
@@ -50,8 +24,7 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     button.m_strCaption = "A&B";
     button.m_nFontSize = 1; // 8 points: the bold 12-pixel serif
     button.m_nShadowWidth = 2;
-    RecordingDC dc;
-    button.Draw(dc);
+    const RecordingDC dc = DrawnBy(button);
     ASSERT_EQ(dc.ShapesOfKind("rectangle").size(), 1u);
     EXPECT_EQ(dc.shapes[0].rect, (HmiRect{9, 9, 62, 32}));
     EXPECT_EQ(dc.shapes[0].brush.color, 0xC0C0C0u);
@@ -65,32 +38,12 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     ASSERT_EQ(text.size(), 1u);
     EXPECT_EQ(text[0].text, "A&B");
     EXPECT_EQ(text[0].format, HMI_DT_CENTER | HMI_DT_VCENTER | HMI_DT_SINGLELINE | HMI_DT_NOPREFIX);
-    EXPECT_EQ(text[0].font.face, "MS Serif");
-    EXPECT_EQ(text[0].font.height, 12);
-    EXPECT_EQ(text[0].font.weight, 700);
+    EXPECT_EQ(std::tuple(text[0].font.face, text[0].font.height, text[0].font.weight), std::tuple("MS Serif", 12, 700));
     EXPECT_EQ(text[0].bkMode, HmiBkMode::Transparent);
     EXPECT_EQ(dc.font, HmiFont::DefaultGui()) << "the previous font is put back";
 
     button.m_nFontSize = 9;
-    RecordingDC noFont;
-    button.Draw(noFont);
-    EXPECT_EQ(noFont.ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
-}
-
-TEST(Text, ReadsAlignAndFontSizeBackToKnownValues)
-{
-    CHmiWidgetText text;
-    for (const char* value : {"0", "7"}) {
-        text.SetWidgetProperty("align", "ulong", value, "");
-        EXPECT_EQ(text.m_nAlign, 1) << value;
-    }
-    text.SetWidgetProperty("fontsize", "ulong", "10", "");
-    EXPECT_EQ(text.m_nFontSize, 0);
-    text.SetWidgetProperty("align", "ulong", "3", "");
-    text.SetWidgetProperty("fontsize", "ulong", "16", "");
-    text.SetWidgetProperty("text", "string", "Boiler", "40");
-    EXPECT_EQ(OwnPropertyLines(text), Line("color", "ulong", "0") + Line("text", "string", "Boiler", "40") +
-                                          Line("align", "ulong", "3") + Line("fontsize", "ulong", "16"));
+    EXPECT_EQ(DrawnBy(button).ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
 }
 
 TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
@@ -100,8 +53,7 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     text.m_nAlign = 2;
     text.m_nFontSize = 1;
     text.m_color = 0xFF;
-    RecordingDC dc;
-    text.Draw(dc);
+    const RecordingDC dc = DrawnBy(text);
     const auto drawn = dc.ShapesOfKind("text");
     ASSERT_EQ(drawn.size(), 1u);
     EXPECT_EQ(drawn[0].rect, (HmiRect{10, 20, 50, 40}));
@@ -111,37 +63,10 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     EXPECT_EQ(dc.textColor, 0u) << "the previous text colour is put back";
 
     text.m_nFontSize = 0;
-    RecordingDC sans;
-    text.Draw(sans);
-    EXPECT_EQ(sans.ShapesOfKind("text")[0].font.face, "MS Sans Serif");
+    EXPECT_EQ(DrawnBy(text).ShapesOfKind("text")[0].font.face, "MS Sans Serif");
 
     text.m_nAlign = 7;
-    RecordingDC none;
-    text.Draw(none);
-    EXPECT_TRUE(none.shapes.empty());
-}
-
-TEST(InputFields, ReadNumbersInEitherBaseAndFloatsAsTyped)
-{
-    CHmiWidgetNumInput number;
-    number.SetWidgetProperty("backcolor", "ulong", "0xFF", "");
-    number.SetWidgetProperty("intwidth", "ulong", "0x10", "");
-    number.SetWidgetProperty("minvalue", "float", "-12.5", "");
-    number.SetWidgetProperty("fontsize", "ulong", "16", "");
-    number.SetWidgetProperty("align", "ulong", "0", "");
-    number.SetWidgetProperty("password", "uchar", "1", "");
-    EXPECT_EQ(number.m_backColor, 0xFFu);
-    EXPECT_EQ(number.m_nIntWidth, 16);
-    EXPECT_FLOAT_EQ(number.m_fMinValue, -12.5f);
-    EXPECT_EQ(number.m_nFontSize, 3);
-    EXPECT_EQ(number.m_nAlign, 1);
-    EXPECT_EQ(number.m_bPassword, 1);
-
-    CHmiWidgetTextInput text;
-    text.SetWidgetProperty("align", "ulong", "3", "");
-    EXPECT_EQ(text.m_nAlign, 3);
-    text.SetWidgetProperty("align", "ulong", "4", "");
-    EXPECT_EQ(text.m_nAlign, 1);
+    EXPECT_TRUE(DrawnBy(text).shapes.empty());
 }
 
 TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
@@ -149,8 +74,7 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     CHmiWidgetNumInput number;
     number.SetWidgetRect({0, 0, 80, 20});
     number.m_nAlign = 3;
-    RecordingDC transparent;
-    number.Draw(transparent);
+    const RecordingDC transparent = DrawnBy(number);
     ASSERT_EQ(transparent.shapes.size(), 1u);
     EXPECT_EQ(transparent.shapes[0].text, "##");
     EXPECT_EQ(transparent.shapes[0].format, HMI_DT_LEFT | HMI_DT_VCENTER | HMI_DT_SINGLELINE)
@@ -158,22 +82,18 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     EXPECT_EQ(transparent.shapes[0].font.face, "MS Serif");
 
     number.m_nTransparent = 0;
-    RecordingDC opaque;
-    number.Draw(opaque);
+    const RecordingDC opaque = DrawnBy(number);
     EXPECT_EQ(opaque.ShapesOfKind("rectangle").size(), 1u);
     EXPECT_EQ(opaque.ShapesOfKind("polygon").size(), 4u);
 
     CHmiWidgetTextInput text;
     text.m_nFontSize = 0;
-    RecordingDC textDc;
-    text.Draw(textDc);
+    const RecordingDC textDc = DrawnBy(text);
     ASSERT_EQ(textDc.ShapesOfKind("text").size(), 1u);
     EXPECT_EQ(textDc.shapes[0].text, "abc");
     EXPECT_EQ(textDc.shapes[0].font.face, "MS SansSerif");
     text.m_nAlign = 5;
-    RecordingDC nothing;
-    text.Draw(nothing);
-    EXPECT_TRUE(nothing.ShapesOfKind("text").empty());
+    EXPECT_TRUE(DrawnBy(text).ShapesOfKind("text").empty());
 }
 
 TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
@@ -183,16 +103,14 @@ TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
     auto* picture = new CHmiWidgetPic;
     picture->SetWidgetRect({1, 2, 30, 40});
     doc.AddWidget(HmiWidgetPtr(picture), true, false);
-    RecordingDC frame;
-    picture->Draw(frame);
+    const RecordingDC frame = DrawnBy(*picture);
     ASSERT_EQ(frame.shapes.size(), 1u);
     EXPECT_EQ(frame.shapes[0].kind, "rectangle");
 
     picture->m_strFileName = "pump.png";
     picture->m_nTransparent = 1;
     picture->m_transparentColor = 0xFF00FF;
-    RecordingDC dc;
-    picture->Draw(dc);
+    const RecordingDC dc = DrawnBy(*picture);
     ASSERT_EQ(dc.shapes.size(), 1u);
     EXPECT_EQ(dc.shapes[0].text, "/project/pump.png");
     EXPECT_EQ(dc.shapes[0].rect, (HmiRect{1, 2, 30, 40}));
@@ -225,11 +143,10 @@ TEST(Picture, ATypedPathIsCopiedIntoTheProjectOrChangesNothing)
 TEST(Picture, AnImportThatFailsKeepsThePictureOfTheSameName)
 {
     TempDir dir;
-    std::filesystem::create_directories(dir.Path("project"));
+    for (const char* folder : {"project", "fifo", "large"})
+        std::filesystem::create_directories(dir.Path(folder));
     const std::string project = dir.Path("project/");
     dir.Write("project/logo.png", "the picture the window shows");
-    std::filesystem::create_directories(dir.Path("fifo"));
-    std::filesystem::create_directories(dir.Path("large"));
     ASSERT_EQ(::mkfifo(dir.Path("fifo/logo.png").c_str(), 0644), 0);
     std::filesystem::resize_file(dir.Write("large/logo.png", ""), kMaxFileSize + 1);
     const std::string newer = dir.Write("logo.png", "a newer picture, longer than a full disk takes");

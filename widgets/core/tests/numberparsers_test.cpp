@@ -2,43 +2,29 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 // Leading blanks, a sign, and stopping at the first letter or at an "0x" are also pinned down
 // by the widget's file reader in hmiwidget_test.cpp.
-TEST(NumberParsers, DecimalConversionStopsAtFirstUnfitCharacter)
+TEST(NumberParsers, DecimalConversionStopsAtFirstUnfitCharacterAndSaturatesAtThe32BitLimits)
 {
-    EXPECT_EQ(HmiDecimalToLong("+8"), 8);
-    EXPECT_EQ(HmiDecimalToLong("16777215"), 0x00FFFFFF);
-    EXPECT_EQ(HmiDecimalToLong(""), 0);
-    EXPECT_EQ(HmiDecimalToLong("-"), 0);
+    const std::pair<const char*, std::int32_t> cases[] = {
+        {"+8", 8}, {"16777215", 0x00FFFFFF}, {"", 0}, {"-", 0}, {"2147483647", 2147483647},
+        {"2147483648", 2147483647}, {"-2147483648", -2147483647 - 1}, {"-99999999999999999999", -2147483647 - 1}};
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(HmiDecimalToLong(text), value) << text;
 }
 
-TEST(NumberParsers, DecimalConversionSaturatesAtThe32BitLimits)
+// "0x" anywhere switches the whole text to base 16 from its start; upper-case "0X" is no marker.
+// Unsigned values saturate at 0xFFFFFFFF and wrap a minus sign; signed ones saturate at the top.
+TEST(NumberParsers, HexadecimalWheneverTheTextContains0xAndUnsignedAndSignedDifferAtTheTop)
 {
-    EXPECT_EQ(HmiDecimalToLong("2147483647"), 2147483647);
-    EXPECT_EQ(HmiDecimalToLong("2147483648"), 2147483647);
-    EXPECT_EQ(HmiDecimalToLong("-2147483648"), -2147483647 - 1);
-    EXPECT_EQ(HmiDecimalToLong("-99999999999999999999"), -2147483647 - 1);
-}
-
-TEST(NumberParsers, HexadecimalWheneverTheTextContains0x)
-{
-    EXPECT_EQ(HmiParseULong("0x00FF00"), 65280u);
-    EXPECT_EQ(HmiParseULong("255"), 255u);
-    EXPECT_EQ(HmiParseULong("abc"), 0u);
-    // "0x" later in the text still switches the whole text to base 16 from its start.
-    EXPECT_EQ(HmiParseULong("12 (0x0C)"), 18u);
-    EXPECT_EQ(HmiParseLong("12 (0x0C)"), 18);
-    // Upper-case "0X" is no marker, so the text is decimal and stops at the X.
-    EXPECT_EQ(HmiParseULong("0XFF"), 0u);
-    EXPECT_EQ(HmiParseULong("ff 0x"), 255u);
-    EXPECT_EQ(HmiParseULong("0xg"), 0u);
-}
-
-TEST(NumberParsers, UnsignedAndSignedDifferAtTheTop)
-{
-    EXPECT_EQ(HmiParseULong("0xFFFFFFFF"), 0xFFFFFFFFu);
-    EXPECT_EQ(HmiParseLong("0xFFFFFFFF"), 2147483647);
-    EXPECT_EQ(HmiParseULong("0x1FFFFFFFF"), 0xFFFFFFFFu);
-    EXPECT_EQ(HmiParseULong("-1"), 0xFFFFFFFFu);
-    EXPECT_EQ(HmiParseLong("-0x10"), -16);
+    const std::pair<const char*, std::uint32_t> unsignedCases[] = {
+        {"0x00FF00", 65280u}, {"255", 255u}, {"abc", 0u}, {"12 (0x0C)", 18u}, {"0XFF", 0u}, {"ff 0x", 255u},
+        {"0xg", 0u}, {"0xFFFFFFFF", 0xFFFFFFFFu}, {"0x1FFFFFFFF", 0xFFFFFFFFu}, {"-1", 0xFFFFFFFFu}};
+    for (const auto& [text, value] : unsignedCases)
+        EXPECT_EQ(HmiParseULong(text), value) << text;
+    const std::pair<const char*, int> signedCases[] = {{"12 (0x0C)", 18}, {"0xFFFFFFFF", 2147483647}, {"-0x10", -16}};
+    for (const auto& [text, value] : signedCases)
+        EXPECT_EQ(HmiParseLong(text), value) << text;
 }

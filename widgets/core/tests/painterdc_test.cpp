@@ -12,6 +12,7 @@
 
 #include <climits>
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <sys/stat.h>
 
@@ -22,24 +23,26 @@ constexpr HmiColor kBlack = 0x000000;
 constexpr HmiColor kRed = 0x0000FF;
 constexpr HmiColor kBlue = 0xFF0000;
 
-// The set of pixels of one colour, as "x,y" texts, so that failures show where.
-std::set<std::string> PixelsOf(const CHmiImageDC& dc, HmiColor color)
+// The pixels of a width x height area where the rule holds, as "x,y" texts so that failures show
+// where.
+std::set<std::string> PixelsWhere(int width, int height, const std::function<bool(int x, int y)>& rule)
 {
     std::set<std::string> pixels;
-    for (int y = 0; y < dc.Height(); ++y)
-        for (int x = 0; x < dc.Width(); ++x)
-            if (dc.GetPixel(x, y) == color)
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            if (rule(x, y))
                 pixels.insert(std::to_string(x) + "," + std::to_string(y));
     return pixels;
 }
 
+std::set<std::string> PixelsOf(const CHmiImageDC& dc, HmiColor color)
+{
+    return PixelsWhere(dc.Width(), dc.Height(), [&](int x, int y) { return dc.GetPixel(x, y) == color; });
+}
+
 std::set<std::string> Span(int x0, int y0, int x1, int y1)
 {
-    std::set<std::string> pixels;
-    for (int y = y0; y <= y1; ++y)
-        for (int x = x0; x <= x1; ++x)
-            pixels.insert(std::to_string(x) + "," + std::to_string(y));
-    return pixels;
+    return PixelsWhere(x1 + 1, y1 + 1, [=](int x, int y) { return x >= x0 && y >= y0; });
 }
 
 std::set<HmiColor> ColoursIn(const CHmiImageDC& dc)
@@ -73,22 +76,15 @@ void DrawLine(CHmiDC& dc, HmiPoint from, HmiPoint to)
 
 TEST(PainterDC, RectangleCoversLeftToRightMinusOneOutlineIncluded)
 {
-    for (const HmiRect rect : {HmiRect{2, 3, 6, 7}, HmiRect{6, 7, 2, 3}}) {
-        CHmiImageDC dc(10, 10);
-        dc.SelectPen({HmiPenStyle::Solid, 1, kBlack});
-        dc.SelectBrush({false, kRed});
-        dc.Rectangle(rect);
-        EXPECT_EQ(PixelsOf(dc, kRed), Span(3, 4, 4, 5));
-        std::set<std::string> outline = Span(2, 3, 5, 6);
-        for (const std::string& inner : Span(3, 4, 4, 5))
-            outline.erase(inner);
-        EXPECT_EQ(PixelsOf(dc, kBlack), outline);
-    }
-    CHmiImageDC hollow(10, 10);
-    hollow.SelectBrush({true, kRed});
-    hollow.Rectangle({0, 0, 4, 4});
-    EXPECT_TRUE(PixelsOf(hollow, kRed).empty());
-    EXPECT_EQ(PixelsOf(hollow, kBlack).size(), 12u);
+    for (const bool hollow : {false, true})
+        for (const HmiRect rect : {HmiRect{2, 3, 6, 7}, HmiRect{6, 7, 2, 3}}) {
+            CHmiImageDC dc(10, 10);
+            dc.SelectBrush({hollow, kRed});
+            dc.Rectangle(rect);
+            EXPECT_EQ(PixelsOf(dc, kRed), hollow ? std::set<std::string>{} : Span(3, 4, 4, 5));
+            EXPECT_EQ(ExtentOf(dc, kBlack), (HmiRect{2, 3, 5, 6}));
+            EXPECT_EQ(PixelsOf(dc, kBlack).size(), 12u) << "the outline is one pixel wide around the fill";
+        }
 }
 
 TEST(PainterDC, LinesLeaveOutTheirEndPointInEveryDirection)
@@ -123,18 +119,12 @@ TEST(PainterDC, DottedPensRunThreeOnThreeOffAndFillGapsOnlyWhenOpaque)
     dc.SelectPen({HmiPenStyle::Dot, 1, kBlack});
     dc.SetBkMode(HmiBkMode::Transparent);
     DrawLine(dc, {0, 1}, {13, 1});
-    std::set<std::string> expected = Span(0, 1, 2, 1);
-    expected.merge(Span(6, 1, 8, 1));
-    expected.merge(Span(12, 1, 12, 1));
-    EXPECT_EQ(PixelsOf(dc, kBlack), expected);
-    EXPECT_EQ(PixelsOf(dc, kBlue).size(), 0u);
+    EXPECT_EQ(PixelsOf(dc, kBlack), (std::set<std::string>{"0,1", "1,1", "2,1", "6,1", "7,1", "8,1", "12,1"}));
 
     dc.SetBkMode(HmiBkMode::Opaque);
     dc.SetBkColor(kBlue);
     DrawLine(dc, {0, 2}, {13, 2});
-    std::set<std::string> gaps = Span(3, 2, 5, 2);
-    gaps.merge(Span(9, 2, 11, 2));
-    EXPECT_EQ(PixelsOf(dc, kBlue), gaps);
+    EXPECT_EQ(PixelsOf(dc, kBlue), (std::set<std::string>{"3,2", "4,2", "5,2", "9,2", "10,2", "11,2"}));
 }
 
 TEST(PainterDC, EllipseStaysInsideItsRectangle)
@@ -148,16 +138,11 @@ TEST(PainterDC, EllipseStaysInsideItsRectangle)
 
 TEST(PainterDC, TextIsTwoColouredWrapsAlignsAndFillsItsBackgroundWhenOpaque)
 {
-    CHmiImageDC dc(120, 60);
-    dc.SetBkMode(HmiBkMode::Transparent);
-    dc.SelectFont({"DejaVu Sans", -12, 400});
-    dc.DrawText("Hello", {0, 0, 120, 20}, HMI_DT_LEFT | HMI_DT_SINGLELINE);
-    EXPECT_EQ(ColoursIn(dc), (std::set<HmiColor>{kWhite, kBlack})) << "no antialiasing";
-
     CHmiImageDC wrapped(60, 60);
     wrapped.SelectFont({"DejaVu Sans", -12, 400});
     wrapped.SetBkMode(HmiBkMode::Transparent);
     wrapped.DrawText("wide words wrap", {0, 0, 60, 60}, HMI_DT_WORDBREAK);
+    EXPECT_EQ(ColoursIn(wrapped), (std::set<HmiColor>{kWhite, kBlack})) << "no antialiasing";
     EXPECT_GT(ExtentOf(wrapped, kBlack).bottom, 20) << "the words go on a second line";
 
     auto rightmostInk = [](HmiColor ink, std::uint32_t format) {
@@ -176,27 +161,19 @@ TEST(PainterDC, TextIsTwoColouredWrapsAlignsAndFillsItsBackgroundWhenOpaque)
 TEST(PainterDC, PicturesAreStretchedWithTheirTransparentColourLeftOut)
 {
     TempDir dir;
-    QImage picture(2, 2, QImage::Format_RGB32);
-    picture.setPixel(0, 0, qRgb(255, 0, 0));
-    picture.setPixel(1, 0, qRgb(0, 255, 0));
-    picture.setPixel(0, 1, qRgb(0, 0, 255));
-    picture.setPixel(1, 1, qRgb(0, 0, 0));
+    const uchar redGreenBlueBlack[] = {255, 0, 0, 0, 255, 0, 0, 0, 255, 0, 0, 0};
+    const QImage picture(redGreenBlueBlack, 2, 2, 6, QImage::Format_RGB888);
     const std::string path = dir.Path("tiles.png");
     ASSERT_TRUE(picture.save(QString::fromStdString(path)));
 
     CHmiImageDC dc(6, 6);
-    ASSERT_TRUE(dc.DrawPictureFile(path, {1, 1, 5, 5}, nullptr));
+    const HmiColor grey = 0x808080, green = 0x00FF00;
+    dc.FillSolidRect({0, 0, 6, 6}, grey);
+    ASSERT_TRUE(dc.DrawPictureFile(path, {1, 1, 5, 5}, &green));
     EXPECT_EQ(PixelsOf(dc, kRed), Span(1, 1, 2, 2));
     EXPECT_EQ(PixelsOf(dc, kBlue), Span(1, 3, 2, 4));
-    EXPECT_EQ(PixelsOf(dc, kBlack), Span(3, 3, 4, 4));
-    EXPECT_EQ(dc.GetPixel(5, 5), kWhite);
-
-    CHmiImageDC masked(6, 6);
-    masked.FillSolidRect({0, 0, 6, 6}, 0x808080);
-    const HmiColor green = 0x00FF00;
-    ASSERT_TRUE(masked.DrawPictureFile(path, {1, 1, 5, 5}, &green));
-    EXPECT_EQ(masked.GetPixel(3, 1), 0x808080u) << "the transparent colour leaves the target as it was";
-    EXPECT_EQ(masked.GetPixel(1, 1), kRed);
+    EXPECT_EQ(PixelsOf(dc, kBlack), Span(3, 3, 4, 4)) << "stretched up to right - 1 and bottom - 1";
+    EXPECT_EQ(PixelsOf(dc, grey).size(), 6u * 6u - 12u) << "the transparent colour leaves the target as it was";
 }
 
 TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
@@ -205,19 +182,19 @@ TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
     QImage red(2, 2, QImage::Format_RGB32);
     red.fill(Qt::red);
     // A picture followed by zeros up to a given size: its decoder stops at the picture's end.
-    auto paddedPicture = [&](const char* name, std::uint64_t size) {
+    auto padded = [&](const char* name, std::uint64_t size) {
         const std::string path = dir.Path(name);
         EXPECT_TRUE(red.save(QString::fromStdString(path), "PNG"));
         std::filesystem::resize_file(path, size);
         return path;
     };
     CHmiImageDC atLimit(6, 6);
-    EXPECT_TRUE(atLimit.DrawPictureFile(paddedPicture("limit.png", kMaxFileSize), {0, 0, 6, 6}, nullptr));
+    EXPECT_TRUE(atLimit.DrawPictureFile(padded("limit.png", kMaxFileSize), {0, 0, 6, 6}, nullptr));
     EXPECT_EQ(ColoursIn(atLimit), std::set<HmiColor>{kRed});
 
     ASSERT_EQ(::mkfifo(dir.Path("fifo.png").c_str(), 0644), 0);
-    for (const std::string& path : {paddedPicture("over.png", kMaxFileSize + 1), dir.Path("fifo.png"),
-                                    std::string("/dev/zero"), dir.Path("none.png"), dir.Write("bad.png", "no picture")}) {
+    for (const std::string& path : {padded("big.png", kMaxFileSize + 1), dir.Path("fifo.png"), std::string("/dev/zero"),
+                                    dir.Path("none.png"), dir.Write("bad.png", "no picture")}) {
         CHmiImageDC refused(6, 6);
         EXPECT_FALSE(refused.DrawPictureFile(path, {0, 0, 6, 6}, nullptr)) << path;
         EXPECT_EQ(ColoursIn(refused), std::set<HmiColor>{kWhite}) << path;
@@ -226,18 +203,17 @@ TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
 
 TEST(PainterDC, ShapesRunningPastTheImageKeepEveryPixelInside)
 {
-    struct Pen {
+    const struct {
         HmiPenStyle style;
         std::int32_t width;
-        HmiBkMode mode;
-    };
-    for (const Pen pen : {Pen{HmiPenStyle::Solid, 1, HmiBkMode::Opaque}, Pen{HmiPenStyle::Dot, 1, HmiBkMode::Opaque},
-                          Pen{HmiPenStyle::Dash, 0, HmiBkMode::Transparent}, Pen{HmiPenStyle::Solid, 5, HmiBkMode::Opaque},
-                          Pen{HmiPenStyle::Dot, 3, HmiBkMode::Opaque}}) {
+        bool opaque;
+    } pens[] = {{HmiPenStyle::Solid, 1, true}, {HmiPenStyle::Dot, 1, true}, {HmiPenStyle::Dash, 0, false},
+                {HmiPenStyle::Solid, 5, true}, {HmiPenStyle::Dot, 3, true}};
+    for (const auto& pen : pens) {
         const std::string changed = FirstPixelChangedByClipping([&](CHmiDC& dc, HmiPoint at) {
             const auto p = [&](std::int32_t x, std::int32_t y) { return HmiPoint{at.x + x, at.y + y}; };
             dc.SelectPen({pen.style, pen.width, kBlack});
-            dc.SetBkMode(pen.mode);
+            dc.SetBkMode(pen.opaque ? HmiBkMode::Opaque : HmiBkMode::Transparent);
             dc.SetBkColor(kBlue);
             dc.SelectBrush({true, 0});
             for (const HmiPoint to : {p(170, 130), p(-130, 120), p(160, -100), p(37, 129), p(-129, -99)}) {
@@ -261,22 +237,17 @@ TEST(PainterDC, CoordinatesAreHeldToTheDrawingRangeAndOnlyTheImageIsDrawn)
 {
     CHmiImageDC diagonal(40, 30);
     DrawLine(diagonal, {INT_MIN, INT_MIN}, {INT_MAX, INT_MAX});
-    std::set<std::string> expected;
-    for (int i = 0; i < 30; ++i)
-        expected.insert(std::to_string(i) + "," + std::to_string(i));
-    EXPECT_EQ(PixelsOf(diagonal, kBlack), expected) << "from corner to corner of the drawing range";
+    EXPECT_EQ(PixelsOf(diagonal, kBlack), PixelsWhere(40, 30, [](int x, int y) { return x == y; }))
+        << "from corner to corner of the drawing range";
 
     CHmiImageDC dotted(40, 30);
     dotted.SelectPen({HmiPenStyle::Dot, 1, kBlack});
     dotted.SetBkMode(HmiBkMode::Transparent);
     DrawLine(dotted, {INT_MIN, 5}, {INT_MAX, 5});
-    expected.clear();
-    for (int x = 0; x < 40; ++x)
-        if ((x - kHmiDrawingMin) % 6 < 3)
-            expected.insert(std::to_string(x) + ",5");
-    EXPECT_EQ(PixelsOf(dotted, kBlack), expected) << "the pattern runs on from the range's left end";
+    const auto dots = [](int x, int y) { return y == 5 && (x - kHmiDrawingMin) % 6 < 3; };
+    EXPECT_EQ(PixelsOf(dotted, kBlack), PixelsWhere(40, 30, dots)) << "the pattern runs on from the range's left end";
 
-    for (const HmiRect huge : {HmiRect{INT_MIN, INT_MIN, INT_MAX, INT_MAX}, HmiRect{INT_MAX, INT_MAX, INT_MIN, INT_MIN}}) {
+    for (const auto huge : {HmiRect{INT_MIN, INT_MIN, INT_MAX, INT_MAX}, HmiRect{INT_MAX, INT_MAX, INT_MIN, INT_MIN}}) {
         CHmiImageDC shapes(40, 30);
         shapes.SelectPen({HmiPenStyle::Dash, INT_MAX, kBlack});
         shapes.SelectBrush({false, kRed});

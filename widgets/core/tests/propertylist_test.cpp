@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 // A widget with a group of its own, to see rows land under their group's root item.
@@ -30,12 +32,7 @@ public:
     {
         if (CHmiWidget::GetWidgetPropValue(prop, text))
             return 1;
-        if (prop.m_strName == "scale" || prop.m_strName == "empty")
-            text = std::to_string(scale);
-        else if (prop.m_strName == "face")
-            text = "Serif, 16";
-        else
-            return 0;
+        text = prop.m_strName == "face" ? "Serif, 16" : std::to_string(scale); // both lists show the scale
         return 1;
     }
 
@@ -50,6 +47,7 @@ struct PropertyListTest : ::testing::Test {
         widget.m_pDocument = &doc;
         widget.SetWidgetName("gauge1");
         widget.SetWidgetRect({10, 10, 50, 60});
+        widget.CreateWidgetPropertyTree(tree);
     }
 
     // Types a value into a row and hands the edit to the widget.
@@ -71,7 +69,6 @@ struct PropertyListTest : ::testing::Test {
 
 TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
 {
-    widget.CreateWidgetPropertyTree(tree);
     const auto basicRows = tree.ChildrenOf(tree.Find("Basic properties"));
     ASSERT_EQ(basicRows.size(), 14u);
     EXPECT_EQ(basicRows[0]->editText, "gauge1");
@@ -81,10 +78,9 @@ TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
     const auto gaugeRows = tree.ChildrenOf(tree.Find("Gauge"));
     ASSERT_EQ(gaugeRows.size(), 3u) << "an unknown item type builds no row";
     EXPECT_EQ(gaugeRows[0]->choices, (std::vector<std::string>{"Linear", "Logarithmic"}));
-    EXPECT_EQ(gaugeRows[0]->selection, 1);
-    EXPECT_EQ(gaugeRows[1]->selection, -1) << "an empty list selects nothing";
-    EXPECT_EQ(gaugeRows[2]->kind, OptionItemKind::Font);
-    EXPECT_EQ(gaugeRows[2]->staticText, "Serif, 16") << "a font row shows its text read-only";
+    // An empty list selects nothing; a font row shows its text read-only.
+    EXPECT_EQ(std::tuple(gaugeRows[0]->selection, gaugeRows[1]->selection), std::tuple(1, -1));
+    EXPECT_EQ(std::tuple(gaugeRows[2]->kind, gaugeRows[2]->staticText), std::tuple(OptionItemKind::Font, "Serif, 16"));
     EXPECT_EQ(tree.ChildrenOf(tree.Find("Event")).size(), 2u) << "the events are created for the list";
 
     MemoryOptionTree outOfRange;
@@ -108,7 +104,6 @@ TEST_F(PropertyListTest, GeometryEditsMoveOrResizeAndRefusedOnesAreShownUndone)
         {"Width", "-20", {10, 10, -10, 60}}, // width and height are taken as typed
         {"Height", "5", {10, 10, 50, 15}},
     };
-    widget.CreateWidgetPropertyTree(tree);
     for (const auto& edit : edits) {
         SCOPED_TRACE(std::string(edit.caption) + " " + edit.typed);
         widget.SetWidgetRect({10, 10, 50, 60});
@@ -121,7 +116,6 @@ TEST_F(PropertyListTest, GeometryEditsMoveOrResizeAndRefusedOnesAreShownUndone)
 
 TEST_F(PropertyListTest, RenamingUpdatesTheWidgetNameList)
 {
-    widget.CreateWidgetPropertyTree(tree);
     Edit("Name", "needle");
     EXPECT_EQ(widget.GetWidgetName(), "needle");
     EXPECT_EQ(names.log, (std::vector<std::string>{"remove gauge1", "add needle selected"}));
@@ -129,20 +123,17 @@ TEST_F(PropertyListTest, RenamingUpdatesTheWidgetNameList)
 
 TEST_F(PropertyListTest, FlagsAndNumbersHaveNoByteTruncation)
 {
-    widget.CreateWidgetPropertyTree(tree);
     Edit("Horizontal offset", "300");
     Edit("Flash speed", "-1");
     tree.Find("Enable")->SetCheck(false);
     widget.UpdateWidgetPropByTree(tree.Find("Enable"));
-    EXPECT_EQ(widget.GetExtension().xoffset, 300);
-    EXPECT_EQ(widget.m_nFlashSpeed, -1);
-    EXPECT_EQ(widget.GetExtension().enable, 0);
+    const HmiWidgetExtension& extension = widget.GetExtension();
+    EXPECT_EQ(std::tuple(extension.xoffset, widget.m_nFlashSpeed, extension.enable), std::tuple(300, -1, 0));
     EXPECT_TRUE(doc.IsModified());
 }
 
 TEST_F(PropertyListTest, ItemsOfNoRecordChangeNothing)
 {
-    widget.CreateWidgetPropertyTree(tree);
     widget.UpdateWidgetPropByTree(tree.Find("Button Down"));
     widget.UpdateWidgetPropByTree(nullptr);
     EXPECT_EQ(widget.GetWidgetRect(), (HmiRect{10, 10, 50, 60}));

@@ -31,8 +31,10 @@ TEST(WidgetWriter, StringLengthIsAtLeast32AndOtherwiseOneMoreThanTheValue)
 
 TEST(WidgetWriter, AGivenLengthIsWrittenForAnyTypeAndOnlyStringsGetOneOtherwise)
 {
-    EXPECT_EQ(PropertyLine("n", "ulong", "4", "7"), "\t\t\t<property name=\"n\" type=\"ulong\" length=\"4\" value=\"7\" />\n");
-    EXPECT_EQ(PropertyLine("n", "String", nullptr, "abc"), "\t\t\t<property name=\"n\" type=\"String\" value=\"abc\" />\n");
+    EXPECT_EQ(PropertyLine("n", "ulong", "4", "7"),
+              "\t\t\t<property name=\"n\" type=\"ulong\" length=\"4\" value=\"7\" />\n");
+    EXPECT_EQ(PropertyLine("n", "String", nullptr, "abc"),
+              "\t\t\t<property name=\"n\" type=\"String\" value=\"abc\" />\n");
 }
 
 TEST(WidgetWriter, EscapesAllFiveCharactersOnce)

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -33,8 +34,6 @@ public:
     int SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,
                           std::string_view length) override
     {
-        if (CHmiWidget::SetWidgetProperty(name, type, value, length))
-            return 1;
         if (name == "text")
             text = value;
         else if (name == "format")
@@ -42,7 +41,7 @@ public:
         else if (name == "ratio")
             ratio = std::stof(std::string(value));
         else
-            return 0;
+            return CHmiWidget::SetWidgetProperty(name, type, value, length);
         return 1;
     }
     void SaveWidgetProperties(std::string& archive) const override
@@ -140,38 +139,27 @@ const std::string kGaugeElement =
     "\t\t</events>\r\n"
     "\t</widget>\r\n";
 
-std::string WindowFile(const std::vector<std::string>& elements)
-{
-    std::string file = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
-    for (const std::string& element : elements)
-        file += element;
-    return file + "</hmiwidget>\n";
-}
+const std::string kHead = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
+const std::string kSmallWindowFile =
+    kHead + kWindowElement + kValveElement + kTimerElement + kLabelElement + kGaugeElement + "</hmiwidget>\n";
 
 // Binds a property the way the dynamic-property dialog does: the record keeps the composed
 // expression and the type object keeps the user's parameters.
-void Bind(CHmiWidget& widget, const char* propName, std::unique_ptr<CHmiDynamicType> type,
-          std::string expression = {})
+void Bind(CHmiWidget& widget, const char* name, std::unique_ptr<CHmiDynamicType> type, std::string expression = {})
 {
-    CHmiWidgetProp* prop = widget.FindProperty(propName);
+    CHmiWidgetProp* prop = widget.FindProperty(name);
     prop->m_strExpression = expression.empty() ? type->ComposeExpression() : expression;
     prop->SetDynamicType(std::move(type));
 }
 
+// A binding of the given type on the user's expression, with its other parameters set by setUp.
 template <typename Type>
-std::unique_ptr<Type> Made(std::string expression)
+std::unique_ptr<Type> Made(std::string expression, const std::function<void(Type&)>& setUp = nullptr)
 {
     auto type = std::make_unique<Type>();
     type->expression = std::move(expression);
-    return type;
-}
-
-template <typename TextType>
-std::unique_ptr<TextType> MadeText(std::string expression, int intWidth, int decWidth = 2)
-{
-    auto type = Made<TextType>(std::move(expression));
-    type->intWidth = intWidth;
-    type->decWidth = decWidth;
+    if (setUp)
+        setUp(*type);
     return type;
 }
 
@@ -192,10 +180,8 @@ void BuildSmallWindow(CTamloDoc& doc)
     window.m_nCenterWnd = 1;
     window.m_nSecurityLevel = 2;
     window.m_nSecurityMode = 1;
-    auto digit = Made<CHmiDynColorDigit>("$run");
-    digit->openColor = 0xff00;
-    digit->closeColor = 0xff;
-    Bind(window, "bkcolor", std::move(digit));
+    Bind(window, "bkcolor",
+         Made<CHmiDynColorDigit>("$run", [](auto& digit) { digit.openColor = 0xff00; digit.closeColor = 0xff; }));
     window.SetWidgetEventCode("open", "init();\r\nshow(\"main\");\nbeep();");
 
     auto& valve = Add(doc, new CHmiWidgetValve, "valve1", {100, 50, 160, 110});
@@ -207,21 +193,21 @@ void BuildSmallWindow(CTamloDoc& doc)
 
     auto& timer = Add(doc, new CHmiWidgetTimer, "tick", {10, 10, 42, 42});
     timer.m_nInterval = 250;
-    Bind(timer, "interval", MadeText<CHmiDynTextInt>("$db.period", 4));
+    Bind(timer, "interval", Made<CHmiDynTextInt>("$db.period", [](auto& text) { text.intWidth = 4; }));
     timer.SetWidgetEventCode("timer", "n = n + 1;\nif (n > 9) stop();");
 
     auto& label = Add(doc, new LabelWidget, "label1", {200, 100, 400, 140});
     label.text = "a<b & \"c\" > 'd'";
     label.format = "%.2f";
     label.ratio = 12.5f;
-    Bind(label, "text", MadeText<CHmiDynTextFloat>("$db.level", 5));
-    Bind(label, "format", MadeText<CHmiDynTextDouble>("$a<$b", 3, 1));
-    auto analog = Made<CHmiDynColorAnalog>("$db.temp");
-    analog->count = 3;
-    analog->defaultColor = 0xff0000;
-    analog->limits = {"10", "20", "30"};
-    analog->colors = {0xff00, 0xffff, 0xff};
-    Bind(label, "color", std::move(analog));
+    Bind(label, "text", Made<CHmiDynTextFloat>("$db.level", [](auto& text) { text.intWidth = 5; }));
+    Bind(label, "format", Made<CHmiDynTextDouble>("$a<$b", [](auto& text) { text.intWidth = 3; text.decWidth = 1; }));
+    Bind(label, "color", Made<CHmiDynColorAnalog>("$db.temp", [](auto& analog) {
+             analog.count = 3;
+             analog.defaultColor = 0xff0000;
+             analog.limits = {"10", "20", "30"};
+             analog.colors = {0xff00, 0xffff, 0xff};
+         }));
 
     auto& gauge = Add(doc, new CHmiWidgetCustom, "g1", {5, 5, 25, 25});
     gauge.ClassName = "gauge";
@@ -255,19 +241,17 @@ TEST_F(WindowFileTest, TheWriterProducesTheHandWrittenFile)
 {
     CTamloDoc doc;
     BuildSmallWindow(doc);
-    EXPECT_EQ(doc.Serialize(), WindowFile({kWindowElement, kValveElement, kTimerElement, kLabelElement,
-                                           kGaugeElement}));
+    EXPECT_EQ(doc.Serialize(), kSmallWindowFile);
 }
 
 TEST_F(WindowFileTest, ReadingItBackAndSavingWritesTheWidgetsInReverse)
 {
     CTamloDoc doc;
-    ASSERT_TRUE(doc.Load(dir.Write("small.xml", WindowFile({kWindowElement, kValveElement, kTimerElement,
-                                                             kLabelElement, kGaugeElement}))));
+    ASSERT_TRUE(doc.Load(dir.Write("small.xml", kSmallWindowFile)));
     ASSERT_TRUE(doc.Save(dir.Path("again.xml")));
 
-    EXPECT_EQ(dir.Read("again.xml"), WindowFile({kGaugeElement, kLabelElement, kTimerElement,
-                                                 AsParsed(kValveElement), AsParsed(kWindowElement)}));
+    EXPECT_EQ(dir.Read("again.xml"), kHead + kGaugeElement + kLabelElement + kTimerElement + AsParsed(kValveElement) +
+                                         AsParsed(kWindowElement) + "</hmiwidget>\n");
 }
 
 } // namespace

@@ -14,9 +14,8 @@ public:
     void Draw(CHmiDC& dc) override { dc.Rectangle(GetWidgetRect()); }
 };
 
-HmiWidgetPtr MakeWidget(CHmiWidget* widget, const char* name, HmiRect rect)
+HmiWidgetPtr MakeWidget(CHmiWidget* widget, HmiRect rect)
 {
-    widget->SetWidgetName(name);
     widget->SetWidgetRect(rect);
     return HmiWidgetPtr(widget);
 }
@@ -26,9 +25,9 @@ HmiWidgetPtr MakeWidget(CHmiWidget* widget, const char* name, HmiRect rect)
 TEST(WindowPainter, DrawsTheWindowFirstWhereverItStandsThenTheListInOrder)
 {
     CTamloDoc doc;
-    doc.AddWidget(MakeWidget(new BoxWidget, "a", {1, 1, 2, 2}), true, false);
-    doc.AddWidget(MakeWidget(new CHmiWidgetWindow, "window", {0, 0, 40, 30}), true, false);
-    doc.AddWidget(MakeWidget(new BoxWidget, "b", {3, 3, 4, 4}), true, false);
+    doc.AddWidget(MakeWidget(new BoxWidget, {1, 1, 2, 2}), true, false);
+    doc.AddWidget(MakeWidget(new CHmiWidgetWindow, {0, 0, 40, 30}), true, false);
+    doc.AddWidget(MakeWidget(new BoxWidget, {3, 3, 4, 4}), true, false);
 
     RecordingDC dc;
     DrawWindow(doc, dc);
