@@ -7,7 +7,6 @@
 #include "widgets/core/tamlodoc.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QFileInfo>
 #include <QScrollArea>
 
@@ -81,8 +80,7 @@ bool CChildFrame::SaveTo(const QString& path)
         main->setFocus(Qt::OtherFocusReason);
     const FileResult result = m_document->Save(ToModelPath(path));
     if (!result) {
-        m_prompts.ShowError(this, QStringLiteral("Cannot save %1:\n%2")
-                                      .arg(QDir::toNativeSeparators(path), QString::fromStdString(result.error)));
+        m_prompts.ShowError(this, QString::fromStdString(result.error));
         return false;
     }
     m_untitledName.clear();

@@ -319,8 +319,7 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path)
     auto document = std::make_unique<CTamloDoc>();
     const FileResult result = document->Load(ToModelPath(absolute));
     if (!result) {
-        m_prompts.ShowError(this, QStringLiteral("Cannot open %1:\n%2")
-                                      .arg(absolute, QString::fromStdString(result.error)));
+        m_prompts.ShowError(this, QString::fromStdString(result.error));
         m_recentFiles.Remove(absolute);
         UpdateRecentFileActions();
         return nullptr;

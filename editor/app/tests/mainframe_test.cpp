@@ -117,7 +117,7 @@ private slots:
         editor->prompts.saveFileName = FilePath(QStringLiteral("missing/window.xml"));
         QVERIFY(!child.Save());
         QCOMPARE(editor->prompts.errors.size(), 1);
-        QVERIFY(editor->prompts.errors.first().contains(QStringLiteral("missing/window.xml")));
+        QCOMPARE(editor->prompts.errors.first().count(QStringLiteral("missing/window.xml")), 1);
         QVERIFY(child.Document().IsModified());
         QVERIFY(child.DisplayName().startsWith(QStringLiteral("Tamlo")));
 
@@ -164,6 +164,7 @@ private slots:
         qDeleteAll(editor->frame.Children());
         QVERIFY(!editor->frame.OpenDocument(paths.first()));
         QCOMPARE(editor->prompts.errors.size(), 1);
+        QCOMPARE(editor->prompts.errors.first().count(paths.first()), 1);
         QVERIFY(!editor->frame.RecentFiles().Files().contains(paths.first()));
     }
 
