@@ -63,7 +63,10 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     if (!m_guard.Listen() && HandOverToRunningEditor(fileArgument))
         return StartResult::HandedOver;
 
-    m_libraries = LoadWidgetLibraries(kModulesFolder);
+    // Without its state folder the editor only loses the guard against libraries that crash it.
+    const QString stateFolder = EditorStateFolder();
+    MakePrivateFolder(stateFolder);
+    m_libraries = LoadWidgetLibraries(kModulesFolder, ToModelPath(stateFolder));
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);

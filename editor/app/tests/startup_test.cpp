@@ -45,7 +45,7 @@ private slots:
     // Library classes come last, under their class key; the window is no tool.
     void aLibraryClassIsOfferedAndPlaced()
     {
-        LoadWidgetLibraries(KELVO_TEST_MODULES_DIR);
+        LoadWidgetLibraries(KELVO_TEST_MODULES_DIR, sandbox.path().toStdString());
         EditorUnderTest editor;
         CToolbox& toolbox = editor.frame.Toolbox();
         QListWidgetItem* gauge = toolbox.item(toolbox.count() - 1);
