@@ -73,7 +73,7 @@ WidgetLibraryLoad Load(const ModuleFile& file, const CLibraryCrashGuard& guard)
     // ends: their handles are dropped on purpose, as their code may be running any time.
     const auto init = reinterpret_cast<WidgetsLibInitFunction>(dlsym(handle, "WidgetsLibInit"));
     if (!init)
-        return outcome(LibraryOutcome::NoEntryPoint, "no WidgetsLibInit: it stays loaded and adds no widget classes");
+        return outcome(LibraryOutcome::NoEntryPoint, "it stays loaded but adds no widget classes");
     const std::size_t classCount = CHmiWidget::WidgetClassList.size();
     const std::size_t libraryCount = RegisteredWidgetLibs().size();
     std::optional<std::string> thrown;
