@@ -6,6 +6,7 @@
 #include "pathtext.h"
 #include "tamloview.h"
 #include "toolbox.h"
+#include "widgetlibrarydialog.h"
 #include "widgetnamecombo.h"
 
 #include "editor/dynamicdialogs/dynpropertyedit.h"
@@ -27,6 +28,7 @@
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
@@ -248,6 +250,38 @@ void CMainFrame::CreateMenus()
     m_windowMenu = menuBar()->addMenu(QStringLiteral("&Window"));
     connect(m_windowMenu, &QMenu::aboutToShow, this, &CMainFrame::UpdateWindowMenu);
     UpdateWindowMenu();
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    AddAction(help, QStringLiteral("&Widget Libraries..."),
+              QStringLiteral("Show which widget libraries were loaded at start-up, and why others were not"),
+              &CMainFrame::HelpWidgetLibraries);
+}
+
+void CMainFrame::SetWidgetLibraries(WidgetLibraryLoadReport report)
+{
+    m_libraries = std::move(report);
+    if (std::none_of(m_libraries.libraries.begin(), m_libraries.libraries.end(),
+                     [](const WidgetLibraryLoad& library) { return library.Failed(); }))
+        return;
+    // A notice, not a message box: nothing stops the start, and the report is there when wanted.
+    auto* notice = new QPushButton(QStringLiteral("Not all widget libraries were loaded"));
+    notice->setObjectName(QStringLiteral("widgetLibraryNotice"));
+    notice->setFlat(true);
+    notice->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    notice->setStatusTip(QStringLiteral("Show why, in Help > Widget Libraries"));
+    connect(notice, &QPushButton::clicked, this, &CMainFrame::HelpWidgetLibraries);
+    statusBar()->insertPermanentWidget(0, notice);
+}
+
+void CMainFrame::HelpWidgetLibraries()
+{
+    if (!m_libraryDialog) {
+        m_libraryDialog = new CWidgetLibraryDialog(m_libraries, this);
+        m_libraryDialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_libraryDialog->show();
+    m_libraryDialog->raise();
+    m_libraryDialog->activateWindow();
 }
 
 void CMainFrame::UpdateWindowMenu()

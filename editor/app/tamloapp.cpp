@@ -63,10 +63,14 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     if (!m_guard.Listen() && HandOverToRunningEditor(fileArgument))
         return StartResult::HandedOver;
 
-    m_libraries = LoadWidgetLibraries(kModulesFolder);
+    // Without its state folder the editor only loses the guard against libraries that crash it.
+    const QString stateFolder = EditorStateFolder();
+    MakePrivateFolder(stateFolder);
+    WidgetLibraryLoadReport libraries = LoadWidgetLibraries(kModulesFolder, ToModelPath(stateFolder));
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);
+    m_mainFrame->SetWidgetLibraries(std::move(libraries));
     connect(&m_guard, &CInstanceGuard::openFileRequested, m_mainFrame.get(), &CMainFrame::OpenDocument);
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
