@@ -182,6 +182,10 @@ void CMainFrame::CreateActions()
                                     QKeySequence::Paste, &CMainFrame::EditPaste);
     m_deleteAction = AddCanvasAction(QStringLiteral("&Delete"), QStringLiteral("Delete the selection"),
                                      QKeySequence::Delete, &CMainFrame::EditDelete);
+    // Escape also works while the toolbox, where the placing tool was chosen, has the focus.
+    QAction* cancel = AddCanvasAction(QStringLiteral("Cancel"), QStringLiteral("Stop placing widgets"),
+                                      QKeySequence::Cancel, &CMainFrame::CancelTool);
+    m_toolbox->addAction(cancel);
 }
 
 void CMainFrame::CreateMenus()
@@ -508,6 +512,16 @@ void CMainFrame::FileSaveAs()
 {
     if (CChildFrame* child = ActiveChild())
         child->SaveAs();
+}
+
+void CMainFrame::CancelTool()
+{
+    CCanvasTools& tools = CCanvasTools::Instance();
+    if (CTamloView* view = ActiveView())
+        tools.Cancel(*view); // ends a drag in progress too
+    else
+        tools.SetCurrentTool(CanvasTool::Select);
+    m_toolbox->SyncWithCurrentTool();
 }
 
 void CMainFrame::EditUndo()

@@ -99,6 +99,8 @@ private:
     void EditCopy();
     void EditPaste();
     void EditDelete();
+    // Returns from the placing tool to the selection tool.
+    void CancelTool();
 
     CEditorPrompts& m_prompts;
     QSettings& m_settings;

@@ -48,20 +48,27 @@ private slots:
         editor.reset();
     }
 
-    void theToolboxPlacesWidgetsUntilAClick()
+    void theToolboxPlacesWidgetsUntilAClickOrEscape()
     {
         CToolbox& toolbox = editor->frame.Toolbox();
         const QList<QListWidgetItem*> found = toolbox.findItems(QStringLiteral("Rectangle"), Qt::MatchExactly);
         QCOMPARE(found.size(), 1);
-        Click(toolbox.viewport(), toolbox.visualItemRect(found.first()).center());
+        const auto chooseRectangle = [&] { Click(toolbox.viewport(), toolbox.visualItemRect(found.first()).center()); };
+        chooseRectangle();
         Drag(view, QPoint(120, 80), QPoint(20, 30));
         CHmiWidget* placed = document->Widgets().back().get();
         QCOMPARE(placed->GetWidgetClassName(), std::string("rectangle"));
-        QCOMPARE(RectOf(placed), (HmiRect{20, 30, 120, 80}));
-        QCOMPARE(editor->frame.NameCombo().currentText().toStdString(), placed->GetWidgetName());
 
-        // What a click without a drag places (nothing) is tested with the tools; the toolbox
-        // gives the pointer back.
+        // Escape, on the canvas or in the toolbox, gives the pointer back: the next drag selects.
+        Press(Qt::Key_Escape);
+        Drag(view, QPoint(200, 200), QPoint(260, 240));
+        QCOMPARE(document->Widgets().back().get(), placed);
+        chooseRectangle();
+        QTest::keyClick(&toolbox, Qt::Key_Escape);
+        QCOMPARE(toolbox.currentRow(), 0);
+
+        // A click places nothing (tested with the tools) and gives the pointer back.
+        chooseRectangle();
         Click(view, QPoint(300, 300));
         QCOMPARE(toolbox.currentRow(), 0);
     }
