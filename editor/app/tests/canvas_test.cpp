@@ -16,6 +16,8 @@
 #include <QAction>
 #include <QDir>
 #include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
 
 class CanvasTest : public QObject {
     Q_OBJECT
@@ -148,6 +150,17 @@ private slots:
         lock->trigger();
         QVERIFY(other.View().IsLocked());
         QVERIFY(view->IsLocked());
+    }
+
+    // The canvas's own menu shows its status texts in the main window, as the menu bar does.
+    void theContextMenuShowsStatusTexts()
+    {
+        QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(300, 300), view->mapToGlobal(QPoint(300, 300)));
+        QApplication::sendEvent(view, &request);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QTest::mouseMove(menu, menu->actionGeometry(menu->actions().back()).center());
+        QTRY_COMPARE(editor->frame.statusBar()->currentMessage(), QStringLiteral("Zoom Widget of  Selected"));
     }
 
     void deleteCutCopyAndPasteKeys()
