@@ -42,6 +42,21 @@ const QString kWidgetsMimeType = QStringLiteral("application/x-kelvo-hmi-widgets
 const QString kGeometryKey = QStringLiteral("MainFrame/geometry");
 const QString kStateKey = QStringLiteral("MainFrame/state");
 
+// Shows a child as large as its canvas and no larger than the area, which has its size only
+// once the main window is laid out.
+void ShowAtCanvasSize(CChildFrame& child, const QMdiArea& area)
+{
+    const QSize frame(2 * child.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4,
+                      child.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    child.resize(child.View().size() + frame);
+    child.show();
+    QTimer::singleShot(0, &child, [&child, &area] {
+        const QPoint place(std::max(0, child.x()), std::max(0, child.y()));
+        const QSize room = area.viewport()->size() - QSize(place.x(), place.y());
+        child.setGeometry(QRect(place, child.size().boundedTo(room)));
+    });
+}
+
 } // namespace
 
 CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* parent)
@@ -364,18 +379,15 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
         if (m_shownChild == child)
             ChildActivated(nullptr);
     });
+    // A child opened while the active one is maximized is maximized too, as the others are. It
+    // is not sized first: the area would keep that size under the maximized state.
+    const CChildFrame* active = ActiveChild();
+    const bool maximized = active && active->isMaximized();
     m_mdiArea->addSubWindow(child);
-    // As large as the canvas and no larger than the area, which has its size only once the main
-    // window is laid out.
-    const QSize frame(2 * child->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4,
-                      child->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
-    child->resize(view.size() + frame);
-    child->show();
-    QTimer::singleShot(0, child, [this, child] {
-        const QPoint place(std::max(0, child->x()), std::max(0, child->y()));
-        const QSize room = m_mdiArea->viewport()->size() - QSize(place.x(), place.y());
-        child->setGeometry(QRect(place, child->size().boundedTo(room)));
-    });
+    if (maximized)
+        child->showMaximized();
+    else
+        ShowAtCanvasSize(*child, *m_mdiArea);
     m_mdiArea->setActiveSubWindow(child);
     return child;
 }
