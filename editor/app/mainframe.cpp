@@ -362,7 +362,10 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
     auto* child = new CChildFrame(std::move(document), m_prompts);
     CTamloView& view = child->View();
     view.SetContextMenu(m_canvasMenu);
-    connect(&view, &CTamloView::widgetSelected, this, &CMainFrame::ShowSelection);
+    connect(&view, &CTamloView::selectionChanged, this, [this, child] {
+        if (child == m_shownChild)
+            ShowSelection(child->View());
+    });
     connect(&view, &CTamloView::documentEdited, this, &CMainFrame::AfterEdit);
     connect(&view, &CTamloView::cursorMoved, this, [this](const QPoint& point) {
         m_cursorPosition->setText(QStringLiteral("%1, %2").arg(point.x()).arg(point.y()));
@@ -405,21 +408,24 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
         other->Document().SetWidgetNameList(other == child ? m_nameCombo : nullptr);
     m_nameCombo->ShowDocument(child ? &child->Document() : nullptr);
     m_propertyPane->Clear();
-    if (child) {
-        const std::vector<CHmiWidget*>& selected = child->View().Selection().Widgets();
-        ShowSelection(selected.empty() ? nullptr : selected.back());
-    }
+    if (child)
+        ShowSelection(child->View());
     m_formatActions->SyncWithActiveView();
     UpdateEditActions();
 }
 
-void CMainFrame::ShowSelection(CHmiWidget* widget)
+void CMainFrame::ShowSelection(CTamloView& view)
 {
-    if (!widget)
+    const std::vector<CHmiWidget*>& selected = view.Selection().Widgets();
+    if (selected.empty()) {
+        m_propertyPane->Clear();
+        m_nameCombo->setCurrentIndex(-1);
         return;
-    if (m_propertyPane->CurrentWidget() != widget)
-        m_propertyPane->ShowWidget(widget);
-    m_nameCombo->SelectName(widget->GetWidgetName());
+    }
+    CHmiWidget* reference = selected.back();
+    if (m_propertyPane->CurrentWidget() != reference)
+        m_propertyPane->ShowWidget(reference);
+    m_nameCombo->SelectName(reference->GetWidgetName());
 }
 
 void CMainFrame::SelectWidgetByName(const std::string& name)
@@ -542,7 +548,9 @@ void CMainFrame::EditUndo()
     if (!view || !view->Document().CanUndo())
         return;
     view->Document().Undo();
+    // The names of widgets that Undo brings back return to their places in the list.
     m_nameCombo->ShowDocument(&view->Document());
+    ShowSelection(*view);
     view->InvalidateView();
     AfterEdit();
 }

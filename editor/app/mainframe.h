@@ -80,7 +80,8 @@ private:
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
     void ChildActivated(QMdiSubWindow* window);
-    void ShowSelection(CHmiWidget* widget);
+    // Shows the widget selected last on the canvas in the property pane and the name list.
+    void ShowSelection(CTamloView& view);
     void SelectWidgetByName(const std::string& name);
     // Brings the panes, the title and the commands up to date after the active window changed.
     void AfterEdit();

@@ -89,6 +89,7 @@ private slots:
         Drag(view, QPoint(290, 290), QPoint(350, 350), Qt::ShiftModifier);
         QCOMPARE(Selected(), (std::vector<CHmiWidget*>{a, c}));
         QTest::mouseDClick(view, Qt::LeftButton, Qt::ShiftModifier, QPoint(310, 310)); // takes c out
+        QCOMPARE(editor->frame.NameCombo().currentText().toStdString(), a->GetWidgetName());
         Click(view, QPoint(200, 200), Qt::ShiftModifier); // Shift keeps the selection
         Click(view, QPoint(110, 20), Qt::ControlModifier);
         QCOMPARE(Selected(), (std::vector<CHmiWidget*>{a, b}));
@@ -103,6 +104,7 @@ private slots:
         QCOMPARE(editor->frame.PropertyPane().FindItem("Left")->GetEditText(), std::to_string(RectOf(b).left));
         Press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(RectOf(a), (HmiRect{10, 10, 50, 50}));
+        QCOMPARE(editor->frame.NameCombo().currentText().toStdString(), b->GetWidgetName());
     }
 
     // What the handles, the keys and a locked canvas do is tested with the tools; here, that the
