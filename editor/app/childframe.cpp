@@ -76,8 +76,8 @@ bool CChildFrame::SaveAs()
 bool CChildFrame::SaveTo(const QString& path)
 {
     // Taking the focus away from the property pane commits an edit the user is still typing.
-    if (QWidget* main = window())
-        main->setFocus(Qt::OtherFocusReason);
+    // The canvas takes it, so that its keys go on working after the save.
+    m_view->setFocus(Qt::OtherFocusReason);
     const FileResult result = m_document->Save(ToModelPath(path));
     if (!result) {
         m_prompts.ShowError(this, QString::fromStdString(result.error));

@@ -87,7 +87,8 @@ private:
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
     void ChildActivated(QMdiSubWindow* window);
-    void ShowSelection(CHmiWidget* widget);
+    // Shows the widget selected last on the canvas in the property pane and the name list.
+    void ShowSelection(CTamloView& view);
     void SelectWidgetByName(const std::string& name);
     // Brings the panes, the title and the commands up to date after the active window changed.
     void AfterEdit();
@@ -107,6 +108,8 @@ private:
     void EditPaste();
     void EditDelete();
     void HelpWidgetLibraries();
+    // Returns from the placing tool to the selection tool.
+    void CancelTool();
 
     CEditorPrompts& m_prompts;
     QSettings& m_settings;

@@ -130,10 +130,12 @@ private slots:
         QCOMPARE(editor->frame.RecentFiles().Files(), QStringList{FilePath(QStringLiteral("saved.xml"))});
     }
 
-    void quittingAsksForEveryModifiedWindow()
+    void aSecondWindowOpensMaximizedAndQuittingAsksForBoth()
     {
         CChildFrame& first = editor->NewWindow();
+        first.showMaximized();
         CChildFrame& second = editor->NewWindow();
+        QCOMPARE(second.geometry(), second.parentWidget()->rect());
         AddRect(first.Document(), {0, 0, 10, 10});
         AddRect(second.Document(), {0, 0, 10, 10});
         editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Discard;
