@@ -1,7 +1,7 @@
 #include "toolbox.h"
 
 #include "editor/model/canvastools.h"
-#include "widgets/core/hmiwidget.h"
+#include "widgets/hmiwidget.h"
 
 #include <algorithm>
 

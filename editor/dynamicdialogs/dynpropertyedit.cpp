@@ -3,9 +3,9 @@
 #include "dynamicbinding.h"
 #include "dynpropertydialog.h"
 #include "dynamics/dynamictype.h"
-#include "widgets/core/hmiwidget.h"
-#include "widgets/core/optiontree.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/optiontree.h"
+#include "widgets/tamlodoc.h"
 
 bool EditDynamicProperty(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row,
                          const DynamicDialogServices& services)

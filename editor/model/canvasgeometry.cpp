@@ -1,6 +1,6 @@
 #include "canvasgeometry.h"
 
-#include "widgets/catalogue/hmiwidgetwindow.h"
+#include "catalogue/hmiwidgetwindow.h"
 
 HmiPoint CanvasOrigin(const CHmiWidget& widget)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/hmitypes.h"
+#include "widgets/hmitypes.h"
 
 #include <functional>
 #include <vector>

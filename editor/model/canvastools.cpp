@@ -2,9 +2,9 @@
 
 #include "canvasgeometry.h"
 #include "canvasselection.h"
-#include "widgets/catalogue/hmiwidgetwindow.h"
-#include "widgets/core/hmiview.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/hmiwidgetwindow.h"
+#include "widgets/hmiview.h"
+#include "widgets/tamlodoc.h"
 
 namespace {
 

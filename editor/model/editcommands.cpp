@@ -1,8 +1,8 @@
 #include "editcommands.h"
 
 #include "project/xmldocument.h"
-#include "widgets/core/tamlodoc.h"
-#include "widgets/core/widgetfilereader.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/widgetfilereader.h"
 
 #include <algorithm>
 #include <functional>
