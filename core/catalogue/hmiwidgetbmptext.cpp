@@ -1,8 +1,8 @@
 #include "hmiwidgetbmptext.h"
 
+#include "base/numberparsers.h"
 #include "widgets/hmidraw.h"
 #include "widgets/hmiimagedc.h"
-#include "widgets/numberparsers.h"
 #include "widgets/optiontree.h"
 
 #include <algorithm>

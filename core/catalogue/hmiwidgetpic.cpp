@@ -1,6 +1,6 @@
 #include "hmiwidgetpic.h"
 
-#include "project/textcodec.h"
+#include "base/textcodec.h"
 #include "widgetchoices.h"
 #include "widgets/hmidraw.h"
 #include "widgets/tamlodoc.h"

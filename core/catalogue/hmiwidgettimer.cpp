@@ -1,6 +1,6 @@
 #include "hmiwidgettimer.h"
 
-#include "widgets/numberparsers.h"
+#include "base/numberparsers.h"
 #include "widgets/optiontree.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetTimer, CHmiWidget)

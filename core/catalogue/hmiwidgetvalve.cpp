@@ -1,8 +1,8 @@
 #include "hmiwidgetvalve.h"
 
+#include "base/numberparsers.h"
 #include "gradientpainter.h"
 #include "widgets/hmidraw.h"
-#include "widgets/numberparsers.h"
 #include "widgets/optiontree.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetValve, CHmiWidget)

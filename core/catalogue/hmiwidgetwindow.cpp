@@ -1,8 +1,8 @@
 #include "hmiwidgetwindow.h"
 
+#include "base/numberparsers.h"
 #include "widgetchoices.h"
 #include "widgets/hmidraw.h"
-#include "widgets/numberparsers.h"
 #include "widgets/optiontree.h"
 
 #include <iterator>

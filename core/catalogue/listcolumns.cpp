@@ -1,6 +1,6 @@
 #include "listcolumns.h"
 
-#include "widgets/numberparsers.h"
+#include "base/numberparsers.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/numberparsers.h"
 #include "widgets/hmiwidget.h"
-#include "widgets/numberparsers.h"
 #include "widgets/optiontree.h"
 
 #include <algorithm>

@@ -1,9 +1,8 @@
 #include "dynamictypes.h"
 
+#include "base/numberparsers.h"
+#include "base/windowfiletext.h"
 #include "project/xmldocument.h"
-#include "widgets/hmiwidget.h"
-#include "widgets/numberparsers.h"
-#include "widgets/windowfiletext.h"
 
 #include <algorithm>
 #include <cstdio>

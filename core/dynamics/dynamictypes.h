@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/hmitypes.h"
 #include "dynamictype.h"
-#include "widgets/hmitypes.h"
 
 #include <array>
 #include <cstdint>

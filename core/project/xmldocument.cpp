@@ -1,8 +1,8 @@
 #include "xmldocument.h"
 
+#include "base/textcodec.h"
 #include "fileio.h"
 #include "readnotices.h"
-#include "textcodec.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>

@@ -1,8 +1,8 @@
 #include "hmipainterdc.h"
 
+#include "base/textcodec.h"
 #include "hmisteps.h"
 #include "project/fileio.h"
-#include "project/textcodec.h"
 
 #include <QBuffer>
 #include <QFileInfo>

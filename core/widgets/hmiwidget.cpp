@@ -1,12 +1,12 @@
 #include "hmiwidget.h"
 
+#include "base/numberparsers.h"
+#include "base/windowfiletext.h"
 #include "dynamics/dynamictype.h"
 #include "hmidc.h"
 #include "hmiview.h"
-#include "numberparsers.h"
 #include "optiontree.h"
 #include "tamlodoc.h"
-#include "windowfiletext.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/hmitypes.h"
 #include "dynamics/widgetevent.h"
-#include "hmitypes.h"
 #include "hmiwidgetprop.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hmitypes.h"
+#include "base/hmitypes.h"
 
 #include <string>
 

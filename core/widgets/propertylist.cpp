@@ -2,7 +2,7 @@
 
 #include "hmiwidget.h"
 
-#include "numberparsers.h"
+#include "base/numberparsers.h"
 #include "optiontree.h"
 #include "tamlodoc.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hmitypes.h"
+#include "base/hmitypes.h"
 #include "hmiwidget.h"
 #include "project/fileio.h"
 #include "undostep.h"

@@ -1,7 +1,7 @@
 #include "windowfilecheck.h"
 
+#include "base/textcodec.h"
 #include "project/readnotices.h"
-#include "project/textcodec.h"
 #include "widgetfilereader.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 // written as their well-formed equivalents, and a save whose text would not read back is
 // refused before it touches the file.
 
+#include "base/textcodec.h"
 #include "catalogue/builtinwidgets.h"
 #include "catalogue/hmiwidgettext.h"
-#include "project/textcodec.h"
 #include "tests/support/tempdir.h"
 #include "widgets/tamlodoc.h"
 

@@ -1,6 +1,6 @@
 #include "windowfiletext.h"
 
-#include "project/textcodec.h"
+#include "textcodec.h"
 
 #include <cstdio>
 

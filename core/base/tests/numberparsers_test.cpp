@@ -1,4 +1,4 @@
-#include "widgets/numberparsers.h"
+#include "base/numberparsers.h"
 
 #include <gtest/gtest.h>
 
