@@ -18,7 +18,7 @@
 #include "hmiwidgettext.h"
 #include "hmiwidgettextinput.h"
 #include "hmiwidgettimer.h"
-#include "hmiwidgetwindow.h"
+#include "widgets/hmiwidgetwindow.h"
 
 namespace {
 

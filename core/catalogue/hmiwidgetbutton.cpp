@@ -2,8 +2,8 @@
 
 #include "bevelbox.h"
 #include "captionfonts.h"
-#include "widgetchoices.h"
 #include "widgets/hmidraw.h"
+#include "widgets/widgetchoices.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetButton, CHmiWidget)
 

@@ -1,6 +1,6 @@
 #include "hmiwidgetnuminput.h"
 
-#include "widgetchoices.h"
+#include "widgets/widgetchoices.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetNumInput, CHmiWidget)
 

@@ -1,9 +1,9 @@
 #include "hmiwidgetpic.h"
 
 #include "base/textcodec.h"
-#include "widgetchoices.h"
 #include "widgets/hmidraw.h"
 #include "widgets/tamlodoc.h"
+#include "widgets/widgetchoices.h"
 
 #include <filesystem>
 #include <system_error>

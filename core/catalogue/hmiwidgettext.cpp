@@ -1,8 +1,8 @@
 #include "hmiwidgettext.h"
 
 #include "captionfonts.h"
-#include "widgetchoices.h"
 #include "widgets/hmidraw.h"
+#include "widgets/widgetchoices.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetText, CHmiWidget)
 

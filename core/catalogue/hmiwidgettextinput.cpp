@@ -1,6 +1,6 @@
 #include "hmiwidgettextinput.h"
 
-#include "widgetchoices.h"
+#include "widgets/widgetchoices.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetTextInput, CHmiWidget)
 

@@ -1,7 +1,7 @@
 #include "inputfield.h"
 
-#include "widgetchoices.h"
 #include "widgets/hmidraw.h"
+#include "widgets/widgetchoices.h"
 
 void DrawInputField(CHmiDC& dc, const HmiRect& rect, const InputFieldLook& look)
 {

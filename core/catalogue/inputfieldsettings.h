@@ -3,7 +3,7 @@
 #include "captionfonts.h"
 #include "inputfield.h"
 #include "propertytable.h"
-#include "widgetchoices.h"
+#include "widgets/widgetchoices.h"
 
 #include <string>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "tamlodoc.h"
 
-#include "catalogue/hmiwidgetwindow.h"
 #include "hmictrlwidget.h"
 #include "hmiview.h"
+#include "hmiwidgetwindow.h"
 #include "widgetfilereader.h"
 #include "windowfilecheck.h"
 

@@ -1,7 +1,7 @@
 #include "widgetfilereader.h"
 
-#include "catalogue/hmiwidgetcustom.h"
 #include "dynamics/dynamictype.h"
+#include "hmiwidgetcustom.h"
 #include "project/readnotices.h"
 #include "project/xmldocument.h"
 

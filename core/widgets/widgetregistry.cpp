@@ -1,7 +1,7 @@
 #include "hmiwidget.h"
 #include "widgetlibrary.h"
 
-#include "catalogue/hmiwidgetcustom.h"
+#include "hmiwidgetcustom.h"
 
 std::vector<CWidgetRunTimeClass> CHmiWidget::WidgetClassList;
 const CHmiRuntimeClass* CHmiWidget::CurWidgetClass = nullptr;

@@ -1,6 +1,6 @@
 #include "canvasgeometry.h"
 
-#include "catalogue/hmiwidgetwindow.h"
+#include "widgets/hmiwidgetwindow.h"
 
 HmiPoint CanvasOrigin(const CHmiWidget& widget)
 {

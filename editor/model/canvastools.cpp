@@ -2,8 +2,8 @@
 
 #include "canvasgeometry.h"
 #include "canvasselection.h"
-#include "catalogue/hmiwidgetwindow.h"
 #include "widgets/hmiview.h"
+#include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
 
 namespace {

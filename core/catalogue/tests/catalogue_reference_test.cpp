@@ -5,9 +5,9 @@
 // its diff.
 
 #include "catalogue/builtinwidgets.h"
-#include "catalogue/hmiwidgetcustom.h"
 #include "catalogue/hmiwidgetvalve.h"
 #include "widgets/hmiwidget.h"
+#include "widgets/hmiwidgetcustom.h"
 
 #include <gtest/gtest.h>
 

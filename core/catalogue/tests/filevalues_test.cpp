@@ -3,12 +3,12 @@
 // pinned down by the catalogue reference.
 
 #include "catalogue/builtinwidgets.h"
-#include "catalogue/hmiwidgetcustom.h"
 #include "catalogue/hmiwidgetgradrect.h"
 #include "catalogue/hmiwidgetvalve.h"
-#include "catalogue/hmiwidgetwindow.h"
 #include "ownproperties.h"
 #include "tests/support/memoryoptiontree.h"
+#include "widgets/hmiwidgetcustom.h"
+#include "widgets/hmiwidgetwindow.h"
 
 #include <gtest/gtest.h>
 

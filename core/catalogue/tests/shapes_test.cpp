@@ -4,8 +4,8 @@
 #include "catalogue/hmiwidgetline.h"
 #include "catalogue/hmiwidgetrect.h"
 #include "catalogue/hmiwidgetvalve.h"
-#include "catalogue/hmiwidgetwindow.h"
 #include "tests/support/recordingdc.h"
+#include "widgets/hmiwidgetwindow.h"
 
 #include <gtest/gtest.h>
 

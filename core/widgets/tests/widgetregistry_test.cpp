@@ -1,9 +1,9 @@
 // The class registry and library registration; loading real libraries, and withdrawing what a
 // declining one registered, is tested in editor/startup/tests.
 
-#include "catalogue/hmiwidgetcustom.h"
 #include "tests/support/emptyregistry.h"
 #include "widgets/hmictrlwidget.h"
+#include "widgets/hmiwidgetcustom.h"
 #include "widgets/widgetlibrary.h"
 
 #include <gtest/gtest.h>

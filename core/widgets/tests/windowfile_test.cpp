@@ -2,13 +2,13 @@
 // type, escaped values and scripts with both kinds of line end, against a hand-written file.
 
 #include "catalogue/builtinwidgets.h"
-#include "catalogue/hmiwidgetcustom.h"
 #include "catalogue/hmiwidgettimer.h"
 #include "catalogue/hmiwidgetvalve.h"
-#include "catalogue/hmiwidgetwindow.h"
 #include "dynamics/dynamictypes.h"
 #include "tests/support/tempdir.h"
 #include "tests/support/windowfilelines.h"
+#include "widgets/hmiwidgetcustom.h"
+#include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
 
 #include <gtest/gtest.h>

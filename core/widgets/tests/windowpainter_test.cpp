@@ -1,5 +1,5 @@
-#include "catalogue/hmiwidgetwindow.h"
 #include "tests/support/recordingdc.h"
+#include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/windowpainter.h"
 

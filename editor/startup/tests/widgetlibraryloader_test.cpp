@@ -4,7 +4,7 @@
 #include "tests/support/childcost.h"
 #include "tests/support/emptyregistry.h"
 #include "tests/support/tempdir.h"
-#include "catalogue/hmiwidgetcustom.h"
+#include "widgets/hmiwidgetcustom.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/widgetlibrary.h"
 

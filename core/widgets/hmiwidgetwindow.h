@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/hmiwidget.h"
+#include "hmiwidget.h"
 
 // The HMI window itself: every window document holds exactly one, which carries the window's
 // own properties (caption, centring, background, security) and its "open" and "close" scripts.

@@ -1,9 +1,9 @@
 #include "hmiwidgetwindow.h"
 
 #include "base/numberparsers.h"
+#include "hmidraw.h"
+#include "optiontree.h"
 #include "widgetchoices.h"
-#include "widgets/hmidraw.h"
-#include "widgets/optiontree.h"
 
 #include <iterator>
 

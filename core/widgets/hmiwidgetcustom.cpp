@@ -1,7 +1,7 @@
 #include "hmiwidgetcustom.h"
 
 #include "base/windowfiletext.h"
-#include "widgets/optiontree.h"
+#include "optiontree.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetCustom, CHmiWidget)
 

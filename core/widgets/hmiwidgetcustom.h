@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/hmiwidget.h"
+#include "hmiwidget.h"
 
 // A widget of a class the editor does not know (from a widget library that is not loaded, say).
 // It keeps every property it does not understand as the text of a `property` line and writes
