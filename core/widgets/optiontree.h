@@ -3,6 +3,7 @@
 #include "base/hmitypes.h"
 
 #include <string>
+#include <string_view>
 
 // The property list as the widgets see it: a tree of root items (one per property group)
 // whose rows are editor items of several kinds. The editor implements it on a tree view;
@@ -13,6 +14,12 @@
 constexpr HmiColor kHmiColor3DFace = 0x00F0F0F0;
 // Background of the extra column of a row whose property is bound to an expression.
 constexpr HmiColor kHmiColorBound = 0x000000FF;
+
+// The colour that marks, in a row's extra column, whether its property is bound (its expression).
+constexpr HmiColor BindingMarkColor(std::string_view expression)
+{
+    return expression.empty() ? kHmiColor3DFace : kHmiColorBound;
+}
 
 class COptionTreeItem {
 public:

@@ -142,7 +142,7 @@ void CHmiWidget::SetWidgetParentItem(CHmiWidgetProp& prop)
 void CHmiWidget::SetWidgetDynPropBkColor(CHmiWidgetProp& prop) const
 {
     if (prop.m_pTreeItem)
-        prop.m_pTreeItem->SetAdtColumnBkColor(prop.m_strExpression.empty() ? kHmiColor3DFace : kHmiColorBound);
+        prop.m_pTreeItem->SetAdtColumnBkColor(BindingMarkColor(prop.m_strExpression));
 }
 
 COptionTreeItem* CHmiWidget::CreatePropItem(CHmiWidgetProp& prop)
