@@ -50,6 +50,14 @@ void AppendEscapedAttribute(std::string& archive, std::string_view text)
     AppendAttribute(archive, text, "&\"<>'");
 }
 
+std::string EscapedAttribute(std::string_view text)
+{
+    std::string escaped;
+    escaped.reserve(text.size());
+    AppendEscapedAttribute(escaped, text);
+    return escaped;
+}
+
 void AppendPlainAttribute(std::string& archive, std::string_view text)
 {
     AppendAttribute(archive, text, "&\"<");

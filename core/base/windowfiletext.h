@@ -17,6 +17,8 @@
 // An attribute value under the window file's escaping rule: & " < > ' as entities, in one pass,
 // so that no entity is escaped twice.
 void AppendEscapedAttribute(std::string& archive, std::string_view text);
+// The same escaping, as a text of its own.
+std::string EscapedAttribute(std::string_view text);
 // An attribute value that the window file writes unescaped (names, class keys, limit values):
 // only the characters that would end the value or break the file (& < ") become entities.
 void AppendPlainAttribute(std::string& archive, std::string_view text);

@@ -7,6 +7,7 @@
 #include "hmiview.h"
 #include "optiontree.h"
 #include "tamlodoc.h"
+#include "widgetfilewriter.h"
 
 #include <algorithm>
 
@@ -404,31 +405,8 @@ int CHmiWidget::GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text
 
 std::string CHmiWidget::ConvertExpToXMLFormat(std::string_view text)
 {
-    std::string out;
-    out.reserve(text.size());
-    AppendEscapedAttribute(out, text);
-    return out;
+    return EscapedAttribute(text);
 }
-
-namespace {
-
-void AppendPropertyLine(std::string& archive, const char* name, const char* type, std::string_view length,
-                        std::string_view value)
-{
-    archive += "\t\t\t<property name=\"";
-    AppendPlainAttribute(archive, name);
-    archive += "\" type=\"";
-    AppendPlainAttribute(archive, type);
-    if (!length.empty()) {
-        archive += "\" length=\"";
-        AppendPlainAttribute(archive, length);
-    }
-    archive += "\" value=\"";
-    AppendEscapedAttribute(archive, value);
-    archive += "\" />\n";
-}
-
-} // namespace
 
 void CHmiWidget::SaveWidgetProperty(std::string& archive, const char* name, const char* type, const char* length,
                                     std::string_view value)

@@ -1,7 +1,7 @@
 #include "hmiwidgetcustom.h"
 
-#include "base/windowfiletext.h"
 #include "optiontree.h"
+#include "widgetfilewriter.h"
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetCustom, CHmiWidget)
 
@@ -28,17 +28,7 @@ int CHmiWidgetCustom::SetWidgetProperty(std::string_view name, std::string_view 
         return 1;
     // Kept as the line it will be written as; the values come unescaped from the reader, so the
     // characters that would break the line go back in as entities.
-    CustomInfo += "\t\t\t<property name=\"";
-    AppendPlainAttribute(CustomInfo, name);
-    CustomInfo += "\" type=\"";
-    AppendPlainAttribute(CustomInfo, type);
-    if (!length.empty()) {
-        CustomInfo += "\" length=\"";
-        AppendPlainAttribute(CustomInfo, length);
-    }
-    CustomInfo += "\" value=\"";
-    AppendPlainAttribute(CustomInfo, value);
-    CustomInfo += "\" />\n";
+    AppendPropertyLine(CustomInfo, name, type, length, value, AppendPlainAttribute);
     return 1;
 }
 

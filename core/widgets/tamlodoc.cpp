@@ -12,7 +12,6 @@
 namespace {
 
 constexpr const char* kWindowClassKey = "window";
-constexpr const char* kWindowFileEnd = "</hmiwidget>\n";
 
 } // namespace
 
@@ -229,31 +228,26 @@ FileResult CTamloDoc::Load(const std::string& path)
     return result;
 }
 
-std::string CTamloDoc::SerializeWidgets(std::vector<WrittenWidget>& written) const
+CWindowFileWriter CTamloDoc::WriteWidgets() const
 {
-    std::string archive = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
+    CWindowFileWriter writer;
     for (const HmiWidgetPtr& widget : m_widgets) {
-        if (IsWidgetDeleted(widget.get()))
-            continue;
-        written.push_back({widget.get(), archive.size()});
-        widget->Serialize(archive);
+        if (!IsWidgetDeleted(widget.get()))
+            writer.Write(*widget);
     }
-    return archive;
+    return writer;
 }
 
 std::string CTamloDoc::Serialize() const
 {
-    std::vector<WrittenWidget> written;
-    return SerializeWidgets(written) + kWindowFileEnd;
+    return WriteWidgets().Finish();
 }
 
 FileResult CTamloDoc::SerializeChecked(std::string& text) const
 {
-    std::vector<WrittenWidget> written;
-    text = SerializeWidgets(written);
-    const std::size_t widgetsEnd = text.size();
-    text += kWindowFileEnd;
-    return CheckWindowFileReadsBack(text, written, widgetsEnd);
+    CWindowFileWriter writer = WriteWidgets();
+    text = writer.Finish();
+    return CheckWindowFileReadsBack(text, writer.Written(), writer.WidgetsEnd());
 }
 
 FileResult CTamloDoc::Save(const std::string& path)

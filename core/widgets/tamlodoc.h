@@ -117,8 +117,8 @@ public:
     static int& WidgetNameCounter();
 
 private:
-    // The window file's text without its closing line, and where each widget's element begins.
-    std::string SerializeWidgets(std::vector<WrittenWidget>& written) const;
+    // The widgets that are not deleted, written in drawing order.
+    CWindowFileWriter WriteWidgets() const;
     void DeleteContents();
     void DestroyDeletedWidgets();
     void AddWindowWidget(bool atTail, bool select);

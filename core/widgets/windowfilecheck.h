@@ -1,16 +1,10 @@
 #pragma once
 
-#include "hmiwidget.h"
 #include "project/fileio.h"
+#include "widgetfilewriter.h"
 
 #include <span>
 #include <string_view>
-
-// Where one widget's element starts in a window file text, in the order they were written.
-struct WrittenWidget {
-    const CHmiWidget* widget;
-    std::size_t begin;
-};
 
 // Checks a window file text before it replaces a file: it must parse, and its widget elements,
 // read and written again, must give back the bytes written from `widgets` (which cover the text

@@ -3,6 +3,7 @@
 #include "project/xmldocument.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/widgetfilereader.h"
+#include "widgets/widgetfilewriter.h"
 
 #include <algorithm>
 #include <functional>
@@ -37,12 +38,10 @@ bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
 
 std::string CopyWidgets(const std::vector<CHmiWidget*>& widgets)
 {
-    std::string text;
+    CWindowFileWriter writer;
     for (const CHmiWidget* widget : WithoutWindow(widgets))
-        widget->Serialize(text);
-    if (text.empty())
-        return text;
-    return "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n" + text + "</hmiwidget>\n";
+        writer.Write(*widget);
+    return writer.Written().empty() ? std::string() : writer.Finish();
 }
 
 bool HasEditableWidgets(const std::vector<CHmiWidget*>& widgets)
