@@ -57,7 +57,12 @@ void CHmiWidgetWindow::Draw(CHmiDC& dc)
 
 std::string CHmiWidgetWindow::GetWidgetClassName() const
 {
-    return "window";
+    return kWindowClassKey;
+}
+
+bool IsWindowWidget(const CHmiWidget& widget)
+{
+    return widget.GetWidgetClassName() == kWindowClassKey;
 }
 
 int CHmiWidgetWindow::SetWidgetProperty(std::string_view name, std::string_view type, std::string_view value,

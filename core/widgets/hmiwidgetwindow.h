@@ -2,6 +2,12 @@
 
 #include "hmiwidget.h"
 
+// The class key of the window widget, which is also the name a new window gives it.
+inline constexpr const char* kWindowClassKey = "window";
+
+// Whether a widget is the window itself, known by its class key (a custom widget may carry it too).
+bool IsWindowWidget(const CHmiWidget& widget);
+
 // The HMI window itself: every window document holds exactly one, which carries the window's
 // own properties (caption, centring, background, security) and its "open" and "close" scripts.
 // Its rectangle starts as the panel's default screen.

@@ -9,12 +9,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-constexpr const char* kWindowClassKey = "window";
-
-} // namespace
-
 int& CTamloDoc::WidgetNameCounter()
 {
     static int counter = 1;
@@ -205,7 +199,7 @@ bool CTamloDoc::HasWidgetName(std::string_view name) const
 CHmiWidget* CTamloDoc::GetWindowWidget() const
 {
     for (const HmiWidgetPtr& widget : m_widgets) {
-        if (widget->GetWidgetClassName() == kWindowClassKey)
+        if (IsWindowWidget(*widget))
             return widget.get();
     }
     return nullptr;

@@ -4,7 +4,7 @@
 
 HmiPoint CanvasOrigin(const CHmiWidget& widget)
 {
-    if (dynamic_cast<const CHmiWidgetWindow*>(&widget))
+    if (IsWindowWidget(widget))
         return {widget.GetWidgetRect().left, widget.GetWidgetRect().top};
     return {};
 }

@@ -1,6 +1,7 @@
 #include "editcommands.h"
 
 #include "project/xmldocument.h"
+#include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/widgetfilereader.h"
 #include "widgets/widgetfilewriter.h"
@@ -13,7 +14,7 @@ namespace {
 
 bool IsWindow(const CHmiWidget* widget)
 {
-    return widget->GetWidgetClassName() == "window";
+    return IsWindowWidget(*widget);
 }
 
 std::vector<CHmiWidget*> WithoutWindow(const std::vector<CHmiWidget*>& widgets)
@@ -53,7 +54,7 @@ std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& te
 {
     std::vector<HmiWidgetPtr> read;
     ReadWindowText(text, [&read](HmiWidgetPtr widget) {
-        if (widget->GetWidgetClassName() != "window")
+        if (!IsWindowWidget(*widget))
             read.push_back(std::move(widget));
     });
     std::vector<CHmiWidget*> pasted;
