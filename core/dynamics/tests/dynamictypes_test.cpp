@@ -1,6 +1,6 @@
 // What each binding type composes, writes and reads at its edges. The composed expressions and
 // written elements of ordinary bindings of every type, and their reading back, are pinned down
-// byte for byte in widgets/core/tests/windowfile_test.cpp.
+// byte for byte in core/widgets/tests/windowfile_test.cpp.
 
 #include "dynamics/dynamictypes.h"
 #include "project/xmldocument.h"
