@@ -13,6 +13,7 @@ set(kLayers
     "dynamics:base project"
     "widgets:base project dynamics"
     "catalogue:base project dynamics widgets"
+    "libraries:base project dynamics widgets catalogue"
 )
 
 if(NOT IS_DIRECTORY "${CORE_DIR}")

@@ -31,6 +31,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 // One library that registered its classes.
@@ -51,6 +52,33 @@ const std::vector<CWidgetLibRecord>& RegisteredWidgetLibs();
 // Forgets every registered library; for shutdown and tests.
 void ClearRegisteredWidgetLibs();
 
-// Forgets the libraries registered after the first `count`: the loader takes back the record of
-// a library that registered and then declined, since the record points into its unloaded code.
-void TruncateRegisteredWidgetLibs(std::size_t count);
+// A list outside the class registry that libraries add to from WidgetsLibInit: the editor's live
+// controls and property-row dialogs (editor/extensions/editorextensions.h). Its entries point
+// into a library's code, so the loader takes back what a declining library added, as it does
+// with the library's classes. A point takes part from its construction to its destruction.
+class CLibraryExtensionPoint {
+public:
+    CLibraryExtensionPoint();
+    virtual ~CLibraryExtensionPoint();
+    CLibraryExtensionPoint(const CLibraryExtensionPoint&) = delete;
+    CLibraryExtensionPoint& operator=(const CLibraryExtensionPoint&) = delete;
+
+    virtual std::size_t EntryCount() const = 0;
+    // Forgets the entries after the first count.
+    virtual void TruncateEntries(std::size_t count) = 0;
+};
+
+// What is registered at the moment it is made: the loader makes one before a library's
+// WidgetsLibInit runs, and withdraws what the library added (classes, its library record, its
+// extension entries) when it declines, since all of it points into code about to be unloaded.
+class CWidgetLibRegistrations {
+public:
+    CWidgetLibRegistrations();
+    std::size_t AddedClassCount() const;
+    void WithdrawAdded() const;
+
+private:
+    std::size_t m_classCount;
+    std::size_t m_libraryCount;
+    std::vector<std::pair<CLibraryExtensionPoint*, std::size_t>> m_extensionCounts;
+};

@@ -3,6 +3,8 @@
 
 #include "hmiwidgetcustom.h"
 
+#include <algorithm>
+
 std::vector<CWidgetRunTimeClass> CHmiWidget::WidgetClassList;
 const CHmiRuntimeClass* CHmiWidget::CurWidgetClass = nullptr;
 
@@ -14,23 +16,40 @@ std::vector<CWidgetLibRecord>& WidgetLibs()
     return libs;
 }
 
+std::vector<CLibraryExtensionPoint*>& ExtensionPoints()
+{
+    static std::vector<CLibraryExtensionPoint*> points;
+    return points;
+}
+
 } // namespace
 
 bool CHmiWidget::AddWidgetRunTimeClass(std::string_view key, const CHmiRuntimeClass* runtimeClass)
 {
-    if (key.empty() || !runtimeClass)
+    return AddWidgetRunTimeClass({std::string(key), runtimeClass});
+}
+
+bool CHmiWidget::AddWidgetRunTimeClass(const CWidgetRunTimeClass& entry)
+{
+    if (entry.m_strClassKey.empty() || !entry.m_pRuntimeClass)
         return false;
-    WidgetClassList.push_back({std::string(key), runtimeClass});
+    WidgetClassList.push_back(entry);
     return true;
+}
+
+const CWidgetRunTimeClass* CHmiWidget::FindWidgetClassEntry(std::string_view key)
+{
+    for (const CWidgetRunTimeClass& entry : WidgetClassList) {
+        if (entry.m_strClassKey == key)
+            return &entry;
+    }
+    return nullptr;
 }
 
 const CHmiRuntimeClass* CHmiWidget::GetWidgetClass(std::string_view key)
 {
-    for (const CWidgetRunTimeClass& entry : WidgetClassList) {
-        if (entry.m_strClassKey == key)
-            return entry.m_pRuntimeClass;
-    }
-    return &CHmiWidgetCustom::classCHmiWidgetCustom;
+    const CWidgetRunTimeClass* entry = FindWidgetClassEntry(key);
+    return entry ? entry->m_pRuntimeClass : &CHmiWidgetCustom::classCHmiWidgetCustom;
 }
 
 void CHmiWidget::RemoveAllRunTimeClass()
@@ -44,7 +63,7 @@ int RegisterWidgetsLib(const char* libraryName, int count, const CWidgetRunTimeC
         return 0;
     WidgetLibs().push_back({libraryName, count, entries});
     for (int i = 0; i < count; ++i)
-        CHmiWidget::AddWidgetRunTimeClass(entries[i].m_strClassKey, entries[i].m_pRuntimeClass);
+        CHmiWidget::AddWidgetRunTimeClass(entries[i]);
     return 1;
 }
 
@@ -58,8 +77,33 @@ void ClearRegisteredWidgetLibs()
     WidgetLibs().clear();
 }
 
-void TruncateRegisteredWidgetLibs(std::size_t count)
+CLibraryExtensionPoint::CLibraryExtensionPoint()
 {
-    if (count < WidgetLibs().size())
-        WidgetLibs().resize(count);
+    ExtensionPoints().push_back(this);
+}
+
+CLibraryExtensionPoint::~CLibraryExtensionPoint()
+{
+    std::erase(ExtensionPoints(), this);
+}
+
+CWidgetLibRegistrations::CWidgetLibRegistrations()
+    : m_classCount(CHmiWidget::WidgetClassList.size()), m_libraryCount(WidgetLibs().size())
+{
+    for (CLibraryExtensionPoint* point : ExtensionPoints())
+        m_extensionCounts.emplace_back(point, point->EntryCount());
+}
+
+std::size_t CWidgetLibRegistrations::AddedClassCount() const
+{
+    return CHmiWidget::WidgetClassList.size() - m_classCount;
+}
+
+void CWidgetLibRegistrations::WithdrawAdded() const
+{
+    auto& classes = CHmiWidget::WidgetClassList;
+    classes.erase(classes.begin() + std::ptrdiff_t(std::min(m_classCount, classes.size())), classes.end());
+    WidgetLibs().resize(std::min(m_libraryCount, WidgetLibs().size()));
+    for (const auto& [point, count] : m_extensionCounts)
+        point->TruncateEntries(count);
 }

@@ -3,7 +3,7 @@
 #include "recentfilelist.h"
 
 #include "editor/dynamicdialogs/scriptfunctions.h"
-#include "editor/startup/widgetlibraryloader.h"
+#include "libraries/widgetlibraryloader.h"
 
 #include <QKeySequence>
 #include <QMainWindow>

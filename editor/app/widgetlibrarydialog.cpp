@@ -2,7 +2,7 @@
 
 #include "pathtext.h"
 
-#include "editor/startup/librarycrashguard.h"
+#include "libraries/librarycrashguard.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -17,27 +17,6 @@ namespace {
 
 constexpr int kReasonColumn = 2;
 const QString kLoadedAtNextStart = QStringLiteral("it will be loaded at the next start");
-
-QString OutcomeText(LibraryOutcome outcome)
-{
-    switch (outcome) {
-    case LibraryOutcome::Loaded:
-        return QStringLiteral("loaded");
-    case LibraryOutcome::NoEntryPoint:
-        return QStringLiteral("no entry point");
-    case LibraryOutcome::Declined:
-        return QStringLiteral("declined");
-    case LibraryOutcome::NotLoaded:
-        return QStringLiteral("cannot be loaded");
-    case LibraryOutcome::Threw:
-        return QStringLiteral("threw");
-    case LibraryOutcome::Refused:
-        return QStringLiteral("refused");
-    case LibraryOutcome::SkippedAfterCrash:
-        break;
-    }
-    return QStringLiteral("skipped after a crash");
-}
 
 } // namespace
 
@@ -60,7 +39,7 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
         const QString reason = library.outcome == LibraryOutcome::SkippedAfterCrash && !SkippedAtNextStart(library)
                                    ? kLoadedAtNextStart
                                    : QString::fromStdString(library.reason);
-        m_list->addTopLevelItem(new QTreeWidgetItem({ToQtPath(library.file), OutcomeText(library.outcome), reason}));
+        m_list->addTopLevelItem(new QTreeWidgetItem({ToQtPath(library.file), QString::fromLatin1(OutcomeText(library.outcome)), reason}));
     }
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CWidgetLibraryDialog::UpdateLoadAgainButton);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/startup/widgetlibraryloader.h"
+#include "libraries/widgetlibraryloader.h"
 
 #include <QDialog>
 

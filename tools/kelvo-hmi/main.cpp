@@ -3,6 +3,7 @@
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 #include "catalogue/builtinwidgets.h"
+#include "libraries/widgetlibraryloader.h"
 #include "widgets/hmiimagedc.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/windowpainter.h"
@@ -141,19 +142,45 @@ const Command kCommands[] = {
 
 void PrintUsage(std::FILE* out)
 {
-    std::fprintf(out, "Usage: kelvo-hmi COMMAND [ARGS]\n\nCommands:\n");
+    std::fprintf(out, "Usage: kelvo-hmi [--modules DIR] COMMAND [ARGS]\n\nCommands:\n");
     for (const Command& command : kCommands)
         std::fprintf(out, "  %-30.*s %.*s\n", int(command.usage.size()), command.usage.data(),
                      int(command.summary.size()), command.summary.data());
-    std::fprintf(out, "\nOptions:\n  %-30s %s\n  %-30s %s\n", "--help", "show this help", "--version",
-                 "show the version");
+    std::fprintf(out, "\nOptions:\n  %-30s %s\n  %-30s %s\n  %-30s %s\n", "--modules DIR",
+                 "load the widget libraries of DIR first, as the editor loads its modules folder", "--help",
+                 "show this help", "--version", "show the version");
+}
+
+// Registers the widget classes: the built-in ones, and those of the libraries in modules when one
+// is given. What went wrong with a library is told on stderr; the command runs all the same.
+void RegisterWidgetClasses(const char* modules)
+{
+    if (!modules) {
+        RegisterBuiltinWidgetClasses();
+        return;
+    }
+    // Without a state folder: a library that crashed the editor is skipped only by the editor.
+    const WidgetLibraryLoadReport report = LoadWidgetLibraries(modules, {});
+    for (const WidgetLibraryLoad& library : report.libraries)
+        if (library.Failed())
+            std::fprintf(stderr, "kelvo-hmi: note: widget library %s: %s: %s\n", library.file.c_str(),
+                         OutcomeText(library.outcome), library.reason.c_str());
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    const Arguments args(argv + 1, argv + argc);
+    Arguments args(argv + 1, argv + argc);
+    const char* modules = nullptr;
+    if (!args.empty() && std::string_view(args[0]) == "--modules") {
+        if (args.size() < 2) {
+            PrintUsage(stderr);
+            return 2;
+        }
+        modules = args[1];
+        args = args.subspan(2);
+    }
     if (args.empty()) {
         PrintUsage(stderr);
         return 2;
@@ -175,7 +202,7 @@ int main(int argc, char* argv[])
             std::fprintf(stderr, "Usage: kelvo-hmi %.*s\n", int(command.usage.size()), command.usage.data());
             return 2;
         }
-        RegisterBuiltinWidgetClasses();
+        RegisterWidgetClasses(modules);
         if (!command.draws)
             return command.run(args.subspan(1));
         // Drawing needs fonts, hence an application object; no display is needed.
@@ -190,7 +217,7 @@ int main(int argc, char* argv[])
         QGuiApplication application(argc, argv);
         return command.run(args.subspan(1));
     }
-    std::fprintf(stderr, "kelvo-hmi: unknown command '%s'\n\n", argv[1]);
+    std::fprintf(stderr, "kelvo-hmi: unknown command '%s'\n\n", args[0]);
     PrintUsage(stderr);
     return 2;
 }

@@ -14,6 +14,9 @@ enum class LibraryOutcome {
     SkippedAfterCrash, // it ended an earlier start while it was loaded: not loaded until asked for
 };
 
+// The outcome in a few words, as both programs report it ("loaded", "refused", ...).
+const char* OutcomeText(LibraryOutcome outcome);
+
 struct WidgetLibraryLoad {
     std::string file; // the file name; the folder's path when the folder itself is refused
     std::string path; // the canonical path
@@ -30,7 +33,8 @@ struct WidgetLibraryLoadReport {
     std::vector<WidgetLibraryLoad> libraries; // in loading order
 };
 
-// Registers the built-in widget classes, then loads every `*.so` file of the folder in file-name
+// Registers the built-in widget classes (the first class registered under a key wins, so no
+// library can replace one), then loads every `*.so` file of the folder in file-name
 // order and lets each register its classes through `extern "C" int WidgetsLibInit()`. A relative
 // folder is taken from the current directory; a missing one leaves just the built-ins.
 //

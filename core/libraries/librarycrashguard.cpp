@@ -31,6 +31,8 @@ CLibraryCrashGuard::CLibraryCrashGuard(std::string stateFolder)
     : m_stateFolder(std::move(stateFolder))
     , m_crashed(CrashedLibraries(m_stateFolder))
 {
+    if (m_stateFolder.empty())
+        return;
     const std::string link = LinkPath(m_stateFolder);
     std::error_code error;
     const std::string crashed = std::filesystem::read_symlink(link, error).string();
@@ -49,9 +51,9 @@ bool CLibraryCrashGuard::CrashedBefore(const std::string& library) const
 }
 
 CLibraryCrashGuard::CLoading::CLoading(const CLibraryCrashGuard& guard, const std::string& library)
-    : m_link(LinkPath(guard.m_stateFolder))
+    : m_link(guard.m_stateFolder.empty() ? std::string() : LinkPath(guard.m_stateFolder))
 {
-    if (::symlink(library.c_str(), m_link.c_str()) != 0)
+    if (!m_link.empty() && ::symlink(library.c_str(), m_link.c_str()) != 0)
         m_link.clear();
 }
 
@@ -65,7 +67,7 @@ std::vector<std::string> CLibraryCrashGuard::CrashedLibraries(const std::string&
 {
     std::vector<std::string> libraries;
     std::string bytes;
-    if (!ReadWholeFile(ListPath(stateFolder), bytes))
+    if (stateFolder.empty() || !ReadWholeFile(ListPath(stateFolder), bytes))
         return libraries;
     for (std::size_t start = 0, end; (end = bytes.find('\0', start)) != std::string::npos; start = end + 1)
         libraries.push_back(bytes.substr(start, end - start));

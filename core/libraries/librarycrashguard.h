@@ -15,7 +15,8 @@
 //
 // A start that finds the link left behind knows which library ended the editor, and adds it to
 // the list. The libraries on the list are skipped until the user asks for one to be loaded again.
-// Without a usable state folder there is no guard, and loading goes on as ever.
+// Without a usable state folder (or with none given: the command-line tool) there is no guard,
+// and loading goes on as ever.
 class CLibraryCrashGuard {
 public:
     // Takes over the link that a crashed start left behind.

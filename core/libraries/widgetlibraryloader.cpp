@@ -18,17 +18,6 @@ namespace {
 
 using WidgetsLibInitFunction = int (*)();
 
-// A library may register classes and still decline. Its class records and library record point
-// into code that dlclose unmaps, and creating a widget of such a class would crash the editor,
-// so whatever its initialisation added to the registry is taken back before it is unloaded.
-void WithdrawRegistrationsSince(std::size_t classCount, std::size_t libraryCount)
-{
-    auto& classes = CHmiWidget::WidgetClassList;
-    if (classCount < classes.size())
-        classes.erase(classes.begin() + std::ptrdiff_t(classCount), classes.end());
-    TruncateRegisteredWidgetLibs(libraryCount);
-}
-
 // The dynamic loader's message without the path it starts with, which the report names anyway.
 std::string LoaderError(const std::string& path)
 {
@@ -74,12 +63,14 @@ WidgetLibraryLoad Load(const ModuleFile& file, const CLibraryCrashGuard& guard)
     const auto init = reinterpret_cast<WidgetsLibInitFunction>(dlsym(handle, "WidgetsLibInit"));
     if (!init)
         return outcome(LibraryOutcome::NoEntryPoint, "it stays loaded but adds no widget classes");
-    const std::size_t classCount = CHmiWidget::WidgetClassList.size();
-    const std::size_t libraryCount = RegisteredWidgetLibs().size();
+    const CWidgetLibRegistrations before;
     std::optional<std::string> thrown;
     if (CallEntryPoint(init, thrown) != 0)
-        return outcome(LibraryOutcome::Loaded, ClassCountText(CHmiWidget::WidgetClassList.size() - classCount));
-    WithdrawRegistrationsSince(classCount, libraryCount);
+        return outcome(LibraryOutcome::Loaded, ClassCountText(before.AddedClassCount()));
+    // A library may register classes and still decline. What it registered points into code
+    // that dlclose unmaps, and creating a widget of such a class would crash the program, so it
+    // is taken back before the library is unloaded.
+    before.WithdrawAdded();
     dlclose(handle);
     if (thrown)
         return outcome(LibraryOutcome::Threw, *thrown);
@@ -87,6 +78,20 @@ WidgetLibraryLoad Load(const ModuleFile& file, const CLibraryCrashGuard& guard)
 }
 
 } // namespace
+
+const char* OutcomeText(LibraryOutcome outcome)
+{
+    switch (outcome) {
+    case LibraryOutcome::Loaded: return "loaded";
+    case LibraryOutcome::NoEntryPoint: return "no entry point";
+    case LibraryOutcome::Declined: return "declined";
+    case LibraryOutcome::NotLoaded: return "cannot be loaded";
+    case LibraryOutcome::Threw: return "threw";
+    case LibraryOutcome::Refused: return "refused";
+    case LibraryOutcome::SkippedAfterCrash: break;
+    }
+    return "skipped after a crash";
+}
 
 bool WidgetLibraryLoad::Failed() const
 {
@@ -96,7 +101,6 @@ bool WidgetLibraryLoad::Failed() const
 
 WidgetLibraryLoadReport LoadWidgetLibraries(const std::string& folder, const std::string& stateFolder)
 {
-    // Built-ins first: the first class registered under a key wins, so no library can replace one.
     RegisterBuiltinWidgetClasses();
 
     std::error_code error;

@@ -1,8 +1,8 @@
-#include "editor/startup/widgetlibraryloader.h"
+#include "libraries/widgetlibraryloader.h"
 
-#include "editor/startup/librarycrashguard.h"
+#include "libraries/librarycrashguard.h"
 #include "tests/support/childcost.h"
-#include "tests/support/emptyregistry.h"
+#include "tests/support/registrytest.h"
 #include "tests/support/tempdir.h"
 #include "widgets/hmiwidgetcustom.h"
 #include "widgets/tamlodoc.h"
