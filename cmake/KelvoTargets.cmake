@@ -50,6 +50,16 @@ function(kelvo_add_static_library name)
     target_compile_options(${name} PRIVATE -Wall -Wextra)
 endfunction()
 
+# kelvo_add_shared_editor_library(NAME SOURCES ... LIBS ...): the part of the editor that widget
+# libraries link against, shared so that the editor and every library use the same registries.
+function(kelvo_add_shared_editor_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LIBS})
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+endfunction()
+
 # kelvo_add_qt_test(NAME SOURCES ... LIBS ...): a QtTest program run by ctest on the offscreen
 # platform, so that it needs no display.
 function(kelvo_add_qt_test name)
@@ -66,12 +76,13 @@ function(kelvo_add_qt_test name)
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
 endfunction()
 
-# kelvo_add_widget_library(NAME SOURCES ... FOLDER dir): a widget library as a third party builds
-# one, named NAME.so in the modules folder dir.
+# kelvo_add_widget_library(NAME SOURCES ... FOLDER dir [LIBS ...]): a widget library as a third
+# party builds one, named NAME.so in the modules folder dir. LIBS adds kelvo-editor-extensions for
+# a library that extends the editor too.
 function(kelvo_add_widget_library name)
-    cmake_parse_arguments(ARG "" "FOLDER" "SOURCES" ${ARGN})
+    cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LIBS" ${ARGN})
     add_library(${name} MODULE ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE kelvo-core)
+    target_link_libraries(${name} PRIVATE kelvo-core ${ARG_LIBS})
     target_compile_options(${name} PRIVATE -Wall -Wextra)
     set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${ARG_FOLDER})
 endfunction()

@@ -22,39 +22,47 @@
 
 namespace {
 
-struct BuiltinWidgetClass {
-    const char* key;
-    const CHmiRuntimeClass* runtimeClass;
+// The table's order is the registration order; a class without a toolbox label is offered
+// under its key, or not at all (the window).
+const CWidgetRunTimeClass kBuiltinWidgetClasses[] = {
+    {"ellipse", &CHmiWidgetEllipse::classCHmiWidgetEllipse, "Ellipse"},
+    {"text", &CHmiWidgetText::classCHmiWidgetText, "Text"},
+    {"line", &CHmiWidgetLine::classCHmiWidgetLine, "Line"},
+    {"rectangle", &CHmiWidgetRect::classCHmiWidgetRect, "Rectangle"},
+    {"gradrectangle", &CHmiWidgetGradRect::classCHmiWidgetGradRect, "Gradient rectangle"},
+    {"gradellipse", &CHmiWidgetGradEllipse::classCHmiWidgetGradEllipse, "Gradient ellipse"},
+    {"gradtriangle", &CHmiWidgetGradTriangle::classCHmiWidgetGradTriangle, "Gradient triangle"},
+    {"picture", &CHmiWidgetPic::classCHmiWidgetPic, "Picture"},
+    {"button", &CHmiWidgetButton::classCHmiWidgetButton, "Button"},
+    {"checkbox", &CHmiWidgetCheckbox::classCHmiWidgetCheckbox, "Checkbox"},
+    {"timer", &CHmiWidgetTimer::classCHmiWidgetTimer, "Timer"},
+    {"combobox", &CHmiWidgetCombobox::classCHmiWidgetCombobox, "Combobox"},
+    {"curve", &CHmiWidgetCurve::classCHmiWidgetCurve, "Realtime curve"},
+    {"hiscurve", &CHmiWidgetHisCurve::classCHmiWidgetHisCurve, "History curve"},
+    {"window", &CHmiWidgetWindow::classCHmiWidgetWindow},
+    {"numinput", &CHmiWidgetNumInput::classCHmiWidgetNumInput, "Data input"},
+    {"textinput", &CHmiWidgetTextInput::classCHmiWidgetTextInput, "Text input"},
+    {"alarmwnd", &CHmiWidgetAlarmWnd::classCHmiWidgetAlarmWnd, "Alarm window"},
+    {"bmptext", &CHmiWidgetBmpText::classCHmiWidgetBmpText, "Vector Text"},
+    {"hislist", &CHmiWidgetHisList::classCHmiWidgetHisList},
 };
 
-// The table's order is the registration order.
-constexpr BuiltinWidgetClass kBuiltinWidgetClasses[] = {
-    {"ellipse", &CHmiWidgetEllipse::classCHmiWidgetEllipse},
-    {"text", &CHmiWidgetText::classCHmiWidgetText},
-    {"line", &CHmiWidgetLine::classCHmiWidgetLine},
-    {"rectangle", &CHmiWidgetRect::classCHmiWidgetRect},
-    {"gradrectangle", &CHmiWidgetGradRect::classCHmiWidgetGradRect},
-    {"gradellipse", &CHmiWidgetGradEllipse::classCHmiWidgetGradEllipse},
-    {"gradtriangle", &CHmiWidgetGradTriangle::classCHmiWidgetGradTriangle},
-    {"picture", &CHmiWidgetPic::classCHmiWidgetPic},
-    {"button", &CHmiWidgetButton::classCHmiWidgetButton},
-    {"checkbox", &CHmiWidgetCheckbox::classCHmiWidgetCheckbox},
-    {"timer", &CHmiWidgetTimer::classCHmiWidgetTimer},
-    {"combobox", &CHmiWidgetCombobox::classCHmiWidgetCombobox},
-    {"curve", &CHmiWidgetCurve::classCHmiWidgetCurve},
-    {"hiscurve", &CHmiWidgetHisCurve::classCHmiWidgetHisCurve},
-    {"window", &CHmiWidgetWindow::classCHmiWidgetWindow},
-    {"numinput", &CHmiWidgetNumInput::classCHmiWidgetNumInput},
-    {"textinput", &CHmiWidgetTextInput::classCHmiWidgetTextInput},
-    {"alarmwnd", &CHmiWidgetAlarmWnd::classCHmiWidgetAlarmWnd},
-    {"bmptext", &CHmiWidgetBmpText::classCHmiWidgetBmpText},
-    {"hislist", &CHmiWidgetHisList::classCHmiWidgetHisList},
+// The toolbox offers the labelled kinds in an order of its own.
+constexpr std::string_view kToolboxOrder[] = {
+    "rectangle", "line",         "ellipse",  "text",      "picture",  "gradrectangle",
+    "gradellipse", "gradtriangle", "timer",  "numinput",  "textinput", "button",
+    "checkbox",  "combobox",     "alarmwnd", "curve",     "hiscurve", "bmptext",
 };
 
 } // namespace
 
 void RegisterBuiltinWidgetClasses()
 {
-    for (const BuiltinWidgetClass& entry : kBuiltinWidgetClasses)
-        CHmiWidget::AddWidgetRunTimeClass(entry.key, entry.runtimeClass);
+    for (const CWidgetRunTimeClass& entry : kBuiltinWidgetClasses)
+        CHmiWidget::AddWidgetRunTimeClass(entry);
+}
+
+std::span<const std::string_view> BuiltinToolboxOrder()
+{
+    return kToolboxOrder;
 }

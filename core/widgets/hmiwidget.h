@@ -33,11 +33,16 @@ struct CHmiRuntimeClass {
     bool IsDerivedFrom(const CHmiRuntimeClass* base) const;
 };
 
-// One registry entry: the class key of the window file and the class it creates.
-// Widget libraries pass static arrays of these to RegisterWidgetsLib.
+// One registry entry: the class key of the window file and the class it creates, then how the
+// toolbox offers the class. Widget libraries pass static arrays of these to RegisterWidgetsLib.
 struct CWidgetRunTimeClass {
     std::string m_strClassKey;
     const CHmiRuntimeClass* m_pRuntimeClass;
+    // The toolbox label; empty: the class key.
+    std::string m_strToolboxLabel = {};
+    // The toolbox icon as an image in XPM form (a toolkit-free array of texts); null: the
+    // toolbox's own icon for a library's classes, none for the built-in ones.
+    const char* const* m_pToolboxIcon = nullptr;
 };
 
 // Declares and defines the class record of a widget class, its creation function and
@@ -154,6 +159,9 @@ public:
 
     // Property-list helpers.
     CHmiWidgetProp* GetWidgetPropByTreeItem(const COptionTreeItem* item) const;
+    // Forgets the list and its items, which the list is about to destroy: the list calls it when
+    // it stops showing the widget, so that no record keeps pointing into it.
+    void ReleasePropertyTree();
     // Gives a record the root item of its group (by caption); the basic root when none matches.
     void SetWidgetParentItem(CHmiWidgetProp& prop);
     COptionTreeItem* CreateNewRootItem(const std::string& caption, const std::string& info);
@@ -183,8 +191,12 @@ public:
     // The class the placing tool creates next.
     static const CHmiRuntimeClass* CurWidgetClass;
     static bool AddWidgetRunTimeClass(std::string_view key, const CHmiRuntimeClass* runtimeClass);
+    // Adds the whole entry, toolbox label and icon included; false, as above, for no key or class.
+    static bool AddWidgetRunTimeClass(const CWidgetRunTimeClass& entry);
     // The class registered first under exactly this key; the custom widget's class when none is.
     static const CHmiRuntimeClass* GetWidgetClass(std::string_view key);
+    // The entry registered first under exactly this key, or null.
+    static const CWidgetRunTimeClass* FindWidgetClassEntry(std::string_view key);
     static void RemoveAllRunTimeClass();
 
     // Rectangle, flags and owners are open to the canvas and the format commands, as in the

@@ -21,10 +21,15 @@ constexpr HmiColor BindingMarkColor(std::string_view expression)
     return expression.empty() ? kHmiColor3DFace : kHmiColorBound;
 }
 
+// Font rows show the font as read-only text; a button asks the editor for its font dialog.
+// Event rows show an event's script as read-only text; a button opens the script editor.
+enum class OptionItemKind { Root, Edit, Color, Combo, CheckBox, File, Variable, Static, Font, Event };
+
 class COptionTreeItem {
 public:
     virtual ~COptionTreeItem() = default;
 
+    virtual OptionItemKind GetKind() const = 0;
     virtual COptionTreeItem* GetParent() const = 0;
     virtual std::string GetLabelText() const = 0;
     virtual void Expand() = 0;
@@ -42,11 +47,8 @@ public:
     virtual void AddString(const std::string& text) = 0; // combo items
     virtual int GetCurSel() const = 0;                 // -1: no selection
     virtual void SetCurSel(int index) = 0;             // an index outside the list clears the selection
-    virtual void SetStaticText(const std::string& text) = 0; // static and font items
+    virtual void SetStaticText(const std::string& text) = 0; // static, font and event items
 };
-
-// Font rows show the font as read-only text; a button asks the editor for its font dialog.
-enum class OptionItemKind { Root, Edit, Color, Combo, CheckBox, File, Variable, Static, Font };
 
 class COptionTree {
 public:

@@ -40,7 +40,8 @@ void ShowValue(COptionTreeItem& item, const CHmiWidgetProp& prop, const std::str
         break;
     case OptionItemKind::CheckBox: item.SetCheck(HmiDecimalToLong(text) != 0); break;
     case OptionItemKind::Static:
-    case OptionItemKind::Font: item.SetStaticText(text); break;
+    case OptionItemKind::Font:
+    case OptionItemKind::Event: item.SetStaticText(text); break;
     default: item.SetEditText(text); break;
     }
 }
@@ -174,8 +175,23 @@ void CHmiWidget::CreateWidgetPropertyTree(COptionTree& tree)
     }
     if (m_events.empty())
         CreateEventItems();
-    for (const CHmiWidgetEvent& event : m_events)
-        CreateNewStaticItem(m_pEventRootItem, event.label, event.description, event.code);
+    for (const CHmiWidgetEvent& event : m_events) {
+        COptionTreeItem* item =
+            m_pPropertyTree->CreateNewItem(OptionItemKind::Event, m_pEventRootItem, event.label, event.description);
+        item->SetStaticText(event.code);
+    }
+}
+
+void CHmiWidget::ReleasePropertyTree()
+{
+    for (const auto& prop : m_properties) {
+        prop->m_pTreeItem = nullptr;
+        prop->m_pParentItem = nullptr;
+    }
+    m_pPropertyTree = nullptr;
+    m_pBasicRootItem = nullptr;
+    m_pEventRootItem = nullptr;
+    m_rootItems.clear();
 }
 
 void CHmiWidget::RefreshPropItem(const CHmiWidgetProp& prop) const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editor/dynamicdialogs/dialogservices.h"
-#include "editor/projectdialogs/projectcontext.h"
+#include "editor/extensions/projectcontext.h"
 #include "editor/recovery/recoverydialog.h"
 
 #include <QString>

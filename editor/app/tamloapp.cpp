@@ -7,7 +7,9 @@
 #include "recoverykeeper.h"
 #include "recoveryoffer.h"
 
+#include "editor/canvascontrols/controlkinds.h"
 #include "editor/dynamicdialogs/scriptfunctions.h"
+#include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/recovery/recoverystore.h"
 #include "editor/recovery/terminationsignals.h"
 #include "project/projectpath.h"
@@ -66,6 +68,9 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     // Without its state folder the editor only loses the guard against libraries that crash it.
     const QString stateFolder = EditorStateFolder();
     MakePrivateFolder(stateFolder);
+    // The editor's own kinds first, so that no library can replace their controls and dialogs.
+    RegisterBuiltinCanvasControls();
+    RegisterBuiltinRowDialogs();
     WidgetLibraryLoadReport libraries = LoadWidgetLibraries(kModulesFolder, ToModelPath(stateFolder));
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));

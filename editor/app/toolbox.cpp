@@ -1,75 +1,75 @@
 #include "toolbox.h"
 
 #include "editor/model/canvastools.h"
+#include "base/textcodec.h"
+#include "catalogue/builtinwidgets.h"
 #include "widgets/hmiwidget.h"
 #include "widgets/hmiwidgetwindow.h"
+#include "widgets/widgetlibrary.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QStyle>
 
 #include <algorithm>
 
 namespace {
 
-struct BuiltinToolboxLabel {
-    const char* classKey;
-    const char* label;
-};
-
-constexpr BuiltinToolboxLabel kBuiltinToolbox[] = {
-    {"rectangle", "Rectangle"},
-    {"line", "Line"},
-    {"ellipse", "Ellipse"},
-    {"text", "Text"},
-    {"picture", "Picture"},
-    {"gradrectangle", "Gradient rectangle"},
-    {"gradellipse", "Gradient ellipse"},
-    {"gradtriangle", "Gradient triangle"},
-    {"timer", "Timer"},
-    {"numinput", "Data input"},
-    {"textinput", "Text input"},
-    {"button", "Button"},
-    {"checkbox", "Checkbox"},
-    {"combobox", "Combobox"},
-    {"alarmwnd", "Alarm window"},
-    {"curve", "Realtime curve"},
-    {"hiscurve", "History curve"},
-    {"bmptext", "Vector Text"},
-};
-
 constexpr int kClassKeyRole = Qt::UserRole;
 
-bool IsRegistered(const std::string& key)
+bool FromLibrary(const std::string& key)
 {
-    return std::any_of(CHmiWidget::WidgetClassList.begin(), CHmiWidget::WidgetClassList.end(),
-                       [&key](const CWidgetRunTimeClass& entry) { return entry.m_strClassKey == key; });
+    return std::any_of(RegisteredWidgetLibs().begin(), RegisteredWidgetLibs().end(), [&key](const CWidgetLibRecord& lib) {
+        return std::any_of(lib.m_pEntries, lib.m_pEntries + lib.m_nCount,
+                           [&key](const CWidgetRunTimeClass& entry) { return entry.m_strClassKey == key; });
+    });
+}
+
+// The entry's own icon; else a library's class gets a common one, so that the classes a
+// library adds stand out from the built-in kinds, which have none.
+QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
+{
+    if (entry.m_pToolboxIcon) {
+        const QImage image(entry.m_pToolboxIcon);
+        if (!image.isNull())
+            return QIcon(QPixmap::fromImage(image));
+    }
+    return FromLibrary(entry.m_strClassKey) ? style.standardIcon(QStyle::SP_FileDialogContentsView) : QIcon();
 }
 
 } // namespace
 
-std::vector<ToolboxEntry> ToolboxEntries()
-{
-    std::vector<ToolboxEntry> entries{{QStringLiteral("Pointer"), {}}};
-    for (const BuiltinToolboxLabel& builtin : kBuiltinToolbox)
-        if (IsRegistered(builtin.classKey))
-            entries.push_back({QString::fromLatin1(builtin.label), builtin.classKey});
-    for (const CWidgetRunTimeClass& registered : CHmiWidget::WidgetClassList) {
-        const std::string& key = registered.m_strClassKey;
-        const bool listed = std::any_of(entries.begin(), entries.end(),
-                                        [&key](const ToolboxEntry& entry) { return entry.classKey == key; });
-        if (key != kWindowClassKey && !listed)
-            entries.push_back({QString::fromStdString(key), key});
-    }
-    return entries;
-}
-
 CToolbox::CToolbox(QWidget* parent) : QListWidget(parent)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
-    for (const ToolboxEntry& entry : ToolboxEntries()) {
-        auto* item = new QListWidgetItem(entry.label, this);
-        item->setData(kClassKeyRole, QString::fromStdString(entry.classKey));
-    }
+    addItem(QStringLiteral("Pointer"));
+    for (const std::string_view key : BuiltinToolboxOrder())
+        if (const CWidgetRunTimeClass* entry = CHmiWidget::FindWidgetClassEntry(key))
+            AddClass(*entry);
+    // Then every other class, those of widget libraries included; the window is never placed,
+    // and of a key registered twice only the first class is ever created.
+    for (const CWidgetRunTimeClass& entry : CHmiWidget::WidgetClassList)
+        if (entry.m_strClassKey != kWindowClassKey && !HasClass(entry.m_strClassKey))
+            AddClass(entry);
     setCurrentRow(0);
     connect(this, &QListWidget::itemClicked, this, &CToolbox::Choose);
     connect(this, &QListWidget::itemActivated, this, &CToolbox::Choose);
+}
+
+void CToolbox::AddClass(const CWidgetRunTimeClass& entry)
+{
+    const std::string& label = entry.m_strToolboxLabel.empty() ? entry.m_strClassKey : entry.m_strToolboxLabel;
+    auto* item = new QListWidgetItem(IconOf(entry, *style()), QString::fromStdString(Gb2312ToUtf8OrKeep(label)), this);
+    item->setData(kClassKeyRole, QString::fromStdString(entry.m_strClassKey));
+}
+
+bool CToolbox::HasClass(const std::string& key) const
+{
+    const QString wanted = QString::fromStdString(key);
+    for (int row = 0; row < count(); ++row)
+        if (item(row)->data(kClassKeyRole).toString() == wanted)
+            return true;
+    return false;
 }
 
 void CToolbox::Choose(QListWidgetItem* item)

@@ -3,20 +3,14 @@
 #include <QListWidget>
 
 #include <string>
-#include <vector>
 
-// One entry of the toolbox: the label shown and the class key it places (empty: the pointer).
-struct ToolboxEntry {
-    QString label;
-    std::string classKey;
-};
+struct CWidgetRunTimeClass;
 
-// "Pointer", then the built-in widget kinds in their toolbox order, then every other class the
-// registry knows (those of widget libraries), labelled by its key. The window is never placed.
-std::vector<ToolboxEntry> ToolboxEntries();
-
-// The toolbox pane: choosing an entry makes the placing tool create that class, choosing
-// "Pointer" brings back the selection tool.
+// The toolbox pane: "Pointer", then the built-in widget kinds in their toolbox order, then every
+// other class the registry knows (those of widget libraries), each with the label and icon its
+// registration gives (by default its key, and for a library's class a common icon). Choosing an
+// entry makes the placing tool create that class, choosing "Pointer" brings back the selection
+// tool.
 class CToolbox : public QListWidget {
     Q_OBJECT
 public:
@@ -26,5 +20,7 @@ public:
     void SyncWithCurrentTool();
 
 private:
+    void AddClass(const CWidgetRunTimeClass& entry);
+    bool HasClass(const std::string& key) const;
     void Choose(QListWidgetItem* item);
 };

@@ -1,7 +1,8 @@
 #include "canvascontrols.h"
 
-#include "controlkinds.h"
 #include "controlmouseforwarder.h"
+
+#include "editor/extensions/editorextensions.h"
 
 #include "widgets/hmiview.h"
 #include "widgets/tamlodoc.h"
@@ -45,10 +46,11 @@ void CCanvasControls::Sync()
 
 void CCanvasControls::CreateControl(CHmiCtrlWidget& widget)
 {
-    std::unique_ptr<CCanvasControl> control = CreateCanvasControl(widget, m_canvas, [this] {
+    const CanvasControlFactory* factory = FindCanvasControl(widget.GetRuntimeClass());
+    std::unique_ptr<CCanvasControl> control = factory ? (*factory)(widget, m_canvas, [this] {
         m_document.SetModifiedFlag();
         emit columnResized();
-    });
+    }) : nullptr;
     if (!control)
         return;
     m_forwarder->Attach(*control->Widget());

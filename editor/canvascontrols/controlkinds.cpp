@@ -1,5 +1,7 @@
 #include "controlkinds.h"
 
+#include "editor/extensions/editorextensions.h"
+
 #include "editor/projectdialogs/modeltext.h"
 #include "catalogue/hmiwidgetalarmwnd.h"
 #include "catalogue/hmiwidgetcontrols.h"
@@ -90,18 +92,26 @@ void CListControl::TakeDraggedWidth(int column, int width)
     m_columnResized();
 }
 
-std::unique_ptr<CCanvasControl> CreateCanvasControl(CHmiCtrlWidget& widget, QWidget& canvas,
-                                                    const std::function<void()>& columnResized)
+void RegisterBuiltinCanvasControls()
 {
-    if (auto* checkbox = dynamic_cast<CHmiWidgetCheckbox*>(&widget))
-        return std::make_unique<CCheckboxControl>(*checkbox, canvas);
-    if (auto* combobox = dynamic_cast<CHmiWidgetCombobox*>(&widget))
-        return std::make_unique<CComboboxControl>(*combobox, canvas);
-    if (dynamic_cast<CHmiWidgetEdit*>(&widget))
+    // Every factory gets the widget of the class it is registered for.
+    RegisterCanvasControl(CHmiWidgetCheckbox::classCHmiWidgetCheckbox, [](CHmiCtrlWidget& widget, QWidget& canvas,
+                                                                          const auto&) {
+        return std::make_unique<CCheckboxControl>(static_cast<CHmiWidgetCheckbox&>(widget), canvas);
+    });
+    RegisterCanvasControl(CHmiWidgetCombobox::classCHmiWidgetCombobox, [](CHmiCtrlWidget& widget, QWidget& canvas,
+                                                                          const auto&) {
+        return std::make_unique<CComboboxControl>(static_cast<CHmiWidgetCombobox&>(widget), canvas);
+    });
+    RegisterCanvasControl(CHmiWidgetEdit::classCHmiWidgetEdit, [](CHmiCtrlWidget&, QWidget& canvas, const auto&) {
         return std::make_unique<CCanvasControl>(new QLineEdit(&canvas));
-    if (auto* alarms = dynamic_cast<CHmiWidgetAlarmWnd*>(&widget))
-        return std::make_unique<CListControl>(*alarms, canvas, columnResized);
-    if (auto* history = dynamic_cast<CHmiWidgetHisList*>(&widget))
-        return std::make_unique<CListControl>(*history, canvas, columnResized);
-    return nullptr;
+    });
+    RegisterCanvasControl(CHmiWidgetAlarmWnd::classCHmiWidgetAlarmWnd, [](CHmiCtrlWidget& widget, QWidget& canvas,
+                                                                          const std::function<void()>& edited) {
+        return std::make_unique<CListControl>(static_cast<CHmiWidgetAlarmWnd&>(widget), canvas, edited);
+    });
+    RegisterCanvasControl(CHmiWidgetHisList::classCHmiWidgetHisList, [](CHmiCtrlWidget& widget, QWidget& canvas,
+                                                                        const std::function<void()>& edited) {
+        return std::make_unique<CListControl>(static_cast<CHmiWidgetHisList&>(widget), canvas, edited);
+    });
 }

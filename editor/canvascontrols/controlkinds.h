@@ -1,11 +1,10 @@
 #pragma once
 
-#include "canvascontrol.h"
+#include "editor/extensions/canvascontrol.h"
 
 #include "catalogue/listcolumns.h"
 
 #include <functional>
-#include <memory>
 #include <vector>
 
 class CHmiWidgetCheckbox;
@@ -58,8 +57,6 @@ private:
     bool m_showing = false; // the header reports the widths being set as resizes too
 };
 
-// The live control for a control widget of the built-in kinds, as a child of the canvas; null
-// for other kinds (a widget library's), which draw themselves. columnResized is called after a
-// dragged column width went into the widget.
-std::unique_ptr<CCanvasControl> CreateCanvasControl(CHmiCtrlWidget& widget, QWidget& canvas,
-                                                    const std::function<void()>& columnResized);
+// Registers the live controls of the built-in control widgets (editorextensions.h); at
+// start-up, before the widget libraries are loaded.
+void RegisterBuiltinCanvasControls();

@@ -10,9 +10,6 @@
 
 namespace {
 
-// The caption of the root item under which a widget shows its events.
-constexpr const char* kEventRootCaption = "Event";
-
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to)
 {
     std::string result;
@@ -22,12 +19,6 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
         start = found + from.size();
     }
     return result.append(text.substr(start));
-}
-
-bool IsEventRow(const COptionTreeItem& row)
-{
-    const COptionTreeItem* parent = row.GetParent();
-    return parent && !parent->GetParent() && parent->GetLabelText() == kEventRootCaption;
 }
 
 } // namespace
@@ -40,7 +31,7 @@ std::string ToEditorLineEnds(std::string_view code)
 bool EditWidgetEvent(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row,
                      const std::vector<ScriptFunction>& functions)
 {
-    if (!IsEventRow(row))
+    if (row.GetKind() != OptionItemKind::Event)
         return false;
     const std::string label = row.GetLabelText();
     const std::vector<CHmiWidgetEvent>& events = widget.GetEvents();

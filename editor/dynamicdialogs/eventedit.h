@@ -17,7 +17,7 @@ std::string ToEditorLineEnds(std::string_view code);
 // What the property pane's button on an event row does: finds the widget's event whose label is
 // the row's caption, lets the user edit its code in the "Event Edit" dialog and, on OK, stores the
 // code and shows it as the row's value. Returns true when the code changed (the document is then
-// marked modified); false for a row outside the widget's "Event" group, an unknown event, Cancel
+// marked modified); false for a row that is no event row, an unknown event, Cancel
 // or unchanged code.
 bool EditWidgetEvent(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row,
                      const std::vector<ScriptFunction>& functions);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "projectcontext.h"
+#include "editor/extensions/projectcontext.h"
 
 #include <QDialog>
 

@@ -5,6 +5,8 @@
 #include "modeltext.h"
 #include "variabledialog.h"
 
+#include "editor/extensions/editorextensions.h"
+
 #include "project/namelists.h"
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
@@ -54,6 +56,90 @@ void EditDisplayFields(QWidget* parent, const QString& title, const std::vector<
         columns.SetDisplayFields(dialog.FieldsText());
 }
 
+// A variable row: the "HMI Database" picker over the current project; the row takes the
+// reference text.
+void SelectVariable(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
+{
+    CHmiVariableDatabase database;
+    database.LoadProject(GetProjectPath());
+    CVariableDialog dialog(database, parent);
+    if (context.runDialog(dialog) == QDialog::Accepted && !dialog.Reference().empty())
+        CommitText(widget, item, dialog.Reference());
+}
+
+std::string PictureFolderOf(const CHmiWidget& widget)
+{
+    return widget.m_pDocument ? widget.m_pDocument->GetPictureFolder() : std::string();
+}
+
+// A file row: the row takes the chosen file.
+void ChooseFile(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
+{
+    const QString chosen =
+        context.choosePicture(parent, QFile::decodeName(QByteArray::fromStdString(PictureFolderOf(widget))));
+    if (!chosen.isEmpty())
+        CommitText(widget, item, ToModel(chosen));
+}
+
+// The picture's file: one chosen elsewhere is first copied into the window's picture folder,
+// replacing a file of the same name there; the row then takes the file in that folder.
+void ImportPicture(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
+{
+    const std::string folder = PictureFolderOf(widget);
+    const QString chosen = context.choosePicture(parent, QFile::decodeName(QByteArray::fromStdString(folder)));
+    if (chosen.isEmpty())
+        return;
+    // Brought in here rather than by the widget, so that a failure is told to the user.
+    std::string name;
+    const FileResult imported = folder.empty()
+                                    ? FileResult::Failure("The window has no folder for its pictures yet: save it first.")
+                                    : ImportPictureFile(ToModel(chosen), folder, name);
+    if (!imported)
+        context.reportError(parent, QString::fromStdString(imported.error));
+    else
+        CommitText(widget, item, folder + name);
+}
+
+// The bitmap text's font row: font and text colour.
+void ChooseFont(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const ProjectContext& context)
+{
+    auto& text = static_cast<CHmiWidgetBmpText&>(widget);
+    CFontPickerDialog dialog(text.m_font, text.m_textColor, context.chooseColor, parent);
+    if (context.runDialog(dialog) != QDialog::Accepted)
+        return;
+    text.m_font = dialog.Font();
+    text.m_textColor = dialog.Color();
+}
+
+void EditAlarmFields(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const ProjectContext& context)
+{
+    auto& alarms = static_cast<CHmiWidgetAlarmWnd&>(widget);
+    EditDisplayFields(parent, "Setting Alarm Field", AlarmFieldChoices(alarms.m_strDispFields), alarms, context);
+}
+
+void EditHistoryFields(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const ProjectContext& context)
+{
+    auto& history = static_cast<CHmiWidgetHisList&>(widget);
+    // A database the project does not list has no variables to offer.
+    EditDisplayFields(parent, "History Data Variable",
+                      HistoryFieldChoices(history.m_strDispFields, GetHistoryVariableNames(history.HistoryName())),
+                      history, context);
+}
+
+// The dialog of a row that no class registered one for, by the row's item type.
+RowDialog DialogOfItemType(PropItemType type)
+{
+    switch (type) {
+    case PROP_VARIABLE: return SelectVariable;
+    case PROP_FILE: return ChooseFile;
+    case PROP_STATIC:
+        return [](QWidget*, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext&) {
+            widget.WidgetItemClick(&item);
+        };
+    default: return nullptr;
+    }
+}
+
 } // namespace
 
 bool SelectWidgetItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
@@ -61,78 +147,16 @@ bool SelectWidgetItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item
     const CHmiWidgetProp* prop = widget.GetWidgetPropByTreeItem(&item);
     if (!prop)
         return false;
-    switch (prop->m_nItemType) {
-    case PROP_VARIABLE: return SelectVariableItem(parent, widget, item, context);
-    case PROP_FILE: return ChooseFileItem(parent, widget, item, context);
-    case PROP_FONT: return ChooseFontItem(parent, widget, item, context);
-    case PROP_STATIC: return ClickWidgetItem(parent, widget, item, context);
-    default: return false;
-    }
+    const RowDialog* registered = FindRowDialog(widget.GetRuntimeClass(), prop->m_strName);
+    const RowDialog dialog = registered ? *registered : DialogOfItemType(prop->m_nItemType);
+    return dialog && EditWidget(widget, [&] { dialog(parent, widget, item, context); });
 }
 
-bool SelectVariableItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
+void RegisterBuiltinRowDialogs()
 {
-    return EditWidget(widget, [&] {
-        CHmiVariableDatabase database;
-        database.LoadProject(GetProjectPath());
-        CVariableDialog dialog(database, parent);
-        if (context.runDialog(dialog) == QDialog::Accepted && !dialog.Reference().empty())
-            CommitText(widget, item, dialog.Reference());
-    });
+    RegisterRowDialog(CHmiWidgetPic::classCHmiWidgetPic, "filename", ImportPicture);
+    RegisterRowDialog(CHmiWidgetBmpText::classCHmiWidgetBmpText, "font", ChooseFont);
+    RegisterRowDialog(CHmiWidgetAlarmWnd::classCHmiWidgetAlarmWnd, "dispfields", EditAlarmFields);
+    RegisterRowDialog(CHmiWidgetHisList::classCHmiWidgetHisList, "dispfields", EditHistoryFields);
 }
 
-bool ChooseFileItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
-{
-    const std::string folder = widget.m_pDocument ? widget.m_pDocument->GetPictureFolder() : std::string();
-    const QString chosen = context.choosePicture(parent, QFile::decodeName(QByteArray::fromStdString(folder)));
-    if (chosen.isEmpty())
-        return false;
-    std::string path = ToModel(chosen);
-    if (dynamic_cast<CHmiWidgetPic*>(&widget)) {
-        // Brought in here rather than by the widget, so that a failure is told to the user.
-        std::string name;
-        const FileResult imported =
-            folder.empty() ? FileResult::Failure("The window has no folder for its pictures yet: save it first.")
-                           : ImportPictureFile(path, folder, name);
-        if (!imported) {
-            context.reportError(parent, QString::fromStdString(imported.error));
-            return false;
-        }
-        path = folder + name;
-    }
-    return EditWidget(widget, [&] { CommitText(widget, item, path); });
-}
-
-bool ChooseFontItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const ProjectContext& context)
-{
-    auto* text = dynamic_cast<CHmiWidgetBmpText*>(&widget);
-    if (!text)
-        return false;
-    return EditWidget(widget, [&] {
-        CFontPickerDialog dialog(text->m_font, text->m_textColor, context.chooseColor, parent);
-        if (context.runDialog(dialog) != QDialog::Accepted)
-            return;
-        text->m_font = dialog.Font();
-        text->m_textColor = dialog.Color();
-    });
-}
-
-bool ClickWidgetItem(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
-{
-    const CHmiWidgetProp* prop = widget.GetWidgetPropByTreeItem(&item);
-    const bool fieldsRow = prop && prop->m_strName == "dispfields";
-    return EditWidget(widget, [&] {
-        if (auto* alarms = dynamic_cast<CHmiWidgetAlarmWnd*>(&widget); alarms && fieldsRow) {
-            EditDisplayFields(parent, "Setting Alarm Field", AlarmFieldChoices(alarms->m_strDispFields), *alarms,
-                              context);
-        } else if (auto* history = dynamic_cast<CHmiWidgetHisList*>(&widget); history && fieldsRow) {
-            // A database the project does not list has no variables to offer.
-            EditDisplayFields(parent, "History Data Variable",
-                              HistoryFieldChoices(history->m_strDispFields,
-                                                  GetHistoryVariableNames(history->HistoryName())),
-                              *history, context);
-        } else {
-            widget.WidgetItemClick(&item);
-        }
-    });
-}

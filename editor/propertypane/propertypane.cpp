@@ -97,6 +97,8 @@ CPropertyPaneItem* CPropertyPane::AddItem(OptionItemKind kind, CPropertyPaneItem
 
 void CPropertyPane::Clear()
 {
+    if (m_widget)
+        m_widget->ReleasePropertyTree();
     // Items go first, so that editors hidden by the clearing find nobody to commit to.
     m_items.clear();
     m_tree->clear();

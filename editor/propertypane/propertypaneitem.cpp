@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr const char* kEventRootCaption = "Event";
-
 QString ToQt(const std::string& text)
 {
     return QString::fromStdString(Gb2312ToUtf8OrKeep(text));
@@ -90,6 +88,7 @@ void CPropertyPaneItem::BuildEditor(const QString& info)
         break;
     case OptionItemKind::Static:
     case OptionItemKind::Font:
+    case OptionItemKind::Event:
     case OptionItemKind::Root:
         editor = m_label = new QLabel;
         m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -108,7 +107,7 @@ void CPropertyPaneItem::BuildEditor(const QString& info)
         m_browse = AddButton([this] { emit m_pane.selectItemRequested(this); }, QObject::tr("Choose a variable"));
     else if (m_kind == OptionItemKind::Font)
         m_browse = AddButton([this] { emit m_pane.fontRequested(this); }, QObject::tr("Choose a font"));
-    else if (m_kind == OptionItemKind::Static && m_parent && m_parent->GetLabelText() == kEventRootCaption)
+    else if (m_kind == OptionItemKind::Event)
         m_browse = AddButton([this] { emit m_pane.eventEditRequested(this); }, QObject::tr("Edit the event script"));
     else if (m_kind == OptionItemKind::Static) // a widget's own rows: the widget decides what the button does
         m_browse = AddButton([this] { emit m_pane.selectItemRequested(this); }, QObject::tr("Edit"));

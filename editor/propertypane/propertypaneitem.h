@@ -27,6 +27,7 @@ public:
     CPropertyPaneItem(CPropertyPane& pane, OptionItemKind kind, CPropertyPaneItem* parent, QTreeWidgetItem* row,
                       std::string caption);
 
+    OptionItemKind GetKind() const override { return m_kind; }
     COptionTreeItem* GetParent() const override { return m_parent; }
     std::string GetLabelText() const override { return m_caption; }
     void Expand() override;
@@ -43,7 +44,6 @@ public:
     void SetCurSel(int index) override;
     void SetStaticText(const std::string& text) override;
 
-    OptionItemKind Kind() const { return m_kind; }
     QTreeWidgetItem* Row() const { return m_row; }
     // The value editor: line edit, combo box, check box, colour swatch or label; null on group rows.
     QWidget* Editor() const;
