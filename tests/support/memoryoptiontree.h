@@ -15,6 +15,7 @@ public:
     {
     }
 
+    OptionItemKind GetKind() const override { return kind; }
     COptionTreeItem* GetParent() const override { return parent; }
     std::string GetLabelText() const override { return caption; }
     void Expand() override { expanded = true; }

@@ -4,10 +4,10 @@
 // After an intended change, run with KELVO_WRITE_REFERENCE=1 to rewrite the file, and review
 // its diff.
 
-#include "catalogue/builtinwidgets.h"
 #include "catalogue/hmiwidgetvalve.h"
 #include "widgets/hmiwidget.h"
 #include "widgets/hmiwidgetcustom.h"
+#include "tests/support/registryscope.h"
 
 #include <gtest/gtest.h>
 
@@ -83,14 +83,12 @@ std::string DescribeCatalogue()
     for (const auto& prop : base.GetProperties())
         DescribeProperty(out, *prop);
 
-    CHmiWidget::RemoveAllRunTimeClass();
-    RegisterBuiltinWidgetClasses();
+    const CRegistryScope registry;
     for (const CWidgetRunTimeClass& entry : CHmiWidget::WidgetClassList) {
         HmiWidgetPtr widget = entry.m_pRuntimeClass->CreateObject();
         EXPECT_EQ(widget->GetWidgetClassName(), entry.m_strClassKey) << "a class writes the key it is registered under";
         DescribeKind(out, entry.m_strClassKey, *widget, base);
     }
-    CHmiWidget::RemoveAllRunTimeClass();
 
     // Not registered under a key of their own, but written all the same.
     CHmiWidgetValve valve;

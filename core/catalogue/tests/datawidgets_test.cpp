@@ -2,7 +2,6 @@
 // from the project, their columns and the curve preview. Their declarations and default lines
 // are pinned down by the catalogue reference.
 
-#include "catalogue/builtinwidgets.h"
 #include "catalogue/controlpictures.h"
 #include "catalogue/hmiwidgetalarmwnd.h"
 #include "catalogue/hmiwidgetcontrols.h"
@@ -15,6 +14,7 @@
 #include "tests/support/recordingdc.h"
 #include "tests/support/tempdir.h"
 #include "widgets/widgetfilereader.h"
+#include "tests/support/registrytest.h"
 
 #include <gtest/gtest.h>
 
@@ -45,17 +45,8 @@ constexpr const char* kOlderHistory = "<history/>"; // lists one empty name
 constexpr const char* kTwoLogs = "<datalog><log name=\"fast\"/><log name=\"slow\"/></datalog>";
 
 // The built-in classes registered, and a project with the given name files made current.
-struct ProjectNameTest : ::testing::Test {
-    void SetUp() override
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-    }
-    void TearDown() override
-    {
-        SetProjectPath("");
-        CHmiWidget::RemoveAllRunTimeClass();
-    }
+struct ProjectNameTest : BuiltinRegistryTest {
+    void TearDown() override { SetProjectPath(""); }
 
     // Makes a project with these name files current (null: no such file).
     void UseProject(const char* history, const char* datalog)

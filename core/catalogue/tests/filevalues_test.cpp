@@ -2,26 +2,20 @@
 // property rows, seen in the lines it writes back. The defaults and the rows themselves are
 // pinned down by the catalogue reference.
 
-#include "catalogue/builtinwidgets.h"
 #include "catalogue/hmiwidgetgradrect.h"
 #include "catalogue/hmiwidgetvalve.h"
 #include "ownproperties.h"
 #include "tests/support/memoryoptiontree.h"
 #include "widgets/hmiwidgetcustom.h"
 #include "widgets/hmiwidgetwindow.h"
+#include "tests/support/registrytest.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 // The built-in classes registered for each test.
-struct FileValuesTest : ::testing::Test {
-    void SetUp() override
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-    }
-    void TearDown() override { CHmiWidget::RemoveAllRunTimeClass(); }
+struct FileValuesTest : BuiltinRegistryTest {
 
     // A new widget of a registered kind, or the valve, which is written but not registered.
     static HmiWidgetPtr Create(std::string_view classKey)

@@ -2,7 +2,6 @@
 // given a file whose entities would expand into gigabytes, gives its defined empty result in
 // about the time and memory an ordinary file of that size takes.
 
-#include "catalogue/builtinwidgets.h"
 #include "project/namelists.h"
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
@@ -11,6 +10,7 @@
 #include "tests/support/hostilefiles.h"
 #include "tests/support/tempdir.h"
 #include "widgets/tamlodoc.h"
+#include "tests/support/registryscope.h"
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ constexpr int kCpuLimitSeconds = 60; // a reader that expands the entities runs 
 
 TEST(HostileFiles, EntityExpansionIsRefusedByEveryReaderWithinTheCostOfAnOrdinaryFile)
 {
-    RegisterBuiltinWidgetClasses();
+    const CRegistryScope registry;
     TempDir dir;
     SetProjectPath(dir.Path(""));
     for (const Reader& reader : kReaders) {
@@ -88,5 +88,4 @@ TEST(HostileFiles, EntityExpansionIsRefusedByEveryReaderWithinTheCostOfAnOrdinar
         EXPECT_LT(cost.peakKiB, baseline.peakKiB + long(8 * hostile.size() / 1024)) << reader.file;
     }
     SetProjectPath("");
-    CHmiWidget::RemoveAllRunTimeClass();
 }

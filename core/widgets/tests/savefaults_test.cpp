@@ -1,10 +1,10 @@
 // A save that fails at any step leaves the previous window file byte for byte as it was, no
 // temporary file behind, and the document still modified.
 
-#include "catalogue/builtinwidgets.h"
 #include "tests/support/fulldiskscope.h"
 #include "tests/support/tempdir.h"
 #include "widgets/tamlodoc.h"
+#include "tests/support/registrytest.h"
 
 #include <gtest/gtest.h>
 
@@ -14,17 +14,15 @@ namespace {
 
 constexpr const char* kOldBytes = "<?xml version=\"1.0\"?>\n<hmiwidget>old window</hmiwidget>\n";
 
-struct SaveFaultTest : ::testing::Test {
+struct SaveFaultTest : BuiltinRegistryTest {
     void SetUp() override
     {
-        RegisterBuiltinWidgetClasses();
         path = dir.Write("window.xml", kOldBytes);
         // Writable by the user, so that what a test puts in the way is the only obstacle.
         ::chmod(path.c_str(), 0666);
         doc.OnNewDocument();
         doc.SetModifiedFlag();
     }
-    void TearDown() override { CHmiWidget::RemoveAllRunTimeClass(); }
 
     void ExpectOldFileKept(const FileResult& result, const char* reason)
     {

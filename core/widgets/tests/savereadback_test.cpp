@@ -3,10 +3,10 @@
 // refused before it touches the file.
 
 #include "base/textcodec.h"
-#include "catalogue/builtinwidgets.h"
 #include "catalogue/hmiwidgettext.h"
 #include "tests/support/tempdir.h"
 #include "widgets/tamlodoc.h"
+#include "tests/support/registrytest.h"
 
 #include <gtest/gtest.h>
 
@@ -42,9 +42,7 @@ const std::string kUtf8 = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 const std::string kTemperatureUtf8 = "\xE6\xB8\xA9\xE5\xBA\xA6"; // two Chinese characters
 const std::string kTemperatureGb = "\xCE\xC2\xB6\xC8";
 
-struct SaveReadBackTest : ::testing::Test {
-    void SetUp() override { RegisterBuiltinWidgetClasses(); }
-    void TearDown() override { CHmiWidget::RemoveAllRunTimeClass(); }
+struct SaveReadBackTest : BuiltinRegistryTest {
 
     // Saves, loads the file again and expects the same widgets; returns the saved bytes.
     std::string SaveAndReadBack(CTamloDoc& doc)

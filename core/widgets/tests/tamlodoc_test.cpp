@@ -1,8 +1,8 @@
-#include "catalogue/builtinwidgets.h"
 #include "tests/support/fakeview.h"
 #include "tests/support/recordingnamelist.h"
 #include "tests/support/tempdir.h"
 #include "widgets/tamlodoc.h"
+#include "tests/support/registrytest.h"
 
 #include <gtest/gtest.h>
 
@@ -34,18 +34,9 @@ HmiWidgetPtr MakeGauge(const std::string& name = {})
     return widget;
 }
 
-struct TamloDocTest : ::testing::Test {
-    void SetUp() override
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-        savedCounter = CTamloDoc::WidgetNameCounter();
-    }
-    void TearDown() override
-    {
-        CTamloDoc::WidgetNameCounter() = savedCounter;
-        CHmiWidget::RemoveAllRunTimeClass();
-    }
+struct TamloDocTest : BuiltinRegistryTest {
+    void SetUp() override { savedCounter = CTamloDoc::WidgetNameCounter(); }
+    void TearDown() override { CTamloDoc::WidgetNameCounter() = savedCounter; }
 
     std::string WidgetXml(const char* name, const char* classKey, const char* properties = "")
     {

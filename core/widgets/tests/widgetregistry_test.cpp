@@ -1,7 +1,7 @@
 // The class registry and library registration; loading real libraries, and withdrawing what a
-// declining one registered, is tested in editor/startup/tests.
+// declining one registered, is tested in core/libraries/tests.
 
-#include "tests/support/emptyregistry.h"
+#include "tests/support/registrytest.h"
 #include "widgets/hmictrlwidget.h"
 #include "widgets/hmiwidgetcustom.h"
 #include "widgets/widgetlibrary.h"

@@ -1,7 +1,6 @@
 // The window file byte for byte: a small document of several widget kinds, with every binding
 // type, escaped values and scripts with both kinds of line end, against a hand-written file.
 
-#include "catalogue/builtinwidgets.h"
 #include "catalogue/hmiwidgettimer.h"
 #include "catalogue/hmiwidgetvalve.h"
 #include "dynamics/dynamictypes.h"
@@ -10,6 +9,7 @@
 #include "widgets/hmiwidgetcustom.h"
 #include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
+#include "tests/support/registrytest.h"
 
 #include <gtest/gtest.h>
 
@@ -225,14 +225,8 @@ std::string AsParsed(std::string element)
     return element;
 }
 
-struct WindowFileTest : ::testing::Test {
-    void SetUp() override
-    {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
-        CHmiWidget::AddWidgetRunTimeClass("label", &LabelWidget::classLabelWidget);
-    }
-    void TearDown() override { CHmiWidget::RemoveAllRunTimeClass(); }
+struct WindowFileTest : BuiltinRegistryTest {
+    void SetUp() override { CHmiWidget::AddWidgetRunTimeClass("label", &LabelWidget::classLabelWidget); }
 
     TempDir dir;
 };

@@ -8,7 +8,9 @@
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
 #include "editor/model/canvastools.h"
-#include "catalogue/builtinwidgets.h"
+#include "editor/canvascontrols/controlkinds.h"
+#include "editor/projectdialogs/widgetitemdialogs.h"
+#include "tests/support/registryscope.h"
 #include "catalogue/hmiwidgetgradrect.h"
 #include "widgets/hmiimagedc.h"
 #include "widgets/windowpainter.h"
@@ -23,6 +25,7 @@ class CanvasTest : public QObject {
     Q_OBJECT
 
 private:
+    const CRegistryScope m_registry;
     std::unique_ptr<EditorUnderTest> editor;
     CChildFrame* child = nullptr;
     CTamloView* view = nullptr;
@@ -33,7 +36,12 @@ private:
     void Press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(view, Qt::Key(key), modifiers); }
 
 private slots:
-    void initTestCase() { RegisterBuiltinWidgetClasses(); }
+    // The editor's own kinds, registered as at start-up.
+    void initTestCase()
+    {
+        RegisterBuiltinCanvasControls();
+        RegisterBuiltinRowDialogs();
+    }
 
     void init()
     {

@@ -2,8 +2,10 @@
 #include "editorfixture.h"
 
 #include "editor/projectdialogs/tests/dialogdriver.h"
+#include "editor/canvascontrols/controlkinds.h"
+#include "editor/projectdialogs/widgetitemdialogs.h"
+#include "tests/support/registryscope.h"
 #include "project/projectpath.h"
-#include "catalogue/builtinwidgets.h"
 
 #include <QAction>
 #include <QDialog>
@@ -26,6 +28,7 @@ class MainFrameTest : public QObject {
     Q_OBJECT
 
 private:
+    const CRegistryScope m_registry;
     std::unique_ptr<EditorUnderTest> editor;
 
     QAction* Action(const char* name) const
@@ -38,7 +41,12 @@ private:
     QString FilePath(const QString& name) const { return editor->folder.filePath(name); }
 
 private slots:
-    void initTestCase() { RegisterBuiltinWidgetClasses(); }
+    // The editor's own kinds, registered as at start-up.
+    void initTestCase()
+    {
+        RegisterBuiltinCanvasControls();
+        RegisterBuiltinRowDialogs();
+    }
 
     void init() { editor = std::make_unique<EditorUnderTest>(); }
     void cleanup() { editor.reset(); }

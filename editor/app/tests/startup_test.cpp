@@ -6,16 +6,24 @@
 #include "editor/app/tamloapp.h"
 #include "editor/app/toolbox.h"
 #include "editor/app/widgetlibrarydialog.h"
+#include "editor/canvascontrols/controlkinds.h"
+#include "editor/extensions/canvascontrol.h"
+#include "editor/propertypane/propertypane.h"
+#include "editor/propertypane/propertypaneitem.h"
 #include "editor/recovery/recoverystore.h"
-#include "editor/startup/librarycrashguard.h"
-#include "editor/startup/widgetlibraryloader.h"
+#include "libraries/librarycrashguard.h"
+#include "libraries/widgetlibraryloader.h"
 #include "project/projectpath.h"
+#include "tests/support/registryscope.h"
 
+#include <QDial>
 #include <QFileInfo>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
 #include <QTreeWidget>
 
 namespace {
@@ -60,22 +68,42 @@ private slots:
 
     void cleanup() { SetProjectPath({}); }
 
-    // Library classes come last, under their class key; the window is no tool.
-    void aLibraryClassIsOfferedAndPlaced()
+    // A library's class comes last in the toolbox, with the label and icon it registered (the
+    // window is no tool). Placed, it stands on the canvas as the library's live control, and
+    // the button of its own row runs the library's dialog, whose choice the control shows.
+    void aLibraryExtendsTheToolboxTheCanvasAndThePropertyPane()
     {
-        LoadWidgetLibraries(KELVO_TEST_MODULES_DIR, sandbox.path().toStdString());
+        const CRegistryScope registry;
+        RegisterBuiltinCanvasControls();
+        LoadWidgetLibraries(KELVO_DIAL_MODULES_DIR, {});
         EditorUnderTest editor;
         CToolbox& toolbox = editor.frame.Toolbox();
-        QListWidgetItem* gauge = toolbox.item(toolbox.count() - 1);
-        QCOMPARE(gauge->text(), QStringLiteral("gauge"));
-        QVERIFY(toolbox.findItems(QStringLiteral("dial"), Qt::MatchExactly).isEmpty());
+        QListWidgetItem* dial = toolbox.item(toolbox.count() - 1);
+        QCOMPARE(dial->text(), QStringLiteral("Dial"));
+        QVERIFY(!dial->icon().isNull());
         QVERIFY(toolbox.findItems(QStringLiteral("window"), Qt::MatchExactly).isEmpty());
-        Click(toolbox.viewport(), toolbox.visualItemRect(gauge).center());
+        Click(toolbox.viewport(), toolbox.visualItemRect(dial).center());
         CChildFrame& child = editor.NewWindow();
         Drag(&child.View(), QPoint(40, 40), QPoint(140, 100));
-        const CHmiWidget& placed = *child.Document().Widgets().back();
-        QCOMPARE(std::string(placed.GetRuntimeClass()->m_lpszClassName), std::string("CGaugeWidget"));
-        QCOMPARE(placed.GetWidgetRect(), (HmiRect{40, 40, 140, 100}));
+        auto& placed = dynamic_cast<CHmiCtrlWidget&>(*child.Document().Widgets().back());
+        QCOMPARE(placed.GetWidgetClassName(), std::string("dial"));
+        auto* control = dynamic_cast<CCanvasControl*>(placed.GetControl());
+        QVERIFY(control);
+        auto* shown = qobject_cast<QDial*>(control->Widget());
+        QVERIFY(shown && shown->isVisible());
+        QCOMPARE(shown->maximum(), 100);
+
+        editor.prompts.projectDialogs.runDialog = [](QDialog& dialog) {
+            dialog.findChild<QSpinBox*>(QStringLiteral("scale"))->setValue(250);
+            return int(QDialog::Accepted);
+        };
+        QCOMPARE(editor.frame.PropertyPane().CurrentWidget(), &placed);
+        editor.frame.PropertyPane().FindItem("Scale")->BrowseButton()->click();
+        std::string saved;
+        placed.SaveWidgetProperties(saved);
+        QVERIFY(saved.find("name=\"scale\" type=\"long\" value=\"250\"") != std::string::npos);
+        QCOMPARE(shown->maximum(), 250);
+        QVERIFY(child.Document().IsModified());
     }
 
     // A library crashes the real program; the next start skips it, and the report, opened from

@@ -2,11 +2,13 @@
 // them: the mouse goes to the controls themselves and must reach the canvas tools.
 #include "editor/app/tests/editorfixture.h"
 
-#include "editor/canvascontrols/canvascontrol.h"
+#include "editor/extensions/canvascontrol.h"
 #include "editor/model/canvastools.h"
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
-#include "catalogue/builtinwidgets.h"
+#include "editor/canvascontrols/controlkinds.h"
+#include "editor/projectdialogs/widgetitemdialogs.h"
+#include "tests/support/registryscope.h"
 #include "catalogue/hmiwidgetalarmwnd.h"
 #include "catalogue/hmiwidgetcontrols.h"
 #include "catalogue/hmiwidgethislist.h"
@@ -57,6 +59,7 @@ class CanvasControlsTest : public QObject {
     Q_OBJECT
 
 private:
+    const CRegistryScope m_registry;
     std::unique_ptr<EditorUnderTest> editor;
     CChildFrame* child = nullptr;
     CTamloView* view = nullptr;
@@ -99,7 +102,11 @@ private:
     }
 
 private slots:
-    void initTestCase() { RegisterBuiltinWidgetClasses(); }
+    // The editor's own kinds, registered as at start-up.
+    void initTestCase()
+    {
+        RegisterBuiltinCanvasControls();
+    }
 
     // Opens a saved window file with one widget of every control kind. The edit box has no class
     // key of its own in the registry, so no file brings one: it joins the open window directly,

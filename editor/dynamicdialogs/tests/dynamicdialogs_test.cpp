@@ -10,7 +10,7 @@
 #include "dynamics/dynamictypes.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/tempdir.h"
-#include "catalogue/builtinwidgets.h"
+#include "tests/support/registryscope.h"
 #include "widgets/tamlodoc.h"
 
 #include <QApplication>
@@ -85,6 +85,7 @@ class DynamicDialogsTest : public QObject {
     Q_OBJECT
 
 private:
+    const CRegistryScope m_registry;
     // Adds a widget of the class to the unmodified document and builds its property list:
     // m_widget and its row of that caption, m_row.
     void Add(const char* classKey, const std::string& caption, const std::string& root = {})
@@ -138,7 +139,6 @@ private:
     std::optional<QString> m_variable; // what the variable picker answers
 
 private slots:
-    void initTestCase() { RegisterBuiltinWidgetClasses(); }
 
     void init()
     {
@@ -337,7 +337,7 @@ private slots:
             PressOk(dialog);
         }));
         QCOMPARE(SavedSection("events"), std::string());
-        // A row outside the "Event" group opens nothing.
+        // A row that is no event row opens nothing.
         QVERIFY(!EditWidgetEvent(nullptr, *m_widget, *m_tree.Find("Left"), functions));
     }
 

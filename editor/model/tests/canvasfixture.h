@@ -3,7 +3,7 @@
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
 #include "tests/support/fakeview.h"
-#include "catalogue/builtinwidgets.h"
+#include "tests/support/registryscope.h"
 #include "catalogue/hmiwidgetrect.h"
 #include "widgets/tamlodoc.h"
 
@@ -25,8 +25,6 @@ struct ForgettingView : FakeView {
 struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     CanvasFixture() : view({5, 7}), selection(document, view)
     {
-        CHmiWidget::RemoveAllRunTimeClass();
-        RegisterBuiltinWidgetClasses();
         view.selection = &selection;
         document.AddView(&view);
         document.OnNewDocument();
@@ -37,7 +35,6 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     {
         CCanvasTools::Instance().Cancel(*this);
         CHmiWidget::CurWidgetClass = nullptr;
-        CHmiWidget::RemoveAllRunTimeClass();
     }
 
     CCanvasSelection& Selection() override { return selection; }
@@ -71,6 +68,7 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
 
     std::vector<CHmiWidget*> Selected() const { return selection.Widgets(); }
 
+    CRegistryScope registry;
     CTamloDoc document;
     ForgettingView view;
     CCanvasSelection selection;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/projectdialogs/projectcontext.h"
+#include "editor/extensions/projectcontext.h"
 
 #include <QString>
 

@@ -8,7 +8,7 @@
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 #include "tests/support/memoryoptiontree.h"
-#include "catalogue/builtinwidgets.h"
+#include "tests/support/registryscope.h"
 #include "widgets/tamlodoc.h"
 
 #include <QCheckBox>
@@ -106,6 +106,7 @@ class ProjectDialogsTest : public QObject {
     Q_OBJECT
 
 private:
+    const CRegistryScope m_registry;
     QString ProjectFile(const QString& name) const { return m_project->filePath(name); }
     // Loads a window file of the project into m_document, and builds the property list of its
     // widget of that name: m_widget and its row of that label, m_row.
@@ -152,7 +153,11 @@ private:
     ProjectContext m_context;
 
 private slots:
-    void initTestCase() { RegisterBuiltinWidgetClasses(); }
+    // The editor's own kinds, registered as at start-up.
+    void initTestCase()
+    {
+        RegisterBuiltinRowDialogs();
+    }
 
     void init()
     {

@@ -3,7 +3,7 @@
 
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
-#include "catalogue/builtinwidgets.h"
+#include "tests/support/registryscope.h"
 #include "catalogue/hmiwidgetbutton.h"
 #include "catalogue/hmiwidgetrect.h"
 #include "catalogue/hmiwidgettext.h"
@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <algorithm>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -45,6 +47,7 @@ class PropertyPaneTest : public QObject {
     Q_OBJECT
 
 private:
+    const CRegistryScope m_registry;
     std::unique_ptr<CTamloDoc> doc;
     std::unique_ptr<CPropertyPane> pane;
 
@@ -110,7 +113,6 @@ private:
     }
 
 private slots:
-    void initTestCase() { RegisterBuiltinWidgetClasses(); }
 
     void init()
     {
@@ -341,6 +343,10 @@ private slots:
         pane->Clear();
         QCoreApplication::processEvents(); // the editors of removed rows are deleted later
         QCOMPARE(changed.count(), 0);
+        // The widget forgot the rows the pane destroyed: its records point nowhere.
+        QVERIFY(std::all_of(rect->GetProperties().begin(), rect->GetProperties().end(),
+                            [](const auto& prop) { return !prop->m_pTreeItem && !prop->m_pParentItem; }));
+        rect->UpdateTreeByWidgetProp();
         QCOMPARE(pane->Tree()->topLevelItemCount(), 0);
         QCOMPARE(pane->CurrentWidget(), nullptr);
         QCOMPARE(Geometry(rect->GetWidgetRect()), QString("10,10,50,50,40,40"));

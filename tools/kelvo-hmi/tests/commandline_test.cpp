@@ -87,6 +87,44 @@ TEST(CommandLine, ListsRoundTripsAndListsVariables)
         EXPECT_NE(vars.output.find(reference), std::string::npos) << reference;
 }
 
+// With --modules the tool loads widget libraries as the editor loads its own: a library's class
+// is listed as itself and drawn by the library's code, and a file that is no library is named on
+// stderr while stdout stays as it is.
+TEST(CommandLine, LoadsWidgetLibrariesFromAModulesFolder)
+{
+    TempDir dir;
+    const std::string modules = dir.Path("modules");
+    std::filesystem::create_directory(modules);
+    std::filesystem::create_symlink(KELVO_DIAL_LIBRARY, modules + "/dialwidgets.so");
+    dir.Write("modules/notalibrary.so", "A text file named like a library.\n");
+    std::string window = WindowFile();
+    window.insert(window.find("<widget name=\"tick\""),
+                  "<widget name=\"gauge\" class=\"dial\"><properties>"
+                  "<property name=\"left\" type=\"short\" value=\"10\"/>"
+                  "<property name=\"top\" type=\"short\" value=\"5\"/>"
+                  "<property name=\"right\" type=\"short\" value=\"30\"/>"
+                  "<property name=\"bottom\" type=\"short\" value=\"25\"/>"
+                  "<property name=\"face\" type=\"ulong\" value=\"65280\"/>"
+                  "</properties></widget>\n");
+    const std::string in = dir.Write("w.xml", window);
+    const std::string withModules = "--modules '" + modules + "' ";
+
+    const ToolRun list = RunTool(withModules + "list '" + in + "'");
+    EXPECT_EQ(list.status, 0);
+    EXPECT_EQ(list.output, "tick\ttimer\t5\t0\t9\t0\ngauge\tdial\t10\t5\t30\t25\nwindow\twindow\t0\t0\t40\t30\n");
+    EXPECT_EQ(list.errors, "kelvo-hmi: note: widget library notalibrary.so: cannot be loaded: file too short\n");
+
+    // Inside the dial, off its needle: the face colour the file gives; without the library the
+    // widget is a custom one, which paints nothing there.
+    const auto pixelInsideDial = [&](const std::string& options) {
+        EXPECT_EQ(RunTool(options + "render '" + in + "' '" + dir.Path("w.png") + "'").status, 0);
+        return QImage(QString::fromStdString(dir.Path("w.png"))).pixel(14, 17);
+    };
+    EXPECT_EQ(pixelInsideDial(withModules), qRgb(0, 255, 0));
+    EXPECT_EQ(pixelInsideDial(""), qRgb(255, 0, 0));
+    EXPECT_EQ(RunTool("--modules").status, 2);
+}
+
 // Window files are a contract with the panel: every example window and every fuzz seed saves to
 // the bytes recorded in roundtrip.sha256, one "SHA-256  path" line each ("refused" instead of the
 // digest where the tool refuses the file). After a deliberate change to the saved bytes, record
