@@ -60,7 +60,8 @@ QString CTamloApp::DemoProjectFolder()
 CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
 {
     const QString fileArgument = FileArgument(arguments);
-    if (!m_guard.Listen() && HandOverToRunningEditor(fileArgument))
+    const CInstanceGuard::ListenResult listening = m_guard.Listen();
+    if (listening == CInstanceGuard::ListenResult::AnotherListens && HandOverToRunningEditor(fileArgument))
         return StartResult::HandedOver;
 
     m_libraries = LoadWidgetLibraries(kModulesFolder);
@@ -81,6 +82,9 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     if (!started)
         return StartResult::Failed;
     m_mainFrame->show();
+    if (listening == CInstanceGuard::ListenResult::Failed)
+        m_prompts.ShowError(m_mainFrame.get(), QStringLiteral("Later starts of the editor cannot hand their files "
+                                                              "to this one:\n%1").arg(m_guard.FailureReason()));
     StartRecovery();
     return m_ended ? StartResult::Ended : StartResult::Started;
 }

@@ -67,7 +67,7 @@ private slots:
             {Arguments(QLatin1Char('*') + kDemo + QStringLiteral("*pumps.xml")), QStringLiteral("/pumps.xml")},
             {{QStringLiteral("kelvo-hmi-editor")}, QStringLiteral("/main.xml")}};
         for (const auto& [arguments, window] : starts) {
-            CTamloApp editor(prompts, QStringLiteral("project-test"));
+            CTamloApp editor(prompts, sandbox.filePath(QStringLiteral("project-test")));
             QCOMPARE(editor.Start(arguments), CTamloApp::StartResult::Started);
             QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
             QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + window);
@@ -77,7 +77,7 @@ private slots:
 
     void aFileThatCannotBeOpenedFailsTheStart()
     {
-        CTamloApp editor(prompts, QStringLiteral("missing-test"));
+        CTamloApp editor(prompts, sandbox.filePath(QStringLiteral("missing-test")));
         prompts.errors.clear();
         QCOMPARE(editor.Start(Arguments(sandbox.filePath("none.xml"))), CTamloApp::StartResult::Failed);
         QCOMPARE(prompts.errors.size(), 1);
@@ -109,6 +109,7 @@ private slots:
         QCOMPARE(first.MainFrame()->Children().size(), 3);
         QCOMPARE(GetProjectPath(), project);
     }
+
 };
 
 QTEST_MAIN(StartupTest)
