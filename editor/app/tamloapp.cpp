@@ -2,6 +2,7 @@
 
 #include "childframe.h"
 #include "editorprompts.h"
+#include "handoverqueue.h"
 #include "mainframe.h"
 #include "pathtext.h"
 #include "recoverykeeper.h"
@@ -68,7 +69,8 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);
-    connect(&m_guard, &CInstanceGuard::openFileRequested, m_mainFrame.get(), &CMainFrame::OpenDocument);
+    auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
+    connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, &CHandOverQueue::Add);
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 

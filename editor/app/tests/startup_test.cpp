@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QProcess>
 
+#include <functional>
+
 namespace {
 
 const QString kDemo = QFileInfo(QStringLiteral(KELVO_DEMO_DIR)).canonicalFilePath();
@@ -110,6 +112,32 @@ private slots:
         QCOMPARE(GetProjectPath(), project);
     }
 
+    // A burst of starts hands over files that cannot be opened and then one that can: the
+    // failures are told in one message, or in one more after it, never in a message box opened
+    // inside another one. The user closes the first message once the good file is open.
+    void aBurstOfHandOversGivesOneMessage()
+    {
+        struct : ScriptedPrompts {
+            void ShowError(QWidget* parent, const QString& text) override
+            {
+                ScriptedPrompts::ShowError(parent, text);
+                deepest = std::max(deepest, ++depth);
+                QVERIFY(QTest::qWaitFor(closed, 20000)); // the events a message box runs
+                --depth;
+            }
+            std::function<bool()> closed = [] { return true; };
+            int depth = 0, deepest = 0;
+        } modal;
+        CTamloApp editor(modal, sandbox.filePath(QStringLiteral("burst")));
+        QCOMPARE(editor.Start(Arguments(kDemo + QStringLiteral("/main.xml"))), CTamloApp::StartResult::Started);
+        const QString good = kDemo + QStringLiteral("/pumps.xml"), missing = sandbox.filePath("missing.xml");
+        modal.closed = [&] { return ActiveFile(*editor.MainFrame()) == good; };
+        for (int i = 0; i < 40; ++i) // the listener's backlog holds them until its event loop runs
+            QVERIFY(CInstanceGuard::HandOver(sandbox.filePath("burst"), QFile::encodeName(i < 39 ? missing : good)));
+        QTRY_VERIFY(modal.closed());
+        QCOMPARE(modal.deepest, 1);
+        QVERIFY(!modal.errors.isEmpty() && modal.errors.size() <= 2 && modal.errors.first().contains(missing));
+    }
 };
 
 QTEST_MAIN(StartupTest)
