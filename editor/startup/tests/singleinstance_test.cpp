@@ -212,7 +212,9 @@ private slots:
         const QByteArray missing = OpenRecord("/home/op/missing.xml"), last = OpenRecord("/home/op/flood.xml");
         rlimit saved;
         ::getrlimit(RLIMIT_NOFILE, &saved);
-        const rlimit lowered = {rlim_t(QDir("/proc/self/fd").count() + 200), saved.rlim_max};
+        const auto openFiles = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
+        const qsizetype openBefore = openFiles();
+        const rlimit lowered = {rlim_t(openBefore + 200), saved.rlim_max};
         QVERIFY(::setrlimit(RLIMIT_NOFILE, &lowered) == 0);
         const pid_t flood = ::fork();
         if (flood == 0) { // stays with its silent connections until it is killed
@@ -230,6 +232,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(log.events.contains("open /home/op/flood.xml"), 60000);
         ::kill(flood, SIGKILL);
         ::waitpid(flood, nullptr, 0);
+        QTRY_VERIFY(openFiles() <= openBefore); // the connections the listener held are gone
 
         const int knock = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
         std::vector<int> filling;
