@@ -62,3 +62,13 @@ function(kelvo_add_qt_test name)
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
 endfunction()
+
+# kelvo_add_widget_library(NAME SOURCES ... FOLDER dir): a widget library as a third party builds
+# one, named NAME.so in the modules folder dir.
+function(kelvo_add_widget_library name)
+    cmake_parse_arguments(ARG "" "FOLDER" "SOURCES" ${ARGN})
+    add_library(${name} MODULE ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE kelvo-core)
+    target_compile_options(${name} PRIVATE -Wall -Wextra)
+    set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${ARG_FOLDER})
+endfunction()

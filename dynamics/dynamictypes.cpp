@@ -110,7 +110,7 @@ void CHmiDynColorAnalog::WriteInnerElement(std::string& archive) const
 {
     const std::int32_t n = LevelCount();
     OpenTypeParams(archive, expression);
-    archive += " count=\"" + std::to_string(n) + "\" defaultcolor=\"" + HexColor(defaultColor) + "\" ";
+    archive += " count=\"" + std::to_string(std::min(count, kMaxLevels)) + "\" defaultcolor=\"" + HexColor(defaultColor) + "\" ";
     for (std::int32_t i = 0; i < n; ++i) {
         const std::string index = std::to_string(i);
         archive += " limit_value" + index + "=\"";
@@ -125,11 +125,11 @@ bool CHmiDynColorAnalog::ReadInnerElement(const XmlElement& element)
     if (!IsCompleteTypeParams(element, {"expression", "count", "defaultcolor"}))
         return false;
     expression = element.Attribute("expression");
-    // Larger counts are cut to the slots there are; a negative count is read as no levels, so
-    // that writing the binding back gives a count that matches its pairs.
-    count = std::clamp(HmiDecimalToLong(element.Attribute("count")), 0, kMaxLevels);
+    // Larger counts are cut to the slots there are; a negative count is kept as it stands and
+    // means no levels (LevelCount), so the binding is written back as it was read.
+    count = std::min(HmiDecimalToLong(element.Attribute("count")), kMaxLevels);
     defaultColor = ParseColor(element.Attribute("defaultcolor"));
-    for (std::int32_t i = 0; i < count; ++i) {
+    for (std::int32_t i = 0; i < LevelCount(); ++i) {
         const std::string index = std::to_string(i);
         const std::string limit = element.Attribute(("limit_value" + index).c_str());
         const std::string color = element.Attribute(("color" + index).c_str());

@@ -41,7 +41,7 @@ public:
     std::unique_ptr<CHmiDynamicType> Clone() const override;
 
     // The levels in use: count held to 0..kMaxLevels, so that a bad count never reaches
-    // past the arrays. A negative count means no levels.
+    // past the arrays. A negative count, kept as a file gives it, means no levels.
     std::int32_t LevelCount() const;
 
     std::int32_t count = 0;

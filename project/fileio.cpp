@@ -1,5 +1,7 @@
 #include "fileio.h"
 
+#include "openfile.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <climits>
@@ -39,25 +41,6 @@ const char* WhyNotRegular(const struct stat& info)
         return nullptr;
     return S_ISDIR(info.st_mode) ? "it is a folder" : "it is not a regular file";
 }
-
-// A file descriptor, closed when it goes out of scope.
-class OpenFile {
-public:
-    explicit OpenFile(int fd) : m_fd(fd) {}
-    ~OpenFile()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    int Fd() const { return m_fd; }
-    explicit operator bool() const { return m_fd >= 0; }
-
-private:
-    int m_fd;
-};
 
 bool WriteAll(int fd, std::string_view bytes)
 {

@@ -9,6 +9,7 @@
 // what the user should know all the same (ReportReadNotice).
 struct FileResult {
     bool ok = true;
+    // A whole sentence that names the file once ("Cannot open PATH: why"), shown as it stands.
     std::string error;
     std::vector<std::string> notices;
 

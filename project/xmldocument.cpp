@@ -45,7 +45,36 @@ std::string NotWellFormed(const xmlError* error)
     std::string message = error->message;
     while (!message.empty() && (message.back() == '\n' || message.back() == ' '))
         message.pop_back();
-    return text + " (line " + std::to_string(error->line) + ": " + message + ").";
+    const std::string where = error->line > 0 ? "line " + std::to_string(error->line) + ": " : "";
+    return text + " (" + where + message + ").";
+}
+
+// libxml2 reports some errors (a byte the declared encoding cannot convert, a failing input)
+// outside any parser, to the thread's handler, which prints them unless one is set. While a
+// text is parsed they go to the given handler instead, so that only the program speaks.
+class ThreadErrorRoute {
+public:
+    ThreadErrorRoute(xmlStructuredErrorFunc handler, void* data)
+        : m_previous(xmlStructuredError)
+        , m_previousData(xmlStructuredErrorContext)
+    {
+        xmlSetStructuredErrorFunc(data, handler);
+    }
+    ~ThreadErrorRoute() { xmlSetStructuredErrorFunc(m_previousData, m_previous); }
+    ThreadErrorRoute(const ThreadErrorRoute&) = delete;
+    ThreadErrorRoute& operator=(const ThreadErrorRoute&) = delete;
+
+private:
+    xmlStructuredErrorFunc m_previous;
+    void* m_previousData;
+};
+
+// The first error of a whole-file parse, for when the parser itself has none to give.
+void KeepFirstParseError(void* first, xmlError* error)
+{
+    auto* kept = static_cast<std::string*>(first);
+    if (kept->empty() && error && error->level >= XML_ERR_ERROR)
+        *kept = NotWellFormed(error);
 }
 
 std::string FromParser(const xmlChar* text)
@@ -168,14 +197,20 @@ XmlDocument XmlDocument::Parse(std::string_view text)
     bool declaresEntities = false;
     context->_private = &declaresEntities;
     context->sax->entityDecl = RefuseEntityDeclaration;
-    xmlDoc* doc = xmlCtxtReadMemory(context, text.data(), int(text.size()), nullptr, nullptr, kParseOptions);
+    std::string firstError;
+    xmlDoc* doc = nullptr;
+    {
+        const ThreadErrorRoute route(KeepFirstParseError, &firstError);
+        doc = xmlCtxtReadMemory(context, text.data(), int(text.size()), nullptr, nullptr, kParseOptions);
+    }
     std::string error;
     if (declaresEntities) {
         xmlFreeDoc(doc);
         doc = nullptr;
         error = kEntitiesRefused;
     } else if (!doc) {
-        error = NotWellFormed(xmlCtxtGetLastError(context));
+        const xmlError* parserError = xmlCtxtGetLastError(context);
+        error = parserError || firstError.empty() ? NotWellFormed(parserError) : firstError;
     }
     xmlFreeParserCtxt(context);
     return XmlDocument(doc, std::move(error));
@@ -191,6 +226,7 @@ XmlElement XmlDocument::Root() const
 XmlChildStream::XmlChildStream(std::string_view text)
 {
     LIBXML_TEST_VERSION
+    const ThreadErrorRoute route(&XmlChildStream::KeepFirstError, this);
     m_reader = FitsTheParser(text) ? xmlReaderForMemory(text.data(), int(text.size()), nullptr, nullptr, kParseOptions)
                                    : nullptr;
     if (!m_reader) {
@@ -224,6 +260,7 @@ XmlChildStream::~XmlChildStream()
 
 XmlElement XmlChildStream::Next()
 {
+    const ThreadErrorRoute route(&XmlChildStream::KeepFirstError, this);
     while (!m_ended) {
         // Moving on from an expanded child skips its subtree.
         const bool moved = MovedOn(m_atChild ? xmlTextReaderNext(m_reader) : xmlTextReaderRead(m_reader));

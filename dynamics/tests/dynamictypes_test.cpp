@@ -57,7 +57,7 @@ TEST(DynamicTypes, ColorDigitReadsHexOrDecimalAndNeedsAllThree)
     EXPECT_EQ(std::tuple(digit.expression, digit.openColor, digit.closeColor), std::tuple("a & b", 12u, 0xab0u));
 }
 
-TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
+TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndCutsItsCountTo32)
 {
     std::string xml = "<type_params expression=\"v\" count=\"40\" defaultcolor=\"7\" limit_value1=\"2\" color1=\"\"";
     for (int i = 2; i < 40; ++i)
@@ -72,7 +72,7 @@ TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
     EXPECT_FALSE(ReadFrom(analog, "<type_params expression=\"w\" count=\"2\"/>"));
     EXPECT_EQ(analog.expression, "v");
     ASSERT_TRUE(ReadFrom(analog, "<type_params expression=\"v\" count=\"-5\" defaultcolor=\"7\"/>"));
-    EXPECT_EQ(analog.count, 0);
+    EXPECT_EQ(std::tuple(analog.count, analog.LevelCount()), std::tuple(-5, 0)) << "kept as read, no levels";
 
     // Composed and written, the count is held the same way.
     ASSERT_TRUE(ReadFrom(analog, "<type_params expression=\"E\" count=\"1\" defaultcolor=\"0xff\" limit_value0=\"10\" "
@@ -87,7 +87,8 @@ TEST(DynamicTypes, ColorAnalogReadsOnlyCompletePairsAndHoldsItsCountTo0To32)
         EXPECT_EQ(analog.ComposeExpression(), "0xff") << count;
         std::string written;
         analog.WriteInnerElement(written);
-        EXPECT_EQ(written, "\t\t\t\t<type_params expression=\"E\" count=\"0\" defaultcolor=\"0xff\"  />\r\n") << count;
+        EXPECT_EQ(written, "\t\t\t\t<type_params expression=\"E\" count=\"" + std::to_string(count) +
+                               "\" defaultcolor=\"0xff\"  />\r\n");
     }
 }
 

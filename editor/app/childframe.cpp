@@ -7,7 +7,6 @@
 #include "widgets/core/tamlodoc.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QFileInfo>
 #include <QScrollArea>
 
@@ -77,12 +76,11 @@ bool CChildFrame::SaveAs()
 bool CChildFrame::SaveTo(const QString& path)
 {
     // Taking the focus away from the property pane commits an edit the user is still typing.
-    if (QWidget* main = window())
-        main->setFocus(Qt::OtherFocusReason);
+    // The canvas takes it, so that its keys go on working after the save.
+    m_view->setFocus(Qt::OtherFocusReason);
     const FileResult result = m_document->Save(ToModelPath(path));
     if (!result) {
-        m_prompts.ShowError(this, QStringLiteral("Cannot save %1:\n%2")
-                                      .arg(QDir::toNativeSeparators(path), QString::fromStdString(result.error)));
+        m_prompts.ShowError(this, QString::fromStdString(result.error));
         return false;
     }
     m_untitledName.clear();

@@ -6,6 +6,8 @@
 #include "editor/model/formatcommands.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMenu>
 
 #include <array>
@@ -93,6 +95,13 @@ QAction* CFormatActions::AddAction(const char* objectName, const char* label, co
     action->setToolTip(parts.last());
     connect(action, &QAction::triggered, this, [this, command = std::move(command)] { Run(command); });
     return action;
+}
+
+bool CFormatActions::event(QEvent* event)
+{
+    if (event->type() != QEvent::StatusTip || !parent())
+        return QObject::event(event);
+    return QCoreApplication::sendEvent(parent(), event);
 }
 
 void CFormatActions::Run(const std::function<void(CTamloView&)>& command)

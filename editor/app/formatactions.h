@@ -32,6 +32,11 @@ signals:
     // A command changed the active canvas's document.
     void documentEdited();
 
+protected:
+    // A menu that pops up on its own, as the context menu does, sends the status texts of its
+    // items to their actions' parent, this object: they go on to its parent, the main window.
+    bool event(QEvent* event) override;
+
 private:
     QAction* AddAction(const char* objectName, const char* label, const char* statusText,
                        std::function<void(CTamloView&)> command);

@@ -6,6 +6,7 @@
 #include "pathtext.h"
 #include "tamloview.h"
 #include "toolbox.h"
+#include "widgetlibrarydialog.h"
 #include "widgetnamecombo.h"
 
 #include "editor/dynamicdialogs/dynpropertyedit.h"
@@ -27,6 +28,7 @@
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
@@ -41,6 +43,21 @@ namespace {
 const QString kWidgetsMimeType = QStringLiteral("application/x-kelvo-hmi-widgets");
 const QString kGeometryKey = QStringLiteral("MainFrame/geometry");
 const QString kStateKey = QStringLiteral("MainFrame/state");
+
+// Shows a child as large as its canvas and no larger than the area, which has its size only
+// once the main window is laid out.
+void ShowAtCanvasSize(CChildFrame& child, const QMdiArea& area)
+{
+    const QSize frame(2 * child.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4,
+                      child.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    child.resize(child.View().size() + frame);
+    child.show();
+    QTimer::singleShot(0, &child, [&child, &area] {
+        const QPoint place(std::max(0, child.x()), std::max(0, child.y()));
+        const QSize room = area.viewport()->size() - QSize(place.x(), place.y());
+        child.setGeometry(QRect(place, child.size().boundedTo(room)));
+    });
+}
 
 } // namespace
 
@@ -182,6 +199,10 @@ void CMainFrame::CreateActions()
                                     QKeySequence::Paste, &CMainFrame::EditPaste);
     m_deleteAction = AddCanvasAction(QStringLiteral("&Delete"), QStringLiteral("Delete the selection"),
                                      QKeySequence::Delete, &CMainFrame::EditDelete);
+    // Escape also works while the toolbox, where the placing tool was chosen, has the focus.
+    QAction* cancel = AddCanvasAction(QStringLiteral("Cancel"), QStringLiteral("Stop placing widgets"),
+                                      QKeySequence::Cancel, &CMainFrame::CancelTool);
+    m_toolbox->addAction(cancel);
 }
 
 void CMainFrame::CreateMenus()
@@ -248,6 +269,38 @@ void CMainFrame::CreateMenus()
     m_windowMenu = menuBar()->addMenu(QStringLiteral("&Window"));
     connect(m_windowMenu, &QMenu::aboutToShow, this, &CMainFrame::UpdateWindowMenu);
     UpdateWindowMenu();
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    AddAction(help, QStringLiteral("&Widget Libraries..."),
+              QStringLiteral("Show which widget libraries were loaded at start-up, and why others were not"),
+              &CMainFrame::HelpWidgetLibraries);
+}
+
+void CMainFrame::SetWidgetLibraries(WidgetLibraryLoadReport report)
+{
+    m_libraries = std::move(report);
+    if (std::none_of(m_libraries.libraries.begin(), m_libraries.libraries.end(),
+                     [](const WidgetLibraryLoad& library) { return library.Failed(); }))
+        return;
+    // A notice, not a message box: nothing stops the start, and the report is there when wanted.
+    auto* notice = new QPushButton(QStringLiteral("Not all widget libraries were loaded"));
+    notice->setObjectName(QStringLiteral("widgetLibraryNotice"));
+    notice->setFlat(true);
+    notice->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    notice->setStatusTip(QStringLiteral("Show why, in Help > Widget Libraries"));
+    connect(notice, &QPushButton::clicked, this, &CMainFrame::HelpWidgetLibraries);
+    statusBar()->insertPermanentWidget(0, notice);
+}
+
+void CMainFrame::HelpWidgetLibraries()
+{
+    if (!m_libraryDialog) {
+        m_libraryDialog = new CWidgetLibraryDialog(m_libraries, this);
+        m_libraryDialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_libraryDialog->show();
+    m_libraryDialog->raise();
+    m_libraryDialog->activateWindow();
 }
 
 void CMainFrame::UpdateWindowMenu()
@@ -332,7 +385,7 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
     auto document = std::make_unique<CTamloDoc>();
     const FileResult result = document->Load(ToModelPath(absolute));
     if (!result) {
-        message = QStringLiteral("Cannot open %1:\n%2").arg(absolute, QString::fromStdString(result.error));
+        message = QString::fromStdString(result.error);
         m_recentFiles.Remove(absolute);
         UpdateRecentFileActions();
         return nullptr;
@@ -352,7 +405,10 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
     auto* child = new CChildFrame(std::move(document), m_prompts);
     CTamloView& view = child->View();
     view.SetContextMenu(m_canvasMenu);
-    connect(&view, &CTamloView::widgetSelected, this, &CMainFrame::ShowSelection);
+    connect(&view, &CTamloView::selectionChanged, this, [this, child] {
+        if (child == m_shownChild)
+            ShowSelection(child->View());
+    });
     connect(&view, &CTamloView::documentEdited, this, &CMainFrame::AfterEdit);
     connect(&view, &CTamloView::cursorMoved, this, [this](const QPoint& point) {
         m_cursorPosition->setText(QStringLiteral("%1, %2").arg(point.x()).arg(point.y()));
@@ -369,18 +425,15 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
         if (m_shownChild == child)
             ChildActivated(nullptr);
     });
+    // A child opened while the active one is maximized is maximized too, as the others are. It
+    // is not sized first: the area would keep that size under the maximized state.
+    const CChildFrame* active = ActiveChild();
+    const bool maximized = active && active->isMaximized();
     m_mdiArea->addSubWindow(child);
-    // As large as the canvas and no larger than the area, which has its size only once the main
-    // window is laid out.
-    const QSize frame(2 * child->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4,
-                      child->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
-    child->resize(view.size() + frame);
-    child->show();
-    QTimer::singleShot(0, child, [this, child] {
-        const QPoint place(std::max(0, child->x()), std::max(0, child->y()));
-        const QSize room = m_mdiArea->viewport()->size() - QSize(place.x(), place.y());
-        child->setGeometry(QRect(place, child->size().boundedTo(room)));
-    });
+    if (maximized)
+        child->showMaximized();
+    else
+        ShowAtCanvasSize(*child, *m_mdiArea);
     m_mdiArea->setActiveSubWindow(child);
     return child;
 }
@@ -398,21 +451,24 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
         other->Document().SetWidgetNameList(other == child ? m_nameCombo : nullptr);
     m_nameCombo->ShowDocument(child ? &child->Document() : nullptr);
     m_propertyPane->Clear();
-    if (child) {
-        const std::vector<CHmiWidget*>& selected = child->View().Selection().Widgets();
-        ShowSelection(selected.empty() ? nullptr : selected.back());
-    }
+    if (child)
+        ShowSelection(child->View());
     m_formatActions->SyncWithActiveView();
     UpdateEditActions();
 }
 
-void CMainFrame::ShowSelection(CHmiWidget* widget)
+void CMainFrame::ShowSelection(CTamloView& view)
 {
-    if (!widget)
+    const std::vector<CHmiWidget*>& selected = view.Selection().Widgets();
+    if (selected.empty()) {
+        m_propertyPane->Clear();
+        m_nameCombo->setCurrentIndex(-1);
         return;
-    if (m_propertyPane->CurrentWidget() != widget)
-        m_propertyPane->ShowWidget(widget);
-    m_nameCombo->SelectName(widget->GetWidgetName());
+    }
+    CHmiWidget* reference = selected.back();
+    if (m_propertyPane->CurrentWidget() != reference)
+        m_propertyPane->ShowWidget(reference);
+    m_nameCombo->SelectName(reference->GetWidgetName());
 }
 
 void CMainFrame::SelectWidgetByName(const std::string& name)
@@ -519,13 +575,25 @@ void CMainFrame::FileSaveAs()
         child->SaveAs();
 }
 
+void CMainFrame::CancelTool()
+{
+    CCanvasTools& tools = CCanvasTools::Instance();
+    if (CTamloView* view = ActiveView())
+        tools.Cancel(*view); // ends a drag in progress too
+    else
+        tools.SetCurrentTool(CanvasTool::Select);
+    m_toolbox->SyncWithCurrentTool();
+}
+
 void CMainFrame::EditUndo()
 {
     CTamloView* view = ActiveView();
     if (!view || !view->Document().CanUndo())
         return;
     view->Document().Undo();
+    // The names of widgets that Undo brings back return to their places in the list.
     m_nameCombo->ShowDocument(&view->Document());
+    ShowSelection(*view);
     view->InvalidateView();
     AfterEdit();
 }

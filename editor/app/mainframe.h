@@ -3,9 +3,11 @@
 #include "recentfilelist.h"
 
 #include "editor/dynamicdialogs/scriptfunctions.h"
+#include "editor/startup/widgetlibraryloader.h"
 
 #include <QKeySequence>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <functional>
 #include <memory>
@@ -20,6 +22,7 @@ class CPropertyPane;
 class CTamloDoc;
 class CTamloView;
 class CToolbox;
+class CWidgetLibraryDialog;
 class CWidgetNameCombo;
 class QLabel;
 class QMdiArea;
@@ -59,6 +62,10 @@ public:
     // The script functions the event dialog offers.
     void SetScriptFunctions(std::vector<ScriptFunction> functions) { m_scriptFunctions = std::move(functions); }
 
+    // What became of the widget libraries at start-up, for "Help > Widget Libraries". When a
+    // library failed, a notice in the status bar offers the report.
+    void SetWidgetLibraries(WidgetLibraryLoadReport report);
+
     // Brings the window to the front after another editor start handed a file over.
     void RaiseAndRestore();
 
@@ -82,7 +89,8 @@ private:
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
     void ChildActivated(QMdiSubWindow* window);
-    void ShowSelection(CHmiWidget* widget);
+    // Shows the widget selected last on the canvas in the property pane and the name list.
+    void ShowSelection(CTamloView& view);
     void SelectWidgetByName(const std::string& name);
     // Brings the panes, the title and the commands up to date after the active window changed.
     void AfterEdit();
@@ -101,6 +109,9 @@ private:
     void EditCopy();
     void EditPaste();
     void EditDelete();
+    void HelpWidgetLibraries();
+    // Returns from the placing tool to the selection tool.
+    void CancelTool();
 
     CEditorPrompts& m_prompts;
     QSettings& m_settings;
@@ -115,6 +126,8 @@ private:
     QMenu* m_canvasMenu = nullptr;
     QMenu* m_windowMenu = nullptr;
     std::vector<ScriptFunction> m_scriptFunctions;
+    WidgetLibraryLoadReport m_libraries;
+    QPointer<CWidgetLibraryDialog> m_libraryDialog; // open until the user closes it
 
     QAction* m_newAction = nullptr;
     QAction* m_openAction = nullptr;

@@ -65,10 +65,14 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     if (listening == CInstanceGuard::ListenResult::AnotherListens && HandOverToRunningEditor(fileArgument))
         return StartResult::HandedOver;
 
-    m_libraries = LoadWidgetLibraries(kModulesFolder);
+    // Without its state folder the editor only loses the guard against libraries that crash it.
+    const QString stateFolder = EditorStateFolder();
+    MakePrivateFolder(stateFolder);
+    WidgetLibraryLoadReport libraries = LoadWidgetLibraries(kModulesFolder, ToModelPath(stateFolder));
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);
+    m_mainFrame->SetWidgetLibraries(std::move(libraries));
     auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
     connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, &CHandOverQueue::Add);
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "editor/startup/singleinstance.h"
-#include "editor/startup/widgetlibraryloader.h"
 
 #include <QObject>
 #include <QStringList>
@@ -34,7 +33,6 @@ public:
     StartResult Start(const QStringList& arguments);
 
     CMainFrame* MainFrame() const { return m_mainFrame.get(); }
-    const WidgetLibraryLoadReport& Libraries() const { return m_libraries; }
 
     // The demo project that the editor opens when it is started without a file.
     static QString DemoProjectFolder();
@@ -50,7 +48,6 @@ private:
 
     CEditorPrompts& m_prompts;
     CInstanceGuard m_guard;
-    WidgetLibraryLoadReport m_libraries;
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<CMainFrame> m_mainFrame;
     std::unique_ptr<CRecoveryKeeper> m_recovery;

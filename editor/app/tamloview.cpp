@@ -84,9 +84,9 @@ CTamloView::CTamloView(CTamloDoc& document, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // handle cursors while no button is down
-    m_selection.SetOnSelected([this](CHmiWidget* widget) {
+    m_selection.SetOnChanged([this] {
         setFocus(Qt::OtherFocusReason);
-        emit widgetSelected(widget);
+        emit selectionChanged();
     });
     connect(&m_controls, &CCanvasControls::columnResized, this, &CTamloView::documentEdited);
     m_document.AddView(this);

@@ -48,8 +48,8 @@ public:
     void FitToWindow();
 
 signals:
-    // A widget joined the selection (the window widget when nothing else is selected).
-    void widgetSelected(CHmiWidget* widget);
+    // Widgets joined or left the selection.
+    void selectionChanged();
     // The mouse or the keyboard changed the document (a column width dragged on a list control too).
     void documentEdited();
     // The mouse stands over this point of the window.

@@ -23,7 +23,7 @@ void CCanvasSelection::Select(CHmiWidget* widget, bool add)
 {
     if (add) {
         if (CHmiWidget* window = m_document.FindWindowWidget(); window && window != widget)
-            Deselect(window);
+            Remove(window);
     } else {
         m_view.InvalidateView();
         m_widgets.clear();
@@ -32,24 +32,28 @@ void CCanvasSelection::Select(CHmiWidget* widget, bool add)
         return;
     if (!widget)
         widget = m_document.FindWindowWidget();
-    if (!widget) {
-        if (m_onSelected)
-            m_onSelected(nullptr);
-        return;
+    if (widget) {
+        m_widgets.push_back(widget);
+        InvalidateWidget(*widget);
     }
-    m_widgets.push_back(widget);
-    InvalidateWidget(*widget);
-    if (m_onSelected)
-        m_onSelected(widget);
+    if (m_onChanged)
+        m_onChanged();
 }
 
 void CCanvasSelection::Deselect(CHmiWidget* widget)
 {
+    if (Remove(widget) && m_onChanged)
+        m_onChanged();
+}
+
+bool CCanvasSelection::Remove(CHmiWidget* widget)
+{
     const auto found = std::find(m_widgets.begin(), m_widgets.end(), widget);
     if (found == m_widgets.end())
-        return;
+        return false;
     InvalidateWidget(*widget);
     m_widgets.erase(found);
+    return true;
 }
 
 void CCanvasSelection::SelectInRect(const HmiRect& clientRect, bool add)

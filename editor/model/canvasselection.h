@@ -16,9 +16,9 @@ class CCanvasSelection {
 public:
     CCanvasSelection(CTamloDoc& document, CHmiView& view);
 
-    // Called when a widget joins the selection: the editor shows it in the property pane and
-    // the name list and gives the canvas the focus.
-    void SetOnSelected(std::function<void(CHmiWidget*)> onSelected) { m_onSelected = std::move(onSelected); }
+    // Called once a Select or a Deselect has changed the selection: the editor gives the canvas
+    // the focus and shows the widget selected last in the property pane and the name list.
+    void SetOnChanged(std::function<void()> onChanged) { m_onChanged = std::move(onChanged); }
 
     // Adds the widget (null: the window widget); without add the selection is emptied first.
     void Select(CHmiWidget* widget, bool add);
@@ -36,9 +36,10 @@ public:
 
 private:
     void InvalidateWidget(const CHmiWidget& widget) const;
+    bool Remove(CHmiWidget* widget);
 
     CTamloDoc& m_document;
     CHmiView& m_view;
     std::vector<CHmiWidget*> m_widgets;
-    std::function<void(CHmiWidget*)> m_onSelected;
+    std::function<void()> m_onChanged;
 };

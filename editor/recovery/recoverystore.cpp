@@ -100,13 +100,18 @@ bool HoldsCopies(const QString& folder)
 
 } // namespace
 
-QString RecoveryRoot()
+QString EditorStateFolder()
 {
     // Only an absolute XDG_STATE_HOME counts; a relative one is ignored, as XDG asks.
     QString state = qEnvironmentVariable("XDG_STATE_HOME");
     if (!QDir::isAbsolutePath(state))
         state = QDir::homePath() + QStringLiteral("/.local/state");
-    return QDir::cleanPath(state + QStringLiteral("/kelvo-hmi-editor/recovery"));
+    return QDir::cleanPath(state + QStringLiteral("/kelvo-hmi-editor"));
+}
+
+QString RecoveryRoot()
+{
+    return EditorStateFolder() + QStringLiteral("/recovery");
 }
 
 FileResult MakePrivateFolder(const QString& path)

@@ -34,7 +34,11 @@ struct RecoveryCopy {
     QString contentPath; // the window file's text as it was when the copy was made
 };
 
-// $XDG_STATE_HOME/kelvo-hmi-editor/recovery, by default ~/.local/state/kelvo-hmi-editor/recovery.
+// Where the editor keeps what it needs from one run to the next: $XDG_STATE_HOME/kelvo-hmi-editor,
+// by default ~/.local/state/kelvo-hmi-editor.
+QString EditorStateFolder();
+
+// EditorStateFolder()/recovery.
 QString RecoveryRoot();
 
 // Creates the folder, and any missing folder above it, for this user alone (0700), and makes

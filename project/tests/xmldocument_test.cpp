@@ -22,15 +22,21 @@ std::vector<std::string> ChildNames(const XmlElement& parent)
 
 TEST(XmlDocument, Gb2312FilesGiveTheirValuesBackInGb2312)
 {
-    const XmlDocument doc = XmlDocument::Parse("<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<root a=\"" +
-                                               kTemperatureGb + "\" b=\"x &amp; y\"/>");
-    ASSERT_TRUE(doc.IsValid());
-    const XmlElement root = doc.Root();
-    EXPECT_TRUE(root.Is("root"));
-    EXPECT_FALSE(root.Is("Root"));
-    EXPECT_EQ(root.Attribute("a"), kTemperatureGb);
-    EXPECT_EQ(root.Attribute("b"), "x & y");
-    EXPECT_EQ(root.Attribute("missing"), "");
+    // Encoding names are case-insensitive: a lower-case declaration is the same code page.
+    for (const char* encoding : {"GB2312", "gb2312"}) {
+        const std::string text = std::string("<?xml version=\"1.0\" encoding=\"") + encoding + "\"?>\n<root a=\"" +
+                                 kTemperatureGb + "\" b=\"x &amp; y\"><c a=\"" + kTemperatureGb + "\"/></root>";
+        const XmlDocument doc = XmlDocument::Parse(text);
+        ASSERT_TRUE(doc.IsValid());
+        const XmlElement root = doc.Root();
+        EXPECT_TRUE(root.Is("root"));
+        EXPECT_FALSE(root.Is("Root"));
+        EXPECT_EQ(root.Attribute("a"), kTemperatureGb) << encoding;
+        EXPECT_EQ(root.Attribute("b"), "x & y");
+        EXPECT_EQ(root.Attribute("missing"), "");
+        XmlChildStream stream(text);
+        EXPECT_EQ(stream.Next().Attribute("a"), kTemperatureGb) << encoding;
+    }
 }
 
 TEST(XmlDocument, EveryFileGivesTheEditorsTextAndNotesWhatGb2312CannotHold)

@@ -7,6 +7,9 @@ void DrawBevelBox(CHmiDC& dc, const HmiRect& rect, const BevelColors& colors, st
     const HmiRect r = rect.ForDrawing();
     const std::int32_t w = HmiDrawingCoordinate(shadowWidth);
     HmiDrawRect(&dc, r.left - 1, r.top - 1, r.right + 2, r.bottom + 2, colors.edge, colors.back);
+    // Without a width the borders have no area; their outlines alone would draw stray lines.
+    if (w == 0)
+        return;
     const HmiPoint left[] = {{r.left, r.top}, {r.left + w, r.top + w}, {r.left + w, r.bottom - w}, {r.left, r.bottom}};
     const HmiPoint top[] = {{r.left, r.top}, {r.left + w, r.top + w}, {r.right - w, r.top + w}, {r.right, r.top}};
     const HmiPoint right[] = {

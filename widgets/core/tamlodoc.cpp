@@ -260,7 +260,9 @@ FileResult CTamloDoc::Save(const std::string& path)
 {
     std::string text;
     FileResult result = SerializeChecked(text);
-    if (result)
+    if (!result)
+        result.error = "Cannot save " + path + ": " + result.error;
+    else
         result = WriteFileAtomically(path, text);
     if (result) {
         m_bModified = false;

@@ -140,6 +140,6 @@ FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
         return result;
     result = ReadWindowText(bytes, sink);
     if (!result)
-        result.error = path + ": " + result.error;
+        result.error = "Cannot open " + path + ": " + result.error;
     return result;
 }

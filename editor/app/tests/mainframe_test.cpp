@@ -117,7 +117,7 @@ private slots:
         editor->prompts.saveFileName = FilePath(QStringLiteral("missing/window.xml"));
         QVERIFY(!child.Save());
         QCOMPARE(editor->prompts.errors.size(), 1);
-        QVERIFY(editor->prompts.errors.first().contains(QStringLiteral("missing/window.xml")));
+        QCOMPARE(editor->prompts.errors.first().count(QStringLiteral("missing/window.xml")), 1);
         QVERIFY(child.Document().IsModified());
         QVERIFY(child.DisplayName().startsWith(QStringLiteral("Tamlo")));
 
@@ -130,10 +130,12 @@ private slots:
         QCOMPARE(editor->frame.RecentFiles().Files(), QStringList{FilePath(QStringLiteral("saved.xml"))});
     }
 
-    void quittingAsksForEveryModifiedWindow()
+    void aSecondWindowOpensMaximizedAndQuittingAsksForBoth()
     {
         CChildFrame& first = editor->NewWindow();
+        first.showMaximized();
         CChildFrame& second = editor->NewWindow();
+        QCOMPARE(second.geometry(), second.parentWidget()->rect());
         AddRect(first.Document(), {0, 0, 10, 10});
         AddRect(second.Document(), {0, 0, 10, 10});
         editor->prompts.saveAnswer = CEditorPrompts::SaveAnswer::Discard;
@@ -164,6 +166,7 @@ private slots:
         qDeleteAll(editor->frame.Children());
         QVERIFY(!editor->frame.OpenDocument(paths.first()));
         QCOMPARE(editor->prompts.errors.size(), 1);
+        QCOMPARE(editor->prompts.errors.first().count(paths.first()), 1);
         QVERIFY(!editor->frame.RecentFiles().Files().contains(paths.first()));
     }
 

@@ -1,15 +1,22 @@
-// Start-up as the program runs it: widget libraries, the project argument, the demo project,
-// and a second editor process that hands its file over to the first.
+// Start-up as the program runs it: widget libraries and their report, the project argument, the
+// demo project, and a second editor process that hands its file over to the first.
 #include "editorfixture.h"
 
+#include "editor/app/pathtext.h"
 #include "editor/app/tamloapp.h"
 #include "editor/app/toolbox.h"
+#include "editor/app/widgetlibrarydialog.h"
+#include "editor/recovery/recoverystore.h"
+#include "editor/startup/librarycrashguard.h"
 #include "editor/startup/widgetlibraryloader.h"
 #include "project/projectpath.h"
 
 #include <QFileInfo>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QProcess>
+#include <QPushButton>
+#include <QTreeWidget>
 
 #include <functional>
 
@@ -33,6 +40,17 @@ private:
 
     QStringList Arguments(const QString& file) const { return {QStringLiteral("kelvo-hmi-editor"), file}; }
 
+    // Runs the editor program in the folder until it ends, answering hand-overs meanwhile.
+    void RunEditorProgram(QProcess& program, const QString& folder, const QStringList& arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(folder);
+        program.start(QStringLiteral(KELVO_EDITOR_PROGRAM), arguments);
+        QTRY_VERIFY_WITH_TIMEOUT(program.state() == QProcess::NotRunning, 20000);
+    }
+
 private slots:
     void initTestCase()
     {
@@ -47,7 +65,7 @@ private slots:
     // Library classes come last, under their class key; the window is no tool.
     void aLibraryClassIsOfferedAndPlaced()
     {
-        LoadWidgetLibraries(KELVO_TEST_MODULES_DIR);
+        LoadWidgetLibraries(KELVO_TEST_MODULES_DIR, sandbox.path().toStdString());
         EditorUnderTest editor;
         CToolbox& toolbox = editor.frame.Toolbox();
         QListWidgetItem* gauge = toolbox.item(toolbox.count() - 1);
@@ -60,6 +78,58 @@ private slots:
         const CHmiWidget& placed = *child.Document().Widgets().back();
         QCOMPARE(std::string(placed.GetRuntimeClass()->m_lpszClassName), std::string("CGaugeWidget"));
         QCOMPARE(placed.GetWidgetRect(), (HmiRect{40, 40, 140, 100}));
+    }
+
+    // A library crashes the real program; the next start skips it, and the report, opened from
+    // the Help menu, says so and what became of the others. Asked for, it is let in again.
+    void theLibraryReportTellsWhatBecameOfEachLibrary()
+    {
+        const QDir run(sandbox.filePath(QStringLiteral("run")));
+        QVERIFY(run.mkpath(QStringLiteral("modules")));
+        const QString modules = QStringLiteral(KELVO_TEST_MODULES_DIR "/");
+        for (const QString& library : {QStringLiteral(KELVO_CRASHING_MODULES_DIR "/crashingwidgets.so"),
+                                       modules + "notalibrary.so", modules + "samplewidgets.so",
+                                       modules + "throwingwidgets.so"})
+            QVERIFY(QFile::link(library, run.filePath("modules/" + QFileInfo(library).fileName())));
+        QProcess crashed;
+        RunEditorProgram(crashed, run.path(), {});
+        QCOMPARE(crashed.exitStatus(), QProcess::CrashExit);
+
+        const QString previous = QDir::currentPath();
+        QDir::setCurrent(run.path());
+        CTamloApp editor(prompts, QStringLiteral("library-test"));
+        const CTamloApp::StartResult started = editor.Start({QStringLiteral("kelvo-hmi-editor")});
+        QDir::setCurrent(previous);
+        QCOMPARE(started, CTamloApp::StartResult::Started);
+        CMainFrame& frame = *editor.MainFrame();
+        QVERIFY(frame.findChild<QPushButton*>("widgetLibraryNotice"));
+
+        const QList<QAction*> menus = frame.menuBar()->actions();
+        const auto help =
+            std::find_if(menus.begin(), menus.end(), [](QAction* menu) { return menu->text() == "&Help"; });
+        QVERIFY(help != menus.end());
+        (*help)->menu()->actions().constFirst()->trigger();
+        auto* dialog = frame.findChild<CWidgetLibraryDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        auto* list = dialog->findChild<QTreeWidget*>();
+        QStringList rows;
+        for (int row = 0; row < list->topLevelItemCount(); ++row) {
+            const QTreeWidgetItem* item = list->topLevelItem(row);
+            rows << item->text(0) + " | " + item->text(1) + " | " + item->text(2);
+        }
+        QCOMPARE(rows, QStringList({"crashingwidgets.so | skipped after a crash | "
+                                    "it ended the editor while it was being loaded at an earlier start",
+                                    "notalibrary.so | cannot be loaded | file too short",
+                                    "samplewidgets.so | loaded | registered 1 widget class",
+                                    "throwingwidgets.so | threw | the dial calibration file is missing"}));
+
+        const std::string state = ToModelPath(EditorStateFolder());
+        QCOMPARE(CLibraryCrashGuard::CrashedLibraries(state).size(), std::size_t(1));
+        list->setCurrentItem(list->topLevelItem(0));
+        for (QPushButton* button : dialog->findChildren<QPushButton*>())
+            if (button->text() == "&Load Again at Next Start")
+                button->click();
+        QVERIFY(CLibraryCrashGuard::CrashedLibraries(state).empty());
     }
 
     // "*project*window" names the project and a window of it; without a file the demo opens.
@@ -91,14 +161,9 @@ private slots:
         QCOMPARE(first.Start(Arguments(kDemo + QStringLiteral("/main.xml"))), CTamloApp::StartResult::Started);
         const std::string project = GetProjectPath();
 
-        const auto startSecond = [](const QString& folder, const QString& argument) {
+        const auto startSecond = [this](const QString& folder, const QString& argument) {
             QProcess second;
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-            second.setProcessEnvironment(environment);
-            second.setWorkingDirectory(folder);
-            second.start(QStringLiteral(KELVO_EDITOR_PROGRAM), {argument});
-            QTRY_VERIFY_WITH_TIMEOUT(second.state() == QProcess::NotRunning, 20000);
+            RunEditorProgram(second, folder, {argument});
             QCOMPARE(second.exitStatus(), QProcess::NormalExit);
             QCOMPARE(second.exitCode(), 0);
         };

@@ -1,6 +1,9 @@
 // A widget library that registers its class and then refuses to run, as one does that finds
-// something it needs missing only after registering.
+// something it needs missing only after registering. It declines, or, built with
+// REFUSE_BY_THROWING, throws.
 #include "widgets/core/widgetlibrary.h"
+
+#include <stdexcept>
 
 namespace {
 
@@ -19,6 +22,10 @@ const CWidgetRunTimeClass kClasses[] = {
 
 extern "C" int WidgetsLibInit()
 {
-    RegisterWidgetsLib("decliningwidgets", 1, kClasses);
+    RegisterWidgetsLib("dialwidgets", 1, kClasses);
+#ifdef REFUSE_BY_THROWING
+    throw std::runtime_error("the dial calibration file is missing");
+#else
     return 0;
+#endif
 }

@@ -95,6 +95,17 @@ TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
     EXPECT_EQ(RunTool("render a b --folder c").status, 2);
     EXPECT_EQ(RunTool("frobnicate").status, 2);
     EXPECT_EQ(RunTool("--version").status, 0);
+
+    // A byte the declared code page cannot convert: the tool alone reports it, in one line.
+    const std::string badByte = dir.Write("bad.xml", "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n"
+                                                     "<hmiwidget><widget name=\"\xFF\xFE\"/></hmiwidget>");
+    const ToolRun list = RunTool("list '" + badByte + "'");
+    EXPECT_EQ(list.status, 1);
+    EXPECT_EQ(list.errors, "kelvo-hmi: Cannot open " + badByte +
+                               ": The file is not well-formed XML (input conversion failed due to input error, "
+                               "bytes 0xFF 0xFE 0x22 0x2F).\n");
+    std::filesystem::copy_file(badByte, dir.Path("rtdb.xml"));
+    EXPECT_EQ(RunTool("vars '" + dir.Path("") + "'").errors, "");
 }
 
 TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)

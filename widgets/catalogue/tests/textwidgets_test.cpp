@@ -44,6 +44,10 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
 
     button.m_nFontSize = 9;
     EXPECT_EQ(DrawnBy(button).ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
+
+    // Borders without a width have no area: their outlines would paint stray lines.
+    button.m_nShadowWidth = 0;
+    EXPECT_TRUE(DrawnBy(button).ShapesOfKind("polygon").empty());
 }
 
 TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
@@ -85,6 +89,8 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     const RecordingDC opaque = DrawnBy(number);
     EXPECT_EQ(opaque.ShapesOfKind("rectangle").size(), 1u);
     EXPECT_EQ(opaque.ShapesOfKind("polygon").size(), 4u);
+    number.m_nShadowWidth = 0;
+    EXPECT_EQ(DrawnBy(number).ShapesOfKind("polygon").size(), 0u) << "only the filled box";
 
     CHmiWidgetTextInput text;
     text.m_nFontSize = 0;

@@ -106,6 +106,8 @@ TEST_F(TamloDocTest, UnreadableFilesGiveAWindowAndAReason)
         const FileResult result = doc.Load(path);
         EXPECT_FALSE(result) << path;
         EXPECT_NE(result.error.find(reason), std::string::npos) << result.error;
+        const std::size_t named = result.error.find(path);
+        EXPECT_TRUE(named != std::string::npos && named == result.error.rfind(path)) << "names the path once: " << result.error;
         EXPECT_EQ(NamesOf(doc), (std::vector<std::string>{"window"}));
     }
 }

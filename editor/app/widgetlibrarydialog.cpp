@@ -1,0 +1,114 @@
+#include "widgetlibrarydialog.h"
+
+#include "pathtext.h"
+
+#include "editor/startup/librarycrashguard.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kReasonColumn = 2;
+const QString kLoadedAtNextStart = QStringLiteral("it will be loaded at the next start");
+
+QString OutcomeText(LibraryOutcome outcome)
+{
+    switch (outcome) {
+    case LibraryOutcome::Loaded:
+        return QStringLiteral("loaded");
+    case LibraryOutcome::NoEntryPoint:
+        return QStringLiteral("no entry point");
+    case LibraryOutcome::Declined:
+        return QStringLiteral("declined");
+    case LibraryOutcome::NotLoaded:
+        return QStringLiteral("cannot be loaded");
+    case LibraryOutcome::Threw:
+        return QStringLiteral("threw");
+    case LibraryOutcome::Refused:
+        return QStringLiteral("refused");
+    case LibraryOutcome::SkippedAfterCrash:
+        break;
+    }
+    return QStringLiteral("skipped after a crash");
+}
+
+} // namespace
+
+CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidget* parent)
+    : QDialog(parent)
+    , m_report(std::move(report))
+    , m_list(new QTreeWidget)
+{
+    setWindowTitle(QStringLiteral("Widget Libraries"));
+    const QString folder = ToQtPath(m_report.folder);
+    auto* text = new QLabel(m_report.libraries.empty()
+                                ? QStringLiteral("No widget library was found in %1 at start-up.").arg(folder)
+                                : QStringLiteral("What became of the widget libraries in %1 at start-up:").arg(folder));
+    text->setWordWrap(true);
+
+    m_list->setHeaderLabels({QStringLiteral("File"), QStringLiteral("Outcome"), QStringLiteral("Reason")});
+    m_list->setRootIsDecorated(false);
+    for (const WidgetLibraryLoad& library : m_report.libraries) {
+        // A library let in again since the start is no longer skipped by the next one.
+        const QString reason = library.outcome == LibraryOutcome::SkippedAfterCrash && !SkippedAtNextStart(library)
+                                   ? kLoadedAtNextStart
+                                   : QString::fromStdString(library.reason);
+        m_list->addTopLevelItem(new QTreeWidgetItem({ToQtPath(library.file), OutcomeText(library.outcome), reason}));
+    }
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CWidgetLibraryDialog::UpdateLoadAgainButton);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    m_loadAgain = buttons->addButton(QStringLiteral("&Load Again at Next Start"), QDialogButtonBox::ActionRole);
+    m_loadAgain->setToolTip(
+        QStringLiteral("Load the chosen library at the next start, although it crashed an earlier one"));
+    connect(m_loadAgain, &QPushButton::clicked, this, &CWidgetLibraryDialog::LoadAgainAtNextStart);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(text);
+    layout->addWidget(m_list);
+    layout->addWidget(buttons);
+    resize(760, 320);
+    UpdateLoadAgainButton();
+}
+
+bool CWidgetLibraryDialog::SkippedAtNextStart(const WidgetLibraryLoad& library) const
+{
+    if (library.outcome != LibraryOutcome::SkippedAfterCrash)
+        return false;
+    const std::vector<std::string> crashed = CLibraryCrashGuard::CrashedLibraries(m_report.stateFolder);
+    return std::find(crashed.begin(), crashed.end(), library.path) != crashed.end();
+}
+
+const WidgetLibraryLoad* CWidgetLibraryDialog::SkippedLibrary() const
+{
+    const QList<QTreeWidgetItem*> selected = m_list->selectedItems();
+    if (selected.size() != 1)
+        return nullptr;
+    const WidgetLibraryLoad& library = m_report.libraries[m_list->indexOfTopLevelItem(selected.front())];
+    return SkippedAtNextStart(library) ? &library : nullptr;
+}
+
+void CWidgetLibraryDialog::LoadAgainAtNextStart()
+{
+    const WidgetLibraryLoad* library = SkippedLibrary();
+    if (!library)
+        return;
+    const FileResult result = CLibraryCrashGuard::LoadAgainAtNextStart(m_report.stateFolder, library->path);
+    m_list->selectedItems().front()->setText(kReasonColumn,
+                                             result ? kLoadedAtNextStart : QString::fromStdString(result.error));
+    UpdateLoadAgainButton();
+}
+
+void CWidgetLibraryDialog::UpdateLoadAgainButton()
+{
+    m_loadAgain->setEnabled(SkippedLibrary() != nullptr);
+}
