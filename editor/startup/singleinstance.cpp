@@ -1,4 +1,5 @@
 #include "singleinstance.h"
+#include "trust.h"
 
 #include <QDir>
 #include <QFile>
@@ -65,14 +66,9 @@ QString PrivateFolderProblem(const QString& folder)
     struct stat info;
     if (::lstat(local.constData(), &info) != 0)
         return QStringLiteral("Cannot use %1: %2").arg(folder, qt_error_string(errno));
-    const QString cannotUse = QStringLiteral("Cannot use %1: ").arg(folder);
-    if (!S_ISDIR(info.st_mode))
-        return cannotUse + QStringLiteral("it is not a folder");
-    if (info.st_uid != ::getuid())
-        return cannotUse + QStringLiteral("it belongs to another user");
-    if ((info.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-        return cannotUse + QStringLiteral("other users may write to it");
-    return {};
+    const std::string problem = S_ISDIR(info.st_mode) ? TrustProblem(info) : "not a folder";
+    return problem.empty() ? QString()
+                           : QStringLiteral("Cannot use %1: it is %2").arg(folder, QString::fromStdString(problem));
 }
 
 // The display as a part of a file name. Every start in one session finds the same display in

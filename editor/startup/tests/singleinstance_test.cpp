@@ -141,9 +141,9 @@ private slots:
             uid_t owner;
             QString refusal;
         } folders[] = {{"missing", 0, 0, {}},
-                       {"group", 0770, 0, "other users may write to it"},
-                       {"tmp", 01777, 0, "other users may write to it"},
-                       {"theirs", 0700, kNobody, "it belongs to another user"},
+                       {"group", 0770, 0, "it is writable by its group (mode 770)"},
+                       {"tmp", 01777, 0, "it is writable by every user (mode 1777)"},
+                       {"theirs", 0700, kNobody, "it is owned by another user (uid 65534)"},
                        {"link", 0, 0, "it is not a folder"}};
         for (const auto& [folder, mode, owner, refusal] : folders) {
             const QByteArray path = QFile::encodeName(sandbox.filePath(folder));
