@@ -533,6 +533,9 @@ void CMainFrame::RaiseAndRestore()
         showNormal();
     raise();
     activateWindow();
+    // A message box that is open must not end up behind the window it belongs to.
+    if (QWidget* modal = QApplication::activeModalWidget())
+        modal->raise();
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event)
