@@ -4,9 +4,9 @@
 // make them. Prints figures only; nothing here is a pass or a fail.
 
 #include "editor/app/tamloview.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/hmipainterdc.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/hmipainterdc.h"
+#include "widgets/tamlodoc.h"
 
 #include <QApplication>
 #include <QImage>

@@ -8,8 +8,8 @@
 #include "editor/app/recoverykeeper.h"
 #include "editor/app/recoveryoffer.h"
 #include "editor/recovery/recoverystore.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/tamlodoc.h"
 
 #include <QApplication>
 #include <QSettings>

@@ -5,8 +5,8 @@
 #include "dynamics/dynamictype.h"
 #include "tests/support/childcost.h"
 #include "tests/support/hostilefiles.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/tamlodoc.h"
 
 #include <libxml/parser.h>
 

@@ -1,17 +1,20 @@
 # One helper per kind of target, so that every library, tool and test is declared alike.
 
 # kelvo_add_library(NAME): a shared library whose sources the area folders add with
-# target_sources. Sources include each other from the repository root ("widgets/core/...").
+# target_sources. Its sources include each other from the folder that declares it
+# ("widgets/hmiwidget.h" in core/), which is its only include root.
 function(kelvo_add_library name)
     add_library(${name} SHARED)
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_compile_options(${name} PRIVATE -Wall -Wextra)
 endfunction()
 
-# kelvo_add_executable(NAME SOURCES ... LIBS ...): a program that lands in build/bin.
+# kelvo_add_executable(NAME SOURCES ... LIBS ...): a program that lands in build/bin. It includes
+# from the repository root as well as from the core's.
 function(kelvo_add_executable name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ARG_LIBS})
     target_compile_options(${name} PRIVATE -Wall -Wextra)
 endfunction()

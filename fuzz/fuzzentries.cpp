@@ -1,16 +1,16 @@
 #include "fuzzentries.h"
 
+#include "base/numberparsers.h"
+#include "catalogue/builtinwidgets.h"
 #include "project/namelists.h"
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 #include "project/windowlist.h"
 #include "project/xmldocument.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/hmiimagedc.h"
-#include "widgets/core/numberparsers.h"
-#include "widgets/core/tamlodoc.h"
-#include "widgets/core/widgetfilereader.h"
-#include "widgets/core/windowpainter.h"
+#include "widgets/hmiimagedc.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/widgetfilereader.h"
+#include "widgets/windowpainter.h"
 
 #include <cstdio>
 #include <cstdlib>

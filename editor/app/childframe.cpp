@@ -4,7 +4,7 @@
 #include "pathtext.h"
 #include "tamloview.h"
 
-#include "widgets/core/tamlodoc.h"
+#include "widgets/tamlodoc.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>

@@ -16,7 +16,7 @@
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/propertypane/propertypane.h"
 #include "project/projectpath.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/tamlodoc.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -4,7 +4,7 @@
 #include "mainframe.h"
 
 #include "editor/recovery/recoverystore.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/tamlodoc.h"
 
 #include <QStatusBar>
 

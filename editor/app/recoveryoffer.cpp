@@ -7,7 +7,7 @@
 #include "recoverykeeper.h"
 
 #include "editor/recovery/recoverystore.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/tamlodoc.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include "editor/model/canvasgeometry.h"
 #include "editor/model/formatcommands.h"
-#include "widgets/core/hmipainterdc.h"
-#include "widgets/core/tamlodoc.h"
-#include "widgets/core/windowpainter.h"
+#include "widgets/hmipainterdc.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/windowpainter.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 #include "editor/canvascontrols/canvascontrols.h"
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
-#include "widgets/core/hmiview.h"
+#include "widgets/hmiview.h"
 
 #include <QImage>
 #include <QWidget>

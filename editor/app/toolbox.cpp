@@ -1,7 +1,8 @@
 #include "toolbox.h"
 
 #include "editor/model/canvastools.h"
-#include "widgets/core/hmiwidget.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/hmiwidgetwindow.h"
 
 #include <algorithm>
 
@@ -33,7 +34,6 @@ constexpr BuiltinToolboxLabel kBuiltinToolbox[] = {
     {"bmptext", "Vector Text"},
 };
 
-constexpr const char* kWindowClassKey = "window";
 constexpr int kClassKeyRole = Qt::UserRole;
 
 bool IsRegistered(const std::string& key)

@@ -1,6 +1,6 @@
 #include "widgetnamecombo.h"
 
-#include "project/textcodec.h"
+#include "base/textcodec.h"
 
 #include <QSignalBlocker>
 

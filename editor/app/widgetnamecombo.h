@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/tamlodoc.h"
+#include "widgets/tamlodoc.h"
 
 #include <QComboBox>
 

@@ -1,6 +1,6 @@
 #include "canvascontrol.h"
 
-#include "widgets/core/windowpainter.h"
+#include "widgets/windowpainter.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/hmictrlwidget.h"
+#include "widgets/hmictrlwidget.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -3,8 +3,8 @@
 #include "controlkinds.h"
 #include "controlmouseforwarder.h"
 
-#include "widgets/core/hmiview.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiview.h"
+#include "widgets/tamlodoc.h"
 
 #include <QWidget>
 

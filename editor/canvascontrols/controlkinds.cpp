@@ -1,9 +1,9 @@
 #include "controlkinds.h"
 
 #include "editor/projectdialogs/modeltext.h"
-#include "widgets/catalogue/hmiwidgetalarmwnd.h"
-#include "widgets/catalogue/hmiwidgetcontrols.h"
-#include "widgets/catalogue/hmiwidgethislist.h"
+#include "catalogue/hmiwidgetalarmwnd.h"
+#include "catalogue/hmiwidgetcontrols.h"
+#include "catalogue/hmiwidgethislist.h"
 
 #include <QCheckBox>
 #include <QComboBox>

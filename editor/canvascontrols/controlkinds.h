@@ -2,7 +2,7 @@
 
 #include "canvascontrol.h"
 
-#include "widgets/catalogue/listcolumns.h"
+#include "catalogue/listcolumns.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "dialogservices.h"
 
-#include "project/textcodec.h"
+#include "base/textcodec.h"
 
 #include <QColorDialog>
 

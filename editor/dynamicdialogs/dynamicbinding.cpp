@@ -1,7 +1,7 @@
 #include "dynamicbinding.h"
 
 #include "dynamics/dynamictypes.h"
-#include "widgets/core/hmiwidgetprop.h"
+#include "widgets/hmiwidgetprop.h"
 
 std::string BindingExpression(const CHmiDynamicType& binding)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialogservices.h"
-#include "widgets/core/hmiwidgetprop.h"
+#include "widgets/hmiwidgetprop.h"
 
 #include <QDialog>
 

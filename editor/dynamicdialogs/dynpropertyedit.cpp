@@ -3,9 +3,9 @@
 #include "dynamicbinding.h"
 #include "dynpropertydialog.h"
 #include "dynamics/dynamictype.h"
-#include "widgets/core/hmiwidget.h"
-#include "widgets/core/optiontree.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/optiontree.h"
+#include "widgets/tamlodoc.h"
 
 bool EditDynamicProperty(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row,
                          const DynamicDialogServices& services)
@@ -17,7 +17,7 @@ bool EditDynamicProperty(QWidget* parent, CHmiWidget& widget, COptionTreeItem& r
     if (dialog.exec() != QDialog::Accepted || dialog.GetOutcome() == CDynPropertyDialog::Outcome::Unchanged)
         return false;
     ApplyDynamicBinding(*prop, dialog.TakeBinding());
-    row.SetAdtColumnBkColor(prop->m_strExpression.empty() ? kHmiColor3DFace : kHmiColorBound);
+    row.SetAdtColumnBkColor(BindingMarkColor(prop->m_strExpression));
     if (widget.m_pDocument)
         widget.m_pDocument->SetModifiedFlag();
     return true;

@@ -2,9 +2,9 @@
 
 #include "dialogservices.h"
 #include "eventeditdialog.h"
-#include "widgets/core/hmiwidget.h"
-#include "widgets/core/optiontree.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/optiontree.h"
+#include "widgets/tamlodoc.h"
 
 #include <algorithm>
 

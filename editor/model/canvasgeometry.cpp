@@ -1,10 +1,10 @@
 #include "canvasgeometry.h"
 
-#include "widgets/catalogue/hmiwidgetwindow.h"
+#include "widgets/hmiwidgetwindow.h"
 
 HmiPoint CanvasOrigin(const CHmiWidget& widget)
 {
-    if (dynamic_cast<const CHmiWidgetWindow*>(&widget))
+    if (IsWindowWidget(widget))
         return {widget.GetWidgetRect().left, widget.GetWidgetRect().top};
     return {};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/hmitypes.h"
+#include "base/hmitypes.h"
 
 class CHmiWidget;
 

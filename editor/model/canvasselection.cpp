@@ -2,8 +2,8 @@
 
 #include "canvasgeometry.h"
 
-#include "widgets/core/hmiview.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiview.h"
+#include "widgets/tamlodoc.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 
 #include "canvasgeometry.h"
 #include "canvasselection.h"
-#include "widgets/catalogue/hmiwidgetwindow.h"
-#include "widgets/core/hmiview.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiview.h"
+#include "widgets/hmiwidgetwindow.h"
+#include "widgets/tamlodoc.h"
 
 namespace {
 
@@ -222,7 +222,7 @@ void CCanvasTools::PlaceWidget(CCanvasToolHost& host, const HmiRect& clientRect)
     const HmiPoint topLeft = view.ClientToDoc({clientRect.left, clientRect.top});
     const HmiPoint bottomRight = view.ClientToDoc({clientRect.right, clientRect.bottom});
     HmiRect rect{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
-    if (dynamic_cast<CHmiWidgetWindow*>(widget.get())) {
+    if (IsWindowWidget(*widget)) {
         // A placed window keeps its position on the panel and takes the dragged corner as its
         // size; its bottom is taken from the dragged top, as panels have always read it.
         const HmiRect& old = widget->GetWidgetRect();

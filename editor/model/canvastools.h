@@ -1,7 +1,7 @@
 #pragma once
 
-#include "widgets/core/hmitypes.h"
-#include "widgets/core/hmiwidget.h"
+#include "base/hmitypes.h"
+#include "widgets/hmiwidget.h"
 
 #include <vector>
 

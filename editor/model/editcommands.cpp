@@ -1,8 +1,10 @@
 #include "editcommands.h"
 
 #include "project/xmldocument.h"
-#include "widgets/core/tamlodoc.h"
-#include "widgets/core/widgetfilereader.h"
+#include "widgets/hmiwidgetwindow.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/widgetfilereader.h"
+#include "widgets/widgetfilewriter.h"
 
 #include <algorithm>
 #include <functional>
@@ -12,7 +14,7 @@ namespace {
 
 bool IsWindow(const CHmiWidget* widget)
 {
-    return widget->GetWidgetClassName() == "window";
+    return IsWindowWidget(*widget);
 }
 
 std::vector<CHmiWidget*> WithoutWindow(const std::vector<CHmiWidget*>& widgets)
@@ -37,12 +39,10 @@ bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
 
 std::string CopyWidgets(const std::vector<CHmiWidget*>& widgets)
 {
-    std::string text;
+    CWindowFileWriter writer;
     for (const CHmiWidget* widget : WithoutWindow(widgets))
-        widget->Serialize(text);
-    if (text.empty())
-        return text;
-    return "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n" + text + "</hmiwidget>\n";
+        writer.Write(*widget);
+    return writer.Written().empty() ? std::string() : writer.Finish();
 }
 
 bool HasEditableWidgets(const std::vector<CHmiWidget*>& widgets)
@@ -54,7 +54,7 @@ std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& te
 {
     std::vector<HmiWidgetPtr> read;
     ReadWindowText(text, [&read](HmiWidgetPtr widget) {
-        if (widget->GetWidgetClassName() != "window")
+        if (!IsWindowWidget(*widget))
             read.push_back(std::move(widget));
     });
     std::vector<CHmiWidget*> pasted;

@@ -1,7 +1,7 @@
 #include "formatcommands.h"
 
-#include "widgets/core/hmiview.h"
-#include "widgets/core/tamlodoc.h"
+#include "widgets/hmiview.h"
+#include "widgets/tamlodoc.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "dialogbuttons.h"
 #include "modeltext.h"
 
-#include "widgets/catalogue/listcolumns.h"
+#include "catalogue/listcolumns.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>

@@ -2,7 +2,7 @@
 
 #include "projectcontext.h"
 
-#include "widgets/core/hmidc.h"
+#include "widgets/hmidc.h"
 
 #include <QDialog>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/textcodec.h"
+#include "base/textcodec.h"
 
 #include <QString>
 

@@ -8,12 +8,12 @@
 #include "project/namelists.h"
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
-#include "widgets/catalogue/hmiwidgetalarmwnd.h"
-#include "widgets/catalogue/hmiwidgetbmptext.h"
-#include "widgets/catalogue/hmiwidgethislist.h"
-#include "widgets/catalogue/hmiwidgetpic.h"
-#include "widgets/core/optiontree.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/hmiwidgetalarmwnd.h"
+#include "catalogue/hmiwidgetbmptext.h"
+#include "catalogue/hmiwidgethislist.h"
+#include "catalogue/hmiwidgetpic.h"
+#include "widgets/optiontree.h"
+#include "widgets/tamlodoc.h"
 
 #include <QFile>
 

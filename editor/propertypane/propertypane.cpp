@@ -2,7 +2,7 @@
 
 #include "propertypaneitem.h"
 
-#include "project/textcodec.h"
+#include "base/textcodec.h"
 
 #include <QColorDialog>
 #include <QHeaderView>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "widgets/core/hmiwidget.h"
-#include "widgets/core/optiontree.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/optiontree.h"
 
 #include <QColor>
 #include <QWidget>

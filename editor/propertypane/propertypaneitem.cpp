@@ -2,7 +2,7 @@
 
 #include "propertypane.h"
 
-#include "project/textcodec.h"
+#include "base/textcodec.h"
 
 #include <QCheckBox>
 #include <QComboBox>

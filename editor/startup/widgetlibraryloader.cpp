@@ -3,9 +3,9 @@
 #include "librarycrashguard.h"
 #include "modulesfolder.h"
 
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/hmiwidget.h"
-#include "widgets/core/widgetlibrary.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/widgetlibrary.h"
 
 #include <cstddef>
 #include <dlfcn.h>

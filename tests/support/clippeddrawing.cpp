@@ -1,6 +1,6 @@
 #include "clippeddrawing.h"
 
-#include "widgets/core/hmiimagedc.h"
+#include "widgets/hmiimagedc.h"
 
 std::string FirstPixelChangedByClipping(const std::function<void(CHmiDC& dc, HmiPoint offset)>& draw)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "widgets/core/hmiwidget.h"
-#include "widgets/core/widgetlibrary.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/widgetlibrary.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/hmiview.h"
+#include "widgets/hmiview.h"
 
 #include <vector>
 

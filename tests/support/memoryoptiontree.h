@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/optiontree.h"
+#include "widgets/optiontree.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/core/hmidc.h"
+#include "widgets/hmidc.h"
 
 #include <string>
 #include <utility>

@@ -2,10 +2,10 @@
 
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/hmiimagedc.h"
-#include "widgets/core/tamlodoc.h"
-#include "widgets/core/windowpainter.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/hmiimagedc.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/windowpainter.h"
 
 #include <QGuiApplication>
 

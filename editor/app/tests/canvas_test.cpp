@@ -8,10 +8,10 @@
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
 #include "editor/model/canvastools.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/catalogue/hmiwidgetgradrect.h"
-#include "widgets/core/hmiimagedc.h"
-#include "widgets/core/windowpainter.h"
+#include "catalogue/builtinwidgets.h"
+#include "catalogue/hmiwidgetgradrect.h"
+#include "widgets/hmiimagedc.h"
+#include "widgets/windowpainter.h"
 
 #include <QAction>
 #include <QDir>

@@ -1,7 +1,7 @@
 // A widget library whose widget moves to a resting place the first time it is drawn, so that a
 // window showing it becomes modified without any input: how the recovery tests change a window
 // in an editor that runs in another process.
-#include "widgets/core/widgetlibrary.h"
+#include "widgets/widgetlibrary.h"
 
 namespace {
 

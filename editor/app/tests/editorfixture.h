@@ -5,8 +5,8 @@
 #include "editor/app/mainframe.h"
 #include "editor/app/tamloview.h"
 #include "editor/recovery/tests/recoveryfixture.h" // ReadBytes, WriteBytes
-#include "widgets/catalogue/hmiwidgetrect.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/hmiwidgetrect.h"
+#include "widgets/tamlodoc.h"
 
 #include <QSettings>
 #include <QStringList>

@@ -3,7 +3,7 @@
 
 #include "editor/projectdialogs/tests/dialogdriver.h"
 #include "project/projectpath.h"
-#include "widgets/catalogue/builtinwidgets.h"
+#include "catalogue/builtinwidgets.h"
 
 #include <QAction>
 #include <QDialog>

@@ -6,10 +6,10 @@
 #include "editor/model/canvastools.h"
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/catalogue/hmiwidgetalarmwnd.h"
-#include "widgets/catalogue/hmiwidgetcontrols.h"
-#include "widgets/catalogue/hmiwidgethislist.h"
+#include "catalogue/builtinwidgets.h"
+#include "catalogue/hmiwidgetalarmwnd.h"
+#include "catalogue/hmiwidgetcontrols.h"
+#include "catalogue/hmiwidgethislist.h"
 
 #include <QApplication>
 #include <QCheckBox>

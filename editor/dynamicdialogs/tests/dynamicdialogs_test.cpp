@@ -10,8 +10,8 @@
 #include "dynamics/dynamictypes.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/tempdir.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/tamlodoc.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -3,9 +3,9 @@
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
 #include "tests/support/fakeview.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/catalogue/hmiwidgetrect.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "catalogue/hmiwidgetrect.h"
+#include "widgets/tamlodoc.h"
 
 #include <gtest/gtest.h>
 

@@ -8,8 +8,8 @@
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 #include "tests/support/memoryoptiontree.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/tamlodoc.h"
 
 #include <QCheckBox>
 #include <QComboBox>

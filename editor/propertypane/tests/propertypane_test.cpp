@@ -3,11 +3,11 @@
 
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
-#include "widgets/catalogue/builtinwidgets.h"
-#include "widgets/catalogue/hmiwidgetbutton.h"
-#include "widgets/catalogue/hmiwidgetrect.h"
-#include "widgets/catalogue/hmiwidgettext.h"
-#include "widgets/core/tamlodoc.h"
+#include "catalogue/builtinwidgets.h"
+#include "catalogue/hmiwidgetbutton.h"
+#include "catalogue/hmiwidgetrect.h"
+#include "catalogue/hmiwidgettext.h"
+#include "widgets/tamlodoc.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // A widget library that registers its class and then refuses to run, as one does that finds
 // something it needs missing only after registering. It declines, or, built with
 // REFUSE_BY_THROWING, throws.
-#include "widgets/core/widgetlibrary.h"
+#include "widgets/widgetlibrary.h"
 
 #include <stdexcept>
 

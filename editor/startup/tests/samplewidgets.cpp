@@ -1,6 +1,6 @@
 // A widget library with one widget kind, built the way a third party builds one.
-#include "widgets/catalogue/propertytable.h"
-#include "widgets/core/widgetlibrary.h"
+#include "catalogue/propertytable.h"
+#include "widgets/widgetlibrary.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include "tests/support/childcost.h"
 #include "tests/support/emptyregistry.h"
 #include "tests/support/tempdir.h"
-#include "widgets/catalogue/hmiwidgetcustom.h"
-#include "widgets/core/tamlodoc.h"
-#include "widgets/core/widgetlibrary.h"
+#include "widgets/hmiwidgetcustom.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/widgetlibrary.h"
 
 #include <gtest/gtest.h>
 

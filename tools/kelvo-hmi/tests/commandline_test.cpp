@@ -4,6 +4,7 @@
 #include "tests/support/fulldiskscope.h"
 #include "tests/support/tempdir.h"
 
+#include <QCryptographicHash>
 #include <QImage>
 
 #include <gtest/gtest.h>
@@ -11,6 +12,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <sys/wait.h>
 
 namespace {
@@ -82,6 +85,32 @@ TEST(CommandLine, ListsRoundTripsAndListsVariables)
     EXPECT_EQ(vars.status, 0);
     for (const char* reference : {"$plc.temperature\n", "$sim.tick\n", "$pump1\n", "$current_window\n"})
         EXPECT_NE(vars.output.find(reference), std::string::npos) << reference;
+}
+
+// Window files are a contract with the panel: every example window and every fuzz seed saves to
+// the bytes recorded in roundtrip.sha256, one "SHA-256  path" line each ("refused" instead of the
+// digest where the tool refuses the file). After a deliberate change to the saved bytes, record
+// the digests again from the tool's output.
+TEST(CommandLine, RoundTripsEveryExampleAndSeedToTheRecordedBytes)
+{
+    std::ifstream manifest(KELVO_ROUNDTRIP_MANIFEST);
+    int entries = 0;
+    for (std::string digest, path; manifest >> digest >> path; ++entries) {
+        SCOPED_TRACE(path);
+        TempDir dir;
+        const ToolRun run = RunTool("roundtrip '" + std::string(KELVO_SOURCE_DIR) + "/" + path + "' '" +
+                                    dir.Path("out.xml") + "'");
+        if (digest == "refused") {
+            EXPECT_EQ(run.status, 1);
+            continue;
+        }
+        ASSERT_EQ(run.status, 0) << run.errors;
+        const std::string bytes = dir.Read("out.xml");
+        EXPECT_EQ(QCryptographicHash::hash(QByteArrayView(bytes.data(), qsizetype(bytes.size())),
+                                           QCryptographicHash::Sha256).toHex().toStdString(),
+                  digest);
+    }
+    EXPECT_GE(entries, 30);
 }
 
 TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)

@@ -1,0 +1,409 @@
+#include "hmipainterdc.h"
+
+#include "base/textcodec.h"
+#include "hmisteps.h"
+#include "project/fileio.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QImageReader>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace {
+
+QColor ToQColor(HmiColor color)
+{
+    return QColor(int(color & 0xFF), int((color >> 8) & 0xFF), int((color >> 16) & 0xFF));
+}
+
+QRect ToQRect(const HmiRect& rect)
+{
+    const HmiRect r = rect.ForDrawing().Normalized();
+    return QRect(r.left, r.top, r.Width(), r.Height());
+}
+
+std::int32_t DrawingCoordinateOf(double value)
+{
+    return std::int32_t(std::clamp<double>(value, kHmiDrawingMin, kHmiDrawingMax));
+}
+
+// What the painter can change, in its own coordinates: its device as far as its clip lets
+// through. A device's size in device pixels is at least its size in the painter's units.
+HmiRect VisibleArea(const QPainter& painter)
+{
+    bool invertible = false;
+    const QTransform toPainter = painter.combinedTransform().inverted(&invertible);
+    if (!invertible)
+        return {kHmiDrawingMin, kHmiDrawingMin, kHmiDrawingMax, kHmiDrawingMax};
+    QRectF area = toPainter.mapRect(QRectF(0, 0, painter.device()->width(), painter.device()->height()));
+    if (painter.hasClipping())
+        area &= painter.clipBoundingRect();
+    return {DrawingCoordinateOf(std::floor(area.left())), DrawingCoordinateOf(std::floor(area.top())),
+            DrawingCoordinateOf(std::ceil(area.right())), DrawingCoordinateOf(std::ceil(area.bottom()))};
+}
+
+QString ToQString(std::string_view gb2312)
+{
+    return QString::fromStdString(Gb2312ToUtf8OrKeep(gb2312));
+}
+
+// Dotted and dashed one-pixel pens as on the panel: three pixels on and three off, and
+// eighteen on and six off. The pattern runs on across the segments of a shape's outline.
+struct DashPattern {
+    int on;
+    int period;
+};
+
+const DashPattern* PatternOf(HmiPenStyle style)
+{
+    static constexpr DashPattern kDot{3, 6};
+    static constexpr DashPattern kDash{18, 24};
+    switch (style) {
+    case HmiPenStyle::Dot:
+        return &kDot;
+    case HmiPenStyle::Dash:
+        return &kDash;
+    default:
+        return nullptr;
+    }
+}
+
+Qt::PenStyle ToQtPenStyle(HmiPenStyle style)
+{
+    switch (style) {
+    case HmiPenStyle::Dot:
+        return Qt::DotLine;
+    case HmiPenStyle::Dash:
+        return Qt::DashLine;
+    case HmiPenStyle::Null:
+        return Qt::NoPen;
+    default:
+        return Qt::SolidLine;
+    }
+}
+
+// A pen paints at least one pixel wide, and no wider than the drawing range.
+int PenWidth(const HmiPen& pen)
+{
+    return std::clamp(pen.width, 1, kHmiDrawingMax);
+}
+
+// Rounds a / b to the nearest integer, halves away from zero (b > 0).
+int RoundedQuotient(long long a, long long b)
+{
+    return int(a >= 0 ? (2 * a + b) / (2 * b) : -((-2 * a + b) / (2 * b)));
+}
+
+QFont ToQFont(const HmiFont& font)
+{
+    QFont qfont(QString::fromStdString(Gb2312ToUtf8OrKeep(font.face)));
+    qfont.setStyleStrategy(QFont::NoAntialias);
+    qfont.setWeight(QFont::Weight(std::clamp(font.weight == 0 ? 400 : font.weight, 100, 900)));
+    qfont.setItalic(font.italic != 0);
+    qfont.setUnderline(font.underline != 0);
+    qfont.setStrikeOut(font.strikeOut != 0);
+    // No taller than the drawing range reaches.
+    const std::int32_t height = HmiDrawingCoordinate(font.height);
+    if (height < 0) {
+        qfont.setPixelSize(-height); // the height of the characters themselves
+    } else if (height > 0) {
+        // A positive height is the whole cell, leading included: scale the characters to it.
+        qfont.setPixelSize(height);
+        const int cell = QFontMetrics(qfont).height();
+        if (cell > height)
+            qfont.setPixelSize(std::max(1, height * height / cell));
+    } else {
+        qfont.setPixelSize(12);
+    }
+    return qfont;
+}
+
+// A picture file read as every file is (a regular file within the size limit), so that a window
+// naming a device or a FIFO as its picture neither stalls nor exhausts drawing. Null when the
+// file cannot be read or decoded.
+QImage ReadPicture(const std::string& path)
+{
+    std::string bytes;
+    if (!ReadWholeFile(path, bytes))
+        return {};
+    QByteArray data = QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size()));
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    return reader.read();
+}
+
+// Decoded pictures, so that repainting a canvas does not decode its files again. An entry
+// is replaced when its file changes on disk.
+class PictureCache {
+public:
+    const QImage* Find(const std::string& path)
+    {
+        const QFileInfo info(QString::fromStdString(path));
+        if (!info.isFile())
+            return nullptr;
+        const QDateTime modified = info.lastModified();
+        auto found = m_entries.find(path);
+        if (found == m_entries.end() || found->second.modified != modified) {
+            if (m_entries.size() >= kMaxEntries)
+                m_entries.clear();
+            found = m_entries.insert_or_assign(path, Entry{modified, ReadPicture(path)}).first;
+        }
+        return found->second.image.isNull() ? nullptr : &found->second.image;
+    }
+
+private:
+    static constexpr std::size_t kMaxEntries = 64;
+    struct Entry {
+        QDateTime modified;
+        QImage image;
+    };
+    std::map<std::string, Entry> m_entries;
+};
+
+PictureCache& Pictures()
+{
+    static PictureCache cache;
+    return cache;
+}
+
+} // namespace
+
+CHmiPainterDC::CHmiPainterDC(QPainter& painter) : m_painter(painter), m_clipBox(VisibleArea(painter))
+{
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter.setRenderHint(QPainter::TextAntialiasing, false);
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+}
+
+HmiPen CHmiPainterDC::SelectPen(const HmiPen& pen)
+{
+    m_patternPhase = 0;
+    return std::exchange(m_pen, pen);
+}
+
+HmiBrush CHmiPainterDC::SelectBrush(const HmiBrush& brush)
+{
+    return std::exchange(m_brush, brush);
+}
+
+HmiFont CHmiPainterDC::SelectFont(const HmiFont& font)
+{
+    return std::exchange(m_font, font);
+}
+
+HmiColor CHmiPainterDC::SetTextColor(HmiColor color)
+{
+    return std::exchange(m_textColor, color);
+}
+
+HmiColor CHmiPainterDC::SetBkColor(HmiColor color)
+{
+    return std::exchange(m_bkColor, color);
+}
+
+HmiBkMode CHmiPainterDC::SetBkMode(HmiBkMode mode)
+{
+    return std::exchange(m_bkMode, mode);
+}
+
+HmiPoint CHmiPainterDC::MoveTo(HmiPoint point)
+{
+    m_patternPhase = 0;
+    return std::exchange(m_position, point);
+}
+
+void CHmiPainterDC::LineTo(HmiPoint point)
+{
+    DrawPenLine(m_position.ForDrawing(), point.ForDrawing());
+    m_position = point;
+}
+
+void CHmiPainterDC::DrawPenLine(HmiPoint from, HmiPoint to)
+{
+    if (m_pen.style == HmiPenStyle::Null || from == to)
+        return;
+    if (m_pen.width <= 1) {
+        DrawThinLine(from, to);
+        return;
+    }
+    QPen pen(ToQColor(m_pen.color), PenWidth(m_pen), ToQtPenStyle(m_pen.style), Qt::RoundCap, Qt::RoundJoin);
+    m_painter.setPen(pen);
+    m_painter.drawLine(from.x, from.y, to.x, to.y);
+}
+
+void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
+{
+    const int dx = to.x - from.x;
+    const int dy = to.y - from.y;
+    const int steps = std::max(std::abs(dx), std::abs(dy));
+    const DashPattern* pattern = PatternOf(m_pen.style);
+    if (!pattern && (dx == 0 || dy == 0)) {
+        // The common solid horizontal or vertical line: one filled run of pixels.
+        const QRect run = dx == 0 ? QRect(from.x, std::min(from.y, to.y + 1), 1, steps)
+                                  : QRect(std::min(from.x, to.x + 1), from.y, steps, 1);
+        m_painter.fillRect(run, ToQColor(m_pen.color));
+        return;
+    }
+    const auto pixelAt = [&](std::int64_t i) {
+        return QPoint(from.x + RoundedQuotient(i * dx, steps), from.y + RoundedQuotient(i * dy, steps));
+    };
+    // Only the pixels that can be seen: along the line, x and y each move one way only.
+    const HmiSteps columns = HmiStepsWithin(0, steps, m_clipBox.left, m_clipBox.right,
+                                            [&](std::int64_t i) { return pixelAt(i).x(); });
+    const HmiSteps seen = HmiStepsWithin(columns.first, columns.end, m_clipBox.top, m_clipBox.bottom,
+                                         [&](std::int64_t i) { return pixelAt(i).y(); });
+    std::vector<QPoint> on;
+    std::vector<QPoint> off;
+    on.reserve(std::size_t(seen.end - seen.first));
+    for (std::int64_t i = seen.first; i < seen.end; ++i) {
+        const bool isOn = !pattern || (m_patternPhase + i) % pattern->period < pattern->on;
+        (isOn ? on : off).push_back(pixelAt(i));
+    }
+    if (pattern)
+        m_patternPhase = (m_patternPhase + steps) % pattern->period;
+    QPen pen(ToQColor(m_pen.color), 1);
+    pen.setCosmetic(true);
+    m_painter.setPen(pen);
+    m_painter.drawPoints(on.data(), int(on.size()));
+    if (!off.empty() && m_bkMode == HmiBkMode::Opaque) {
+        pen.setColor(ToQColor(m_bkColor));
+        m_painter.setPen(pen);
+        m_painter.drawPoints(off.data(), int(off.size()));
+    }
+}
+
+void CHmiPainterDC::ApplyPenAndBrush()
+{
+    QPen pen(ToQColor(m_pen.color), PenWidth(m_pen), ToQtPenStyle(m_pen.style));
+    pen.setCosmetic(m_pen.width <= 1);
+    m_painter.setPen(pen);
+    m_painter.setBrush(m_brush.hollow ? QBrush(Qt::NoBrush) : QBrush(ToQColor(m_brush.color)));
+}
+
+void CHmiPainterDC::Rectangle(const HmiRect& rect)
+{
+    const HmiRect r = rect.ForDrawing().Normalized();
+    if (r.Width() <= 0 || r.Height() <= 0)
+        return;
+    if (!m_brush.hollow)
+        m_painter.fillRect(ToQRect(r), ToQColor(m_brush.color));
+    if (m_pen.style == HmiPenStyle::Null)
+        return;
+    if (m_pen.width > 1) {
+        ApplyPenAndBrush();
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.drawRect(QRect(r.left, r.top, r.Width() - 1, r.Height() - 1));
+        return;
+    }
+    if (r.Width() == 1 || r.Height() == 1) {
+        m_painter.fillRect(ToQRect(r), ToQColor(m_pen.color));
+        return;
+    }
+    // The outline as one closed run of pixels, so that a dotted pattern runs on around it.
+    const HmiPoint corners[] = {{r.left, r.top}, {r.right - 1, r.top}, {r.right - 1, r.bottom - 1}, {r.left, r.bottom - 1}};
+    m_patternPhase = 0;
+    for (int i = 0; i < 4; ++i)
+        DrawThinLine(corners[i], corners[(i + 1) % 4]);
+    m_patternPhase = 0;
+}
+
+void CHmiPainterDC::Ellipse(const HmiRect& rect)
+{
+    const HmiRect r = rect.ForDrawing().Normalized();
+    if (r.Width() <= 0 || r.Height() <= 0)
+        return;
+    ApplyPenAndBrush();
+    m_painter.drawEllipse(QRect(r.left, r.top, r.Width() - 1, r.Height() - 1));
+}
+
+void CHmiPainterDC::Polygon(std::span<const HmiPoint> points)
+{
+    if (points.size() < 2)
+        return;
+    QPolygon polygon;
+    polygon.reserve(int(points.size()));
+    for (const HmiPoint& point : points) {
+        const HmiPoint p = point.ForDrawing();
+        polygon.append(QPoint(p.x, p.y));
+    }
+    ApplyPenAndBrush();
+    m_painter.drawPolygon(polygon, Qt::OddEvenFill);
+}
+
+void CHmiPainterDC::FillSolidRect(const HmiRect& rect, HmiColor color)
+{
+    m_painter.fillRect(ToQRect(rect), ToQColor(color));
+}
+
+void CHmiPainterDC::DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format)
+{
+    const QRect box = ToQRect(rect);
+    int flags = 0;
+    if (format & HMI_DT_CENTER)
+        flags |= Qt::AlignHCenter;
+    else if (format & HMI_DT_RIGHT)
+        flags |= Qt::AlignRight;
+    else
+        flags |= Qt::AlignLeft;
+    const bool singleLine = format & HMI_DT_SINGLELINE;
+    flags |= singleLine && (format & HMI_DT_VCENTER) ? Qt::AlignVCenter : Qt::AlignTop;
+    if (singleLine)
+        flags |= Qt::TextSingleLine;
+    else if (format & HMI_DT_WORDBREAK)
+        flags |= Qt::TextWordWrap;
+    if (!(format & HMI_DT_NOPREFIX))
+        flags |= Qt::TextShowMnemonic;
+
+    const QString string = ToQString(text);
+    m_painter.save();
+    m_painter.setClipRect(box, Qt::IntersectClip);
+    m_painter.setFont(ToQFont(m_font));
+    if (m_bkMode == HmiBkMode::Opaque)
+        m_painter.fillRect(m_painter.boundingRect(box, flags, string), ToQColor(m_bkColor));
+    m_painter.setPen(ToQColor(m_textColor));
+    m_painter.drawText(box, flags, string);
+    m_painter.restore();
+}
+
+HmiPoint CHmiPainterDC::GetTextExtent(std::string_view text)
+{
+    const QFontMetrics metrics(ToQFont(m_font));
+    return {metrics.horizontalAdvance(ToQString(text)), metrics.height()};
+}
+
+bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
+{
+    const QImage* picture = Pictures().Find(path);
+    const QRect target = ToQRect(rect);
+    if (!picture || target.isEmpty())
+        return false;
+    if (!transparent) {
+        m_painter.drawImage(target, *picture);
+        return true;
+    }
+    QImage masked = picture->convertToFormat(QImage::Format_ARGB32);
+    const QRgb key = ToQColor(*transparent).rgb();
+    for (int y = 0; y < masked.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(masked.scanLine(y));
+        for (int x = 0; x < masked.width(); ++x)
+            if ((line[x] | 0xFF000000u) == key)
+                line[x] = 0;
+    }
+    m_painter.drawImage(target, masked);
+    return true;
+}
+
+HmiRect CHmiPainterDC::GetClipBox() const
+{
+    return m_clipBox;
+}

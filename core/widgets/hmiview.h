@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/hmitypes.h"
+
+class CHmiWidget;
+
+// What a widget needs from a canvas that shows it: coordinate conversion between window
+// coordinates (the panel's pixels) and the view's client area, and repainting.
+class CHmiView {
+public:
+    virtual ~CHmiView() = default;
+
+    virtual HmiPoint DocToClient(HmiPoint point) const = 0;
+    virtual HmiPoint ClientToDoc(HmiPoint point) const = 0;
+
+    // Repaints an area given in window coordinates (the view adds room for selection handles).
+    virtual void InvalidateDocRect(const HmiRect& area) = 0;
+    // Repaints the whole view without erasing its background first.
+    virtual void InvalidateView() = 0;
+    // Called before a widget of the shown document is destroyed, so that the view lets go of it.
+    virtual void WidgetRemoved(CHmiWidget* widget) { (void)widget; }
+};

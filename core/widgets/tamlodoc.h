@@ -1,0 +1,135 @@
+#pragma once
+
+#include "base/hmitypes.h"
+#include "hmiwidget.h"
+#include "project/fileio.h"
+#include "undostep.h"
+#include "windowfilecheck.h"
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class CHmiView;
+
+// The main frame's list of widget names (a combo box in the editor), kept in step with the
+// document whose widgets it lists.
+class CWidgetNameList {
+public:
+    virtual ~CWidgetNameList() = default;
+    virtual void AddWidgetName(const std::string& name, bool select) = 0;
+    virtual void RemoveWidgetName(const std::string& name) = 0;
+};
+
+// The document of one HMI window: it owns the window's widgets in drawing order (head first,
+// tail on top), names new widgets, and loads and saves the window file.
+class CTamloDoc {
+public:
+    CTamloDoc() = default;
+    CTamloDoc(const CTamloDoc&) = delete;
+    CTamloDoc& operator=(const CTamloDoc&) = delete;
+    virtual ~CTamloDoc() = default;
+
+    // Makes the document a new window: just a window widget named "window".
+    void OnNewDocument();
+
+    // Initialises the widget and adds it at the tail (else the head). A widget without a name
+    // gets its class key and the next free value of the process-wide name counter. Returns
+    // false, destroying the widget, when it fails to initialise.
+    bool AddWidget(HmiWidgetPtr widget, bool atTail, bool select);
+    // Takes the widget out of the list and destroys it.
+    void RemoveWidget(CHmiWidget* widget);
+    // Takes the widget out of the list and puts it back at an index of the shortened list (the
+    // end at most). False when the widget is not in the list.
+    bool MoveWidget(CHmiWidget* widget, std::size_t index);
+    bool HasWidgetName(std::string_view name) const;
+    const std::deque<HmiWidgetPtr>& Widgets() const { return m_widgets; }
+    // The first widget whose class key is "window", or null.
+    CHmiWidget* GetWindowWidget() const;
+
+    // Replaces the content with the window file at path. A file that cannot be read, is not
+    // XML or has another root leaves the document with just a window widget, and says why.
+    FileResult Load(const std::string& path);
+    // Writes the window file once its text has been found to read back as it stands
+    // (SerializeChecked); on failure the previous file is left whole and the document stays
+    // modified.
+    FileResult Save(const std::string& path);
+    // The window file the document was last loaded from or saved to; empty for a new window.
+    // Pictures are found in its folder.
+    const std::string& GetPathName() const { return m_strPathName; }
+    // Makes path the document's window file without reading it, as for a window whose content
+    // came from elsewhere (a recovery copy) and that saves to its own file.
+    void SetPathName(std::string path) { m_strPathName = std::move(path); }
+    // Where the window's pictures are: the folder of its window file (ending in "/"), unless
+    // another folder was set.
+    std::string GetPictureFolder() const;
+    void SetPictureFolder(std::string folder) { m_strPictureFolder = std::move(folder); }
+    // The window file's bytes.
+    std::string Serialize() const;
+    // The window file's bytes, checked to read back to the same widgets, properties, bindings
+    // and events (CheckWindowFileReadsBack); fails with what cannot be written.
+    FileResult SerializeChecked(std::string& text) const;
+
+    // Views that show this document; not owned.
+    void AddView(CHmiView* view);
+    void RemoveView(CHmiView* view);
+    const std::vector<CHmiView*>& Views() const { return m_views; }
+    // Repaints an area (window coordinates) in every view.
+    void UpdateAllViews(const HmiRect& area) const;
+
+    bool IsModified() const { return m_bModified; }
+    void SetModifiedFlag(bool modified = true)
+    {
+        m_bModified = modified;
+        if (modified)
+            ++m_nRevision;
+    }
+    // Grows each time the document is marked modified, so that an observer can tell whether it
+    // changed since the observer last looked. Saving leaves it as it is.
+    std::uint64_t Revision() const { return m_nRevision; }
+
+    void SetWidgetNameList(CWidgetNameList* list) { m_pNameList = list; }
+    CWidgetNameList* GetWidgetNameList() const { return m_pNameList; }
+
+    // The one-step undo record. Beginning a step discards the previous one, destroying for good
+    // the widgets it deleted. A deleted widget stays in the list until then, so that Undo can
+    // bring it back, but it is neither drawn, hit nor saved.
+    void BeginUndoStep();
+    void RecordUndo(UndoOperation operation, CHmiWidget* widget);
+    // Closes the step; a step that changed anything marks the document modified.
+    void EndUndoStep();
+    // Puts back the rectangles the step changed, brings back the widgets it deleted and removes
+    // the widgets it added; then the step is empty, so a second Undo does nothing.
+    void Undo();
+    bool CanUndo() const { return !m_undoStep.empty(); }
+    bool IsWidgetDeleted(const CHmiWidget* widget) const;
+    const std::vector<HmiUndoEntry>& UndoStep() const { return m_undoStep; }
+
+    // The topmost widget under a point, skipping deleted ones and the window widget, which is
+    // the background of the canvas.
+    CHmiWidget* DocumentHitTest(HmiPoint point) const;
+    // The window widget unless it is deleted.
+    CHmiWidget* FindWindowWidget() const;
+
+    // The counter that numbers new widget names, shared by all documents; starts at 1.
+    static int& WidgetNameCounter();
+
+private:
+    // The widgets that are not deleted, written in drawing order.
+    CWindowFileWriter WriteWidgets() const;
+    void DeleteContents();
+    void DestroyDeletedWidgets();
+    void AddWindowWidget(bool atTail, bool select);
+
+    std::deque<HmiWidgetPtr> m_widgets;
+    std::vector<CHmiView*> m_views;
+    std::string m_strPathName;
+    std::string m_strPictureFolder;
+    CWidgetNameList* m_pNameList = nullptr;
+    bool m_bModified = false;
+    std::uint64_t m_nRevision = 0;
+    std::vector<HmiUndoEntry> m_undoStep;
+    bool m_bUndoStepOpen = false;
+};

@@ -1,0 +1,145 @@
+#include "widgetfilereader.h"
+
+#include "dynamics/dynamictype.h"
+#include "hmiwidgetcustom.h"
+#include "project/readnotices.h"
+#include "project/xmldocument.h"
+
+#include <vector>
+
+namespace {
+
+// Each section reader returns false when the section is malformed, which drops the widget.
+
+bool ReadProperties(CHmiWidget& widget, const XmlElement& section)
+{
+    for (XmlElement property : ChildElements(section)) {
+        if (!property.Is("property"))
+            continue;
+        const std::string name = property.Attribute("name");
+        const std::string type = property.Attribute("type");
+        if (name.empty() || type.empty())
+            return false;
+        widget.SetWidgetProperty(name, type, property.Attribute("value"), property.Attribute("length"));
+    }
+    return true;
+}
+
+bool ReadDynamics(CHmiWidget& widget, const XmlElement& section)
+{
+    for (XmlElement dynamic : ChildElements(section)) {
+        if (!dynamic.Is("dynamic"))
+            continue;
+        const std::string propName = dynamic.Attribute("propname");
+        const std::string expression = dynamic.Attribute("expression");
+        if (propName.empty() || expression.empty())
+            return false;
+        CHmiWidgetProp* prop = widget.AddWidgetDynProp(propName, expression);
+        if (!prop)
+            continue; // no such property: nothing to bind
+        std::unique_ptr<CHmiDynamicType> type = CreateDynamicType(dynamic.Attribute("type"));
+        if (!type)
+            continue;
+        for (XmlElement inner : ChildElements(dynamic)) {
+            if (inner.Is("type_params") || inner.Is("code"))
+                type->ReadInnerElement(inner);
+        }
+        prop->SetDynamicType(std::move(type));
+    }
+    return true;
+}
+
+bool ReadEvents(CHmiWidget& widget, const XmlElement& section)
+{
+    for (XmlElement event : ChildElements(section)) {
+        if (!event.Is("event"))
+            continue;
+        const std::string name = event.Attribute("name");
+        const std::string code = event.Text();
+        if (name.empty() || code.empty())
+            return false;
+        widget.SetWidgetEventCode(name, code);
+    }
+    return true;
+}
+
+HmiWidgetPtr ReadWidget(const XmlElement& element)
+{
+    const std::string classKey = element.Attribute("class");
+    if (classKey.empty())
+        return nullptr;
+    const CHmiRuntimeClass* runtimeClass = CHmiWidget::GetWidgetClass(classKey);
+    HmiWidgetPtr widget = runtimeClass->CreateObject();
+    if (!widget)
+        return nullptr;
+    if (runtimeClass == &CHmiWidgetCustom::classCHmiWidgetCustom)
+        static_cast<CHmiWidgetCustom&>(*widget).ClassName = classKey;
+
+    std::string name = element.Attribute("name");
+    if (name.empty())
+        return nullptr;
+    widget->SetWidgetName(std::move(name));
+
+    for (XmlElement section : ChildElements(element)) {
+        bool ok = true;
+        if (section.Is("properties"))
+            ok = ReadProperties(*widget, section);
+        else if (section.Is("dynamics"))
+            ok = ReadDynamics(*widget, section);
+        else if (section.Is("events"))
+            ok = ReadEvents(*widget, section);
+        if (!ok)
+            return nullptr;
+    }
+    return widget;
+}
+
+} // namespace
+
+FileResult ReadWidgetElements(std::string_view text, const std::function<void(HmiWidgetPtr)>& reader, int& errorLine)
+{
+    XmlChildStream stream(text);
+    const auto failed = [&] {
+        errorLine = stream.ErrorLine();
+        return FileResult::Failure(stream.Error());
+    };
+    if (!stream.IsValid())
+        return failed();
+    if (stream.RootName() != "hmiwidget")
+        return FileResult::Failure("The file is not a window file: its root element is <" + stream.RootName() + ">.");
+    while (XmlElement element = stream.Next()) {
+        if (element.Is("widget"))
+            reader(ReadWidget(element));
+    }
+    return stream.IsValid() ? FileResult::Success() : failed();
+}
+
+FileResult ReadWindowText(std::string_view text, const WidgetSink& sink)
+{
+    // A file that turns out not to be XML at its end gives no widgets at all.
+    std::vector<HmiWidgetPtr> widgets;
+    CReadNoticeCollector notices;
+    int errorLine = 0;
+    FileResult result = ReadWidgetElements(text, [&](HmiWidgetPtr widget) {
+        if (widget)
+            widgets.push_back(std::move(widget));
+    }, errorLine);
+    if (!result)
+        return result;
+    for (HmiWidgetPtr& widget : widgets)
+        sink(std::move(widget));
+    result.notices = notices.Take();
+    return result;
+}
+
+FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
+{
+    std::string bytes;
+    FileResult result = ReadWholeFile(path, bytes);
+    if (!result)
+        return result;
+    result = ReadWindowText(bytes, sink);
+    if (!result)
+        result.error = "Cannot open " + path + ": " + result.error;
+    return result;
+}
