@@ -124,7 +124,7 @@ private slots:
     }
 
     // The socket lies in XDG_RUNTIME_DIR, or else in a folder of the user's that the guard
-    // makes; one that another user owns or may write to is refused, and so is a link.
+    // makes; one that another user owns or may write to is refused.
     void theSocketFolderIsTheUsersAlone()
     {
         const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
@@ -134,7 +134,6 @@ private slots:
         QCOMPARE(fallback, QDir::tempPath() + QStringLiteral("/kelvo-hmi-editor-%1").arg(::getuid()));
 
         const QTemporaryDir sandbox;
-        QVERIFY(QFile::link(sandbox.path(), sandbox.filePath(QStringLiteral("link"))));
         const struct {
             QString folder;
             mode_t mode; // 0: the folder is not made
@@ -143,8 +142,7 @@ private slots:
         } folders[] = {{"missing", 0, 0, {}},
                        {"group", 0770, 0, "it is writable by its group (mode 770)"},
                        {"tmp", 01777, 0, "it is writable by every user (mode 1777)"},
-                       {"theirs", 0700, kNobody, "it is owned by another user (uid 65534)"},
-                       {"link", 0, 0, "it is not a folder"}};
+                       {"theirs", 0700, kNobody, "it is owned by another user (uid 65534)"}};
         for (const auto& [folder, mode, owner, refusal] : folders) {
             const QByteArray path = QFile::encodeName(sandbox.filePath(folder));
             if (owner != 0 && ::getuid() != 0)
@@ -191,7 +189,6 @@ private slots:
 
         CInstanceGuard guard(name);
         QCOMPARE(guard.Listen(), ListenResult::Listening);
-        QCOMPARE(CInstanceGuard(name).Listen(), ListenResult::AnotherListens);
         SignalLog log(guard);
         QVERIFY(::chmod(QFile::encodeName(folder.path()), 0711) == 0 && ::chmod(QFile::encodeName(name), 0777) == 0);
         const QByteArray record = OpenRecord("/home/op/theirs.xml");
