@@ -1,10 +1,10 @@
 #include "modulesfolder.h"
 
 #include "project/openfile.h"
+#include "project/trust.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
@@ -18,26 +18,6 @@
 namespace {
 
 constexpr std::string_view kLibrarySuffix = ".so";
-
-std::string ModeText(mode_t mode)
-{
-    char text[8];
-    std::snprintf(text, sizeof text, "%03o", unsigned(mode & 07777));
-    return text;
-}
-
-// Why code in a file or folder with these attributes must not run as this user; empty when it
-// may. Root's files are trusted, as root could change anything of this user's anyway.
-std::string TrustProblem(const struct stat& info)
-{
-    if (info.st_uid != ::geteuid() && info.st_uid != 0)
-        return "owned by another user (uid " + std::to_string(info.st_uid) + ")";
-    if (info.st_mode & S_IWOTH)
-        return "writable by every user (mode " + ModeText(info.st_mode) + ")";
-    if (info.st_mode & S_IWGRP)
-        return "writable by its group (mode " + ModeText(info.st_mode) + ")";
-    return {};
-}
 
 std::string TrustProblem(const OpenFile& file)
 {

@@ -362,6 +362,19 @@ CChildFrame* CMainFrame::NewDocument()
 
 CChildFrame* CMainFrame::OpenDocument(const QString& path)
 {
+    QString message;
+    CChildFrame* child = OpenDocument(path, message);
+    if (message.isEmpty())
+        return child;
+    if (!child)
+        m_prompts.ShowError(this, message);
+    else // once the window is in place: at start-up the main window is not shown yet
+        QTimer::singleShot(0, this, [this, message] { m_prompts.ShowInformation(this, message); });
+    return child;
+}
+
+CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
+{
     if (path.isEmpty())
         return nullptr;
     const QString absolute = QFileInfo(path).absoluteFilePath();
@@ -372,22 +385,19 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path)
     auto document = std::make_unique<CTamloDoc>();
     const FileResult result = document->Load(ToModelPath(absolute));
     if (!result) {
-        m_prompts.ShowError(this, QString::fromStdString(result.error));
+        message = QString::fromStdString(result.error);
         m_recentFiles.Remove(absolute);
         UpdateRecentFileActions();
         return nullptr;
     }
     m_recentFiles.Add(absolute);
     UpdateRecentFileActions();
-    CChildFrame* child = AddChild(std::move(document));
     if (!result.notices.empty()) {
-        QString text = QStringLiteral("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
+        message = QStringLiteral("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
         for (const std::string& notice : result.notices)
-            text += QStringLiteral("\n\n") + QString::fromStdString(notice);
-        // Once the window is in place: at start-up the main window is not shown yet.
-        QTimer::singleShot(0, this, [this, text] { m_prompts.ShowInformation(this, text); });
+            message += QStringLiteral("\n\n") + QString::fromStdString(notice);
     }
-    return child;
+    return AddChild(std::move(document));
 }
 
 CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
@@ -523,6 +533,9 @@ void CMainFrame::RaiseAndRestore()
         showNormal();
     raise();
     activateWindow();
+    // A message box that is open must not end up behind the window it belongs to.
+    if (QWidget* modal = QApplication::activeModalWidget())
+        modal->raise();
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event)

@@ -41,8 +41,10 @@ public:
 
     CChildFrame* NewDocument();
     // Opens a window file, or shows it if it is open already. Null when it cannot be read
-    // (the user has been told why).
+    // (the user has been told why); the user is also told what to know about a file that opened.
     CChildFrame* OpenDocument(const QString& path);
+    // The same, but what the user should be told goes to message instead.
+    CChildFrame* OpenDocument(const QString& path, QString& message);
     // Shows a document that is in memory already in a new child window.
     CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);
     // The child window that shows the window file, or null.

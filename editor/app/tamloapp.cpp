@@ -2,6 +2,7 @@
 
 #include "childframe.h"
 #include "editorprompts.h"
+#include "handoverqueue.h"
 #include "mainframe.h"
 #include "pathtext.h"
 #include "recoverykeeper.h"
@@ -62,7 +63,8 @@ QString CTamloApp::DemoProjectFolder()
 CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
 {
     const QString fileArgument = FileArgument(arguments);
-    if (!m_guard.Listen() && HandOverToRunningEditor(fileArgument))
+    const CInstanceGuard::ListenResult listening = m_guard.Listen();
+    if (listening == CInstanceGuard::ListenResult::AnotherListens && HandOverToRunningEditor(fileArgument))
         return StartResult::HandedOver;
 
     // Without its state folder the editor only loses the guard against libraries that crash it.
@@ -76,7 +78,8 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);
     m_mainFrame->SetWidgetLibraries(std::move(libraries));
-    connect(&m_guard, &CInstanceGuard::openFileRequested, m_mainFrame.get(), &CMainFrame::OpenDocument);
+    auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
+    connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, &CHandOverQueue::Add);
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 
@@ -90,6 +93,9 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     if (!started)
         return StartResult::Failed;
     m_mainFrame->show();
+    if (listening == CInstanceGuard::ListenResult::Failed)
+        m_prompts.ShowError(m_mainFrame.get(), QStringLiteral("Later starts of the editor cannot hand their files "
+                                                              "to this one:\n%1").arg(m_guard.FailureReason()));
     StartRecovery();
     return m_ended ? StartResult::Ended : StartResult::Started;
 }

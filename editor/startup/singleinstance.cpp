@@ -1,9 +1,17 @@
 #include "singleinstance.h"
 
+#include "project/trust.h"
+
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocalSocket>
+#include <QRegularExpression>
 #include <QtEndian>
 
+#include <cerrno>
+#include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -13,6 +21,14 @@ constexpr qint64 kHeaderSize = 2 * sizeof(quint32);
 constexpr quint32 kMaxTextLength = 64 * 1024;
 // Connecting to a local socket fails at once when nobody listens; this only bounds a busy peer.
 constexpr int kProbeTimeoutMs = 1000;
+// A sender writes its record as soon as it is connected; a connection that stays silent this
+// long is stuck or hostile, and only holds a file descriptor.
+constexpr int kIdleTimeoutMs = 3000;
+// Connections read at the same time. A new one beyond these drops the oldest, so that a flood
+// of connections neither exhausts the file descriptors nor locks a real sender out for long.
+constexpr qsizetype kMaxOpenConnections = 32;
+// How often a listener that an error closed tries to listen again.
+constexpr int kListenerCheckMs = 1000;
 
 QByteArray EncodeRecord(quint32 identifier, const QByteArray& text)
 {
@@ -24,18 +40,62 @@ QByteArray EncodeRecord(quint32 identifier, const QByteArray& text)
     return record;
 }
 
-bool SomeoneListens(const QString& serverName)
+// True when the process at the other end of the connection runs as this user.
+bool PeerIsThisUser(const QLocalSocket& socket)
+{
+    ucred peer = {};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(int(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           peer.uid == ::getuid();
+}
+
+bool AnEditorOfThisUserListens(const QString& serverName)
 {
     QLocalSocket probe;
     probe.connectToServer(serverName);
-    return probe.waitForConnected(kProbeTimeoutMs);
+    return probe.waitForConnected(kProbeTimeoutMs) && PeerIsThisUser(probe);
+}
+
+// Creates the folder for this user alone when it is missing. Empty when the folder may hold
+// the socket; otherwise why not, in words for the user. A folder that others may write to
+// would let them put their own socket in place of the editor's.
+QString PrivateFolderProblem(const QString& folder)
+{
+    const QByteArray local = QFile::encodeName(folder);
+    if (::mkdir(local.constData(), 0700) != 0 && errno != EEXIST)
+        return QStringLiteral("Cannot create %1: %2").arg(folder, qt_error_string(errno));
+    struct stat info;
+    if (::lstat(local.constData(), &info) != 0)
+        return QStringLiteral("Cannot use %1: %2").arg(folder, qt_error_string(errno));
+    const std::string problem = S_ISDIR(info.st_mode) ? TrustProblem(info) : "not a folder";
+    return problem.empty() ? QString()
+                           : QStringLiteral("Cannot use %1: it is %2").arg(folder, QString::fromStdString(problem));
+}
+
+// The display as a part of a file name. Every start in one session finds the same display in
+// its environment; the screen number of an X display (":0.1") does not make another display.
+QString DisplayScope(const QString& platform)
+{
+    QString scope = platform;
+    if (platform == QLatin1String("xcb")) {
+        static const QRegularExpression screenNumber(QStringLiteral("(:\\d+)\\.\\d+$"));
+        scope += QLatin1Char('-') + qEnvironmentVariable("DISPLAY").replace(screenNumber, QStringLiteral("\\1"));
+    } else if (platform.startsWith(QLatin1String("wayland"))) {
+        scope = QStringLiteral("wayland-") + qEnvironmentVariable("WAYLAND_DISPLAY", QStringLiteral("wayland-0"));
+    }
+    // Percent-encoding keeps different displays apart and slashes out of the name.
+    return QString::fromLatin1(scope.toUtf8().toPercentEncoding());
 }
 
 } // namespace
 
-QString CInstanceGuard::ServerName(const QString& base)
+QString CInstanceGuard::ServerName(const QString& base, const QString& platform)
 {
-    return base + QLatin1Char('_') + QString::number(::getuid());
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const QString folder = QDir::isAbsolutePath(runtime)
+                               ? QDir::cleanPath(runtime)
+                               : QDir::tempPath() + QStringLiteral("/kelvo-hmi-editor-%1").arg(::getuid());
+    return folder + QLatin1Char('/') + base + QLatin1Char('-') + DisplayScope(platform);
 }
 
 CInstanceGuard::CInstanceGuard(const QString& serverName, QObject* parent)
@@ -43,18 +103,36 @@ CInstanceGuard::CInstanceGuard(const QString& serverName, QObject* parent)
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, &CInstanceGuard::AcceptConnections);
+    m_listenerCheck.setInterval(kListenerCheckMs);
+    connect(&m_listenerCheck, &QTimer::timeout, this, &CInstanceGuard::ListenAgainAfterError);
 }
 
-bool CInstanceGuard::Listen()
+CInstanceGuard::ListenResult CInstanceGuard::Listen()
 {
     if (m_server.isListening())
-        return true;
-    // Listening with user-only access puts the new socket file over any old one, a running
-    // editor's included, so the name is only taken over when nobody answers on it.
-    if (SomeoneListens(m_name))
-        return false;
+        return ListenResult::Listening;
+    m_failureReason = PrivateFolderProblem(QFileInfo(m_name).path());
+    if (!m_failureReason.isEmpty())
+        return ListenResult::Failed;
+    // Listening puts the new socket file over any old one, a running editor's included, so the
+    // name is only taken over when no editor of this user answers on it.
+    if (AnEditorOfThisUserListens(m_name))
+        return ListenResult::AnotherListens;
     QLocalServer::removeServer(m_name);
-    return m_server.listen(m_name);
+    if (!m_server.listen(m_name)) {
+        m_failureReason = QStringLiteral("Cannot listen on %1: %2").arg(m_name, m_server.errorString());
+        return ListenResult::Failed;
+    }
+    m_listenerCheck.start();
+    return ListenResult::Listening;
+}
+
+// The listener closes for good, and removes its socket file, when accepting a connection fails,
+// as it does once the process has run out of file descriptors; it tells nobody.
+void CInstanceGuard::ListenAgainAfterError()
+{
+    if (!m_server.isListening() && Listen() == ListenResult::AnotherListens)
+        m_listenerCheck.stop(); // a later start took the name over meanwhile
 }
 
 bool CInstanceGuard::HandOver(const QString& serverName, const QByteArray& path, int timeoutMs)
@@ -67,7 +145,7 @@ bool CInstanceGuard::SendRecord(const QString& serverName, quint32 identifier, c
 {
     QLocalSocket socket;
     socket.connectToServer(serverName);
-    if (!socket.waitForConnected(timeoutMs))
+    if (!socket.waitForConnected(timeoutMs) || !PeerIsThisUser(socket))
         return false;
     const QByteArray record = EncodeRecord(identifier, text);
     if (socket.write(record) != record.size() || !socket.waitForBytesWritten(timeoutMs))
@@ -80,8 +158,17 @@ bool CInstanceGuard::SendRecord(const QString& serverName, quint32 identifier, c
 void CInstanceGuard::AcceptConnections()
 {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+        if (!PeerIsThisUser(*socket)) {
+            delete socket;
+            continue;
+        }
+        if (m_connections.size() == kMaxOpenConnections)
+            m_connections.takeFirst()->abort();
+        m_connections.append(socket);
+        connect(socket, &QObject::destroyed, this, [this, socket] { m_connections.removeOne(socket); });
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] { ReadRecord(socket); });
+        QTimer::singleShot(kIdleTimeoutMs, socket, &QLocalSocket::abort);
         ReadRecord(socket);
     }
 }

@@ -26,6 +26,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <functional>
+
 namespace {
 
 const QString kDemo = QFileInfo(QStringLiteral(KELVO_DEMO_DIR)).canonicalFilePath();
@@ -165,7 +167,7 @@ private slots:
             {Arguments(QLatin1Char('*') + kDemo + QStringLiteral("*pumps.xml")), QStringLiteral("/pumps.xml")},
             {{QStringLiteral("kelvo-hmi-editor")}, QStringLiteral("/main.xml")}};
         for (const auto& [arguments, window] : starts) {
-            CTamloApp editor(prompts, QStringLiteral("project-test"));
+            CTamloApp editor(prompts, sandbox.filePath(QStringLiteral("project-test")));
             QCOMPARE(editor.Start(arguments), CTamloApp::StartResult::Started);
             QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
             QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + window);
@@ -175,7 +177,7 @@ private slots:
 
     void aFileThatCannotBeOpenedFailsTheStart()
     {
-        CTamloApp editor(prompts, QStringLiteral("missing-test"));
+        CTamloApp editor(prompts, sandbox.filePath(QStringLiteral("missing-test")));
         prompts.errors.clear();
         QCOMPARE(editor.Start(Arguments(sandbox.filePath("none.xml"))), CTamloApp::StartResult::Failed);
         QCOMPARE(prompts.errors.size(), 1);
@@ -201,6 +203,33 @@ private slots:
         QTRY_COMPARE(ActiveFile(*first.MainFrame()), kDemo + QStringLiteral("/trends.xml"));
         QCOMPARE(first.MainFrame()->Children().size(), 3);
         QCOMPARE(GetProjectPath(), project);
+    }
+
+    // A burst of starts hands over files that cannot be opened and then one that can: the
+    // failures are told in one message, or in one more after it, never in a message box opened
+    // inside another one. The user closes the first message once the good file is open.
+    void aBurstOfHandOversGivesOneMessage()
+    {
+        struct : ScriptedPrompts {
+            void ShowError(QWidget* parent, const QString& text) override
+            {
+                ScriptedPrompts::ShowError(parent, text);
+                deepest = std::max(deepest, ++depth);
+                QVERIFY(QTest::qWaitFor(closed, 20000)); // the events a message box runs
+                --depth;
+            }
+            std::function<bool()> closed = [] { return true; };
+            int depth = 0, deepest = 0;
+        } modal;
+        CTamloApp editor(modal, sandbox.filePath(QStringLiteral("burst")));
+        QCOMPARE(editor.Start(Arguments(kDemo + QStringLiteral("/main.xml"))), CTamloApp::StartResult::Started);
+        const QString good = kDemo + QStringLiteral("/pumps.xml"), missing = sandbox.filePath("missing.xml");
+        modal.closed = [&] { return ActiveFile(*editor.MainFrame()) == good; };
+        for (int i = 0; i < 40; ++i) // the listener's backlog holds them until its event loop runs
+            QVERIFY(CInstanceGuard::HandOver(sandbox.filePath("burst"), QFile::encodeName(i < 39 ? missing : good)));
+        QTRY_VERIFY(modal.closed());
+        QCOMPARE(modal.deepest, 1);
+        QVERIFY(!modal.errors.isEmpty() && modal.errors.size() <= 2 && modal.errors.first().contains(missing));
     }
 };
 
