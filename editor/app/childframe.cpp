@@ -42,6 +42,7 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
 // The view goes before the document it shows.
 CChildFrame::~CChildFrame()
 {
+    emit closing();
     delete widget();
 }
 

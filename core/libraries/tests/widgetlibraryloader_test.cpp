@@ -118,10 +118,10 @@ TEST_F(LoaderTest, AMissingOrEmptyFolderGivesJustTheBuiltIns)
 {
     const TempDir dir;
     for (const std::string& folder : {dir.Path("absent"), dir.Path("")}) {
+        const CRegistryScope empty(CRegistryScope::Start::Empty);
         EXPECT_TRUE(Load(folder).libraries.empty()) << folder;
         EXPECT_EQ(CHmiWidget::WidgetClassList.size(), kBuiltinCount) << folder;
         EXPECT_TRUE(RegisteredWidgetLibs().empty()) << folder;
-        Clear();
     }
 }
 
