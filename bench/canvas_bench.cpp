@@ -106,7 +106,7 @@ void FillDocument(CTamloDoc& document, int widgetCount)
         widget->SetWidgetRect({x, y, x + kind.width, y + kind.height});
         if (std::string_view(kind.key) == "picture")
             widget->SetWidgetProperty("filename", "string", "logo.png", "32");
-        document.AddWidget(std::move(widget), true, false);
+        document.AddWidget(std::move(widget), true);
     }
 }
 
@@ -201,7 +201,7 @@ void FillWithHugeWidgets(CTamloDoc& document)
         widget->SetWidgetRect({-kHugeCoordinate, -kHugeCoordinate, kHugeCoordinate, kHugeCoordinate});
         for (const char* count : {"hlines", "vlines", "xpoints"})
             widget->SetWidgetProperty(count, "ushort", kHugeCount, "");
-        document.AddWidget(std::move(widget), true, false);
+        document.AddWidget(std::move(widget), true);
     }
 }
 

@@ -2,9 +2,14 @@
 
 #include "widgets/catalogue/hmiwidgetwindow.h"
 
+bool IsWindowWidget(const CHmiWidget& widget)
+{
+    return dynamic_cast<const CHmiWidgetWindow*>(&widget) != nullptr;
+}
+
 HmiPoint CanvasOrigin(const CHmiWidget& widget)
 {
-    if (dynamic_cast<const CHmiWidgetWindow*>(&widget))
+    if (IsWindowWidget(widget))
         return {widget.GetWidgetRect().left, widget.GetWidgetRect().top};
     return {};
 }

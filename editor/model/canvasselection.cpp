@@ -6,17 +6,43 @@
 #include "widgets/core/tamlodoc.h"
 
 #include <algorithm>
+#include <utility>
 
-CCanvasSelection::CCanvasSelection(CTamloDoc& document, CHmiView& view) : m_document(document), m_view(view) {}
+namespace {
+
+// A selection change of more widgets than this repaints the whole canvas: their handles would
+// cost more as so many separate areas.
+constexpr std::size_t kTrackersRepaintedOneByOne = 32;
+
+} // namespace
+
+CCanvasSelection::CCanvasSelection(CTamloDoc& document, CHmiView& view) : m_document(document), m_view(view)
+{
+    m_document.AddObserver(this);
+}
+
+CCanvasSelection::~CCanvasSelection()
+{
+    m_document.RemoveObserver(this);
+}
 
 bool CCanvasSelection::IsSelected(const CHmiWidget* widget) const
 {
     return std::find(m_widgets.begin(), m_widgets.end(), widget) != m_widgets.end();
 }
 
-void CCanvasSelection::InvalidateWidget(const CHmiWidget& widget) const
+void CCanvasSelection::InvalidateTrackers(const std::vector<CHmiWidget*>& widgets) const
 {
-    m_view.InvalidateDocRect(CanvasRect(widget).Normalized());
+    if (widgets.size() > kTrackersRepaintedOneByOne)
+        return m_view.InvalidateView();
+    for (const CHmiWidget* widget : widgets) {
+        const HmiPoint origin = CanvasOrigin(*widget);
+        for (int handle = 1; handle <= widget->GetHandleCount(); ++handle) {
+            const HmiRect square = widget->GetHandleRect(handle, &m_view);
+            m_view.InvalidateDocRect(
+                {square.left - origin.x, square.top - origin.y, square.right - origin.x, square.bottom - origin.y});
+        }
+    }
 }
 
 void CCanvasSelection::Select(CHmiWidget* widget, bool add)
@@ -25,7 +51,7 @@ void CCanvasSelection::Select(CHmiWidget* widget, bool add)
         if (CHmiWidget* window = m_document.FindWindowWidget(); window && window != widget)
             Remove(window);
     } else {
-        m_view.InvalidateView();
+        InvalidateTrackers(m_widgets);
         m_widgets.clear();
     }
     if (widget && IsSelected(widget))
@@ -34,7 +60,7 @@ void CCanvasSelection::Select(CHmiWidget* widget, bool add)
         widget = m_document.FindWindowWidget();
     if (widget) {
         m_widgets.push_back(widget);
-        InvalidateWidget(*widget);
+        InvalidateTrackers({widget});
     }
     if (m_onChanged)
         m_onChanged();
@@ -51,7 +77,7 @@ bool CCanvasSelection::Remove(CHmiWidget* widget)
     const auto found = std::find(m_widgets.begin(), m_widgets.end(), widget);
     if (found == m_widgets.end())
         return false;
-    InvalidateWidget(*widget);
+    InvalidateTrackers({widget});
     m_widgets.erase(found);
     return true;
 }
@@ -64,14 +90,36 @@ void CCanvasSelection::SelectInRect(const HmiRect& clientRect, bool add)
     const HmiPoint bottomRight = m_view.ClientToDoc({clientRect.right, clientRect.bottom});
     const HmiRect band = HmiRect{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y}.Normalized();
     // The window widget is the background: a band around everything selects what stands on it.
-    const CHmiWidget* window = m_document.FindWindowWidget();
+    CHmiWidget* window = m_document.FindWindowWidget();
+    std::vector<CHmiWidget*> inside;
     for (const HmiWidgetPtr& widget : m_document.Widgets()) {
-        if (widget.get() != window && !m_document.IsWidgetDeleted(widget.get()) && widget->Intersects(band))
-            Select(widget.get(), true);
+        if (widget.get() != window && !m_document.IsWidgetDeleted(widget.get()) && widget->Intersects(band) &&
+            !IsSelected(widget.get()))
+            inside.push_back(widget.get());
     }
+    if (inside.empty())
+        return;
+    Remove(window);
+    m_widgets.insert(m_widgets.end(), inside.begin(), inside.end());
+    InvalidateTrackers(inside);
+    if (m_onChanged)
+        m_onChanged();
 }
 
-void CCanvasSelection::Forget(const CHmiWidget* widget)
+void CCanvasSelection::DocumentChanged(const CDocumentChange& change)
 {
-    std::erase(m_widgets, widget);
+    std::size_t forgotten = 0;
+    if (change.Has(DocChange::Reloaded)) {
+        forgotten = std::exchange(m_widgets, {}).size();
+    } else if (change.Has(DocChange::Removed)) {
+        for (const HmiWidgetChange& entry : change.widgets)
+            if (HasAny(entry.what, DocChange::Removed))
+                forgotten += std::erase(m_widgets, entry.widget);
+    }
+    if (forgotten == 0)
+        return;
+    if (m_widgets.empty())
+        Select(nullptr, false);
+    else if (m_onChanged)
+        m_onChanged();
 }

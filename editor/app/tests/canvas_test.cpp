@@ -96,7 +96,6 @@ private slots:
 
         // Dragging one moves all; the title and the pane follow, and Ctrl+Z takes the move back.
         document->SetModifiedFlag(false);
-        child->RefreshTitle();
         Drag(view, QPoint(20, 20), QPoint(35, 25));
         QCOMPARE(RectOf(a), (HmiRect{25, 15, 65, 55}));
         QVERIFY(child->isWindowModified());
@@ -234,7 +233,7 @@ private slots:
         auto gradient = std::make_unique<CHmiWidgetGradRect>();
         gradient->SetWidgetRect({-300, 40, 900, 700});
         gradient->m_nDirection = 44;
-        document->AddWidget(HmiWidgetPtr(gradient.release()), true, false);
+        document->AddWidget(HmiWidgetPtr(gradient.release()), true);
         AddRect(*document, {150, -20, 2000, 130});
         view->Selection().Deselect(document->GetWindowWidget());
         CHmiImageDC rendered(1024, 768);
