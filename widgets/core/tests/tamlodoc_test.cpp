@@ -186,19 +186,17 @@ std::string KindsOf(DocChange what)
 }
 
 // What an observer heard, a line per change: the document's own kinds, then each widget with
-// its kinds and, when it moved, where it stood before. Removed widgets are read while told.
+// its kinds and, when it moved, the top-left corner it had. Removed widgets are read while told.
 struct RecordingObserver : CDocumentObserver {
     void DocumentChanged(const CDocumentChange& change) override
     {
         std::string line;
         DocChange ofWidgets = DocChange::None;
-        for (const HmiWidgetChange& entry : change.widgets) {
-            ofWidgets |= entry.what;
-            line += " " + entry.widget->GetWidgetName() + ":" + KindsOf(entry.what);
-            const HmiRect& r = entry.rectBefore;
-            if (HasAny(entry.what, DocChange::Geometry))
-                line += "<" + std::to_string(r.left) + "," + std::to_string(r.top) + "," + std::to_string(r.right) +
-                        "," + std::to_string(r.bottom);
+        for (const auto& [widget, what, before] : change.widgets) {
+            ofWidgets |= what;
+            line += " " + widget->GetWidgetName() + ":" + KindsOf(what);
+            if (HasAny(what, DocChange::Geometry))
+                line += "<" + std::to_string(before.left) + "," + std::to_string(before.top);
         }
         heard.push_back(KindsOf(DocChange(std::uint16_t(change.what) & ~std::uint16_t(ofWidgets))) + ";" + line);
     }
@@ -260,15 +258,15 @@ TEST_F(TamloDocTest, EveryEditIsToldOnceAndCountsARevision)
         {"removing", none, [](EditedWindow& w) { w.doc.RemoveWidget(w.a); }, {"modified; a:removed"}, true},
         {"reordering", none, [](EditedWindow& w) { w.doc.MoveWidget(w.a, 3); }, {"modified; a:order"}, true},
         {"a widget moving itself", none, [](EditedWindow& w) { w.a->MoveTo({0, 0, 5, 5}, nullptr); },
-         {"modified; a:geometry<10,10,50,50"}, true},
+         {"modified; a:geometry<10,10"}, true},
         {"a drag in one undo step", none, [](EditedWindow& w) { w.DragBoth(); },
-         {"modified; a:geometry<10,10,50,50 b:geometry<60,10,90,40"}, true},
+         {"modified; a:geometry<10,10 b:geometry<60,10"}, true},
         {"a click", none, [](EditedWindow& w) { CUndoStepGuard(w.doc).Record(UndoOperation::Changed, w.a); }, {},
          false},
         {"deleting", none, [](EditedWindow& w) { w.Delete(w.a); }, {"modified; a:removed"}, true},
         {"pasting", none, [](EditedWindow& w) { w.Paste(); }, {"modified; c:added"}, true},
         {"undoing a drag", [](EditedWindow& w) { w.DragBoth(); }, [](EditedWindow& w) { w.doc.Undo(); },
-         {"; b:geometry<65,15,95,45 a:geometry<15,15,55,55"}, true},
+         {"; b:geometry<65,15 a:geometry<15,15"}, true},
         {"undoing a deletion", [](EditedWindow& w) { w.Delete(w.b); }, [](EditedWindow& w) { w.doc.Undo(); },
          {"; b:added"}, true},
         {"undoing a paste", [](EditedWindow& w) { w.Paste(); }, [](EditedWindow& w) { w.doc.Undo(); },
@@ -278,9 +276,7 @@ TEST_F(TamloDocTest, EveryEditIsToldOnceAndCountsARevision)
              w.a->SetWidgetRect({20, 10, 60, 50});
              w.doc.WidgetChanged(*w.a, DocChange::Properties, {10, 10, 50, 50});
          },
-         {"modified; a:geometry+properties<10,10,50,50"}, true},
-        {"binding", none, [](EditedWindow& w) { w.doc.WidgetChanged(*w.b, DocChange::Bindings); },
-         {"modified; b:bindings"}, true},
+         {"modified; a:geometry+properties<10,10"}, true},
         {"loading", none, [&file](EditedWindow& w) { w.doc.Load(file); }, {"reloaded;"}, true},
         {"saving", [](EditedWindow& w) { w.doc.SetModifiedFlag(); },
          [this](EditedWindow& w) { w.doc.Save(dir.Path("saved.xml")); }, {"modified;"}, false},
