@@ -26,6 +26,9 @@ constexpr int kCanvasMargin = 8;
 // A repaint during a drag that covers more than this part of the canvas copies the canvas drawn
 // once instead of drawing it.
 constexpr int kLargeRepaintDivisor = 16;
+// A change of more widgets than this repaints the whole canvas: so many separate areas would
+// cost more to gather than to paint.
+constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
 
 QRect ToQRect(const HmiRect& rect)
 {
@@ -134,21 +137,19 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
 {
     constexpr DocChange kDrawn =
         DocChange::Geometry | DocChange::Properties | DocChange::Added | DocChange::Removed | DocChange::Order;
-    bool background = change.Has(DocChange::Reloaded);
+    const auto isBackground = [](const HmiWidgetChange& entry) {
+        return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
+    };
+    const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
+    if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne) {
+        FitToWindow();
+        return InvalidateView();
+    }
     for (const HmiWidgetChange& entry : change.widgets) {
-        if (!HasAny(entry.what, kDrawn))
-            continue;
-        if (IsWindowWidget(*entry.widget)) {
-            background = true;
-            continue;
-        }
         if (HasAny(entry.what, DocChange::Geometry))
             InvalidateDocRect(entry.rectBefore);
-        InvalidateDocRect(entry.widget->GetWidgetRect());
-    }
-    if (background) {
-        FitToWindow();
-        InvalidateView();
+        if (HasAny(entry.what, kDrawn))
+            InvalidateDocRect(entry.widget->GetWidgetRect());
     }
 }
 

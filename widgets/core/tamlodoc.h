@@ -33,7 +33,7 @@ public:
     // gets its class key and the next free value of the process-wide name counter. Returns
     // false, destroying the widget, when it fails to initialise.
     bool AddWidget(HmiWidgetPtr widget, bool atTail);
-    // Takes the widget out of the list and destroys it.
+    // Takes the widget out of the list and destroys it once the observers have heard of it.
     void RemoveWidget(CHmiWidget* widget);
     // Takes the widget out of the list and puts it back at an index of the shortened list (the
     // end at most). False when the widget is not in the list.
@@ -81,6 +81,7 @@ public:
     void WidgetChanged(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore);
 
     bool IsModified() const { return m_bModified; }
+    // The observers hear of the flag when it changes.
     void SetModifiedFlag(bool modified = true);
     // Grows each time the document is marked modified, so that an observer can tell whether it
     // changed since the observer last looked. Saving leaves it as it is.
