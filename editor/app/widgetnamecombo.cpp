@@ -10,6 +10,9 @@
 
 namespace {
 
+// A change of more widgets than this lists the names anew, at less cost than finding each.
+constexpr std::size_t kNamesPlacedOneByOne = 64;
+
 QString DisplayName(const CHmiWidget& widget)
 {
     return QString::fromStdString(Gb2312ToUtf8OrKeep(widget.GetWidgetName()));
@@ -77,14 +80,22 @@ void CWidgetNameCombo::SelectWidget(const CHmiWidget* widget)
 
 void CWidgetNameCombo::DocumentChanged(const CDocumentChange& change)
 {
-    if (change.Has(DocChange::Reloaded))
-        return ListWidgets();
     const QSignalBlocker quiet(this);
     const CHmiWidget* current = WidgetAt(currentIndex());
+    if (change.Has(DocChange::Reloaded) || change.widgets.size() > kNamesPlacedOneByOne)
+        ListWidgets();
+    else
+        Follow(change.widgets);
+    if (const int index = FindWidget(current); index >= 0)
+        setCurrentIndex(index);
+}
+
+void CWidgetNameCombo::Follow(const std::vector<HmiWidgetChange>& changed)
+{
     // Widgets that came, went or moved in the drawing order are taken off the list and put back
     // where they now stand; the list holds the others in drawing order all along.
     std::vector<const CHmiWidget*> placed;
-    for (const HmiWidgetChange& entry : change.widgets) {
+    for (const HmiWidgetChange& entry : changed) {
         const int index = FindWidget(entry.widget);
         if (HasAny(entry.what, DocChange::Added | DocChange::Removed | DocChange::Order)) {
             placed.push_back(entry.widget);
@@ -96,8 +107,6 @@ void CWidgetNameCombo::DocumentChanged(const CDocumentChange& change)
     }
     if (!placed.empty())
         PutBack(placed);
-    if (const int index = FindWidget(current); index >= 0)
-        setCurrentIndex(index);
 }
 
 void CWidgetNameCombo::PutBack(const std::vector<const CHmiWidget*>& widgets)

@@ -32,6 +32,8 @@ signals:
 private:
     int FindWidget(const CHmiWidget* widget) const;
     void ListWidgets();
+    // Adds, removes, renames and moves the names of the changed widgets.
+    void Follow(const std::vector<HmiWidgetChange>& changed);
     // Lists those of the widgets that are part of the window at their places in the drawing
     // order, the list holding every other widget of the window already.
     void PutBack(const std::vector<const CHmiWidget*>& widgets);
