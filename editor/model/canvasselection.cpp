@@ -6,6 +6,7 @@
 #include "widgets/core/tamlodoc.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 namespace {
@@ -38,9 +39,12 @@ void CCanvasSelection::InvalidateTrackers(const std::vector<CHmiWidget*>& widget
     for (const CHmiWidget* widget : widgets) {
         const HmiPoint origin = CanvasOrigin(*widget);
         for (int handle = 1; handle <= widget->GetHandleCount(); ++handle) {
-            const HmiRect square = widget->GetHandleRect(handle, &m_view);
-            m_view.InvalidateDocRect(
-                {square.left - origin.x, square.top - origin.y, square.right - origin.x, square.bottom - origin.y});
+            // The view repaints room for the handle's square around its point. A window file may
+            // put a widget anywhere: the point is held to the drawing range first.
+            const HmiPoint point = widget->GetHandle(handle);
+            const std::int32_t x = HmiDrawingCoordinate(std::int64_t(point.x) - origin.x);
+            const std::int32_t y = HmiDrawingCoordinate(std::int64_t(point.y) - origin.y);
+            m_view.InvalidateDocRect({x, y, x, y});
         }
     }
 }

@@ -283,8 +283,8 @@ TEST_F(TamloDocTest, EveryEditIsToldOnceAndCountsARevision)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
+        RecordingObserver observer; // outlives the document, which tells it that it goes
         EditedWindow window;
-        RecordingObserver observer;
         window.doc.AddObserver(&observer);
         row.prepare(window);
         observer.heard.clear();
