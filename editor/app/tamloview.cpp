@@ -30,6 +30,12 @@ constexpr int kLargeRepaintDivisor = 16;
 // cost more to gather than to paint.
 constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
 
+// The window widget is the canvas's background: a change of it changes everything drawn.
+bool IsBackground(const CHmiWidget& widget)
+{
+    return widget.GetWidgetClassName() == "window";
+}
+
 QRect ToQRect(const HmiRect& rect)
 {
     const HmiRect r = rect.ForDrawing().Normalized();
@@ -138,7 +144,7 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
     constexpr DocChange kDrawn =
         DocChange::Geometry | DocChange::Properties | DocChange::Added | DocChange::Removed | DocChange::Order;
     const auto isBackground = [](const HmiWidgetChange& entry) {
-        return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
+        return HasAny(entry.what, kDrawn) && IsBackground(*entry.widget);
     };
     const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
     if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne) {

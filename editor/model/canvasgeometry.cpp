@@ -2,14 +2,9 @@
 
 #include "widgets/catalogue/hmiwidgetwindow.h"
 
-bool IsWindowWidget(const CHmiWidget& widget)
-{
-    return dynamic_cast<const CHmiWidgetWindow*>(&widget) != nullptr;
-}
-
 HmiPoint CanvasOrigin(const CHmiWidget& widget)
 {
-    if (IsWindowWidget(widget))
+    if (dynamic_cast<const CHmiWidgetWindow*>(&widget))
         return {widget.GetWidgetRect().left, widget.GetWidgetRect().top};
     return {};
 }

@@ -7,8 +7,6 @@ class CHmiWidget;
 // The canvas draws the window widget from its origin, wherever the window stands on the panel,
 // so the tools see the window's rectangle as (0, 0, width, height). Points given to the window
 // widget's own hit-testing and handle dragging are shifted by its position to match.
-// Whether the widget is a window widget, which the canvas draws as its background.
-bool IsWindowWidget(const CHmiWidget& widget);
 HmiPoint CanvasOrigin(const CHmiWidget& widget);
 HmiRect CanvasRect(const CHmiWidget& widget);
 // A point on the canvas in the coordinates of the widget's own rectangle.
