@@ -3,6 +3,7 @@
 #include "editor/canvascontrols/canvascontrols.h"
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
+#include "widgets/core/documentchange.h"
 #include "widgets/core/hmiview.h"
 
 #include <QImage>
@@ -78,7 +79,7 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
-    QImage m_dragBackdrop; // the canvas as it stood when the drag began
+    QImage m_dragBackdrop; // the canvas drawn once for a drag whose rectangles cover much of it
     QMenu* m_contextMenu = nullptr;
     bool m_painting = false;
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes
