@@ -37,12 +37,20 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
     setAttribute(Qt::WA_DeleteOnClose);
     m_view->Selection().Select(nullptr, false);
     RefreshTitle();
+    m_document->AddObserver(this);
 }
 
 // The view goes before the document it shows.
 CChildFrame::~CChildFrame()
 {
+    m_document->RemoveObserver(this);
     delete widget();
+}
+
+void CChildFrame::DocumentChanged(const CDocumentChange& change)
+{
+    if (change.Has(DocChange::Modified))
+        RefreshTitle();
 }
 
 QString CChildFrame::FilePath() const

@@ -108,7 +108,7 @@ TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
     doc.SetPictureFolder("/project");
     auto* picture = new CHmiWidgetPic;
     picture->SetWidgetRect({1, 2, 30, 40});
-    doc.AddWidget(HmiWidgetPtr(picture), true, false);
+    doc.AddWidget(HmiWidgetPtr(picture), true);
     const RecordingDC frame = DrawnBy(*picture);
     ASSERT_EQ(frame.shapes.size(), 1u);
     EXPECT_EQ(frame.shapes[0].kind, "rectangle");
@@ -133,7 +133,7 @@ TEST(Picture, ATypedPathIsCopiedIntoTheProjectOrChangesNothing)
     CTamloDoc doc;
     doc.SetPictureFolder(dir.Path("project/"));
     auto* picture = new CHmiWidgetPic;
-    doc.AddWidget(HmiWidgetPtr(picture), true, false);
+    doc.AddWidget(HmiWidgetPtr(picture), true);
     MemoryOptionTree tree;
     picture->CreateWidgetPropertyTree(tree);
     MemoryOptionItem* file = tree.Find("filename", "Picture");

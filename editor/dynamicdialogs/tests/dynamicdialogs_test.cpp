@@ -93,7 +93,7 @@ private:
         HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(classKey)->CreateObject();
         widget->SetWidgetRect({10, 10, 60, 40});
         m_widget = widget.get();
-        m_document->AddWidget(std::move(widget), true, false);
+        m_document->AddWidget(std::move(widget), true);
         m_document->SetModifiedFlag(false);
         m_widget->CreateWidgetPropertyTree(m_tree);
         m_row = m_tree.Find(caption, root);

@@ -100,6 +100,16 @@ void ChooseVariable(QDialog& dialog, const QString& node, int row = -1)
         ClickCell(list, list.model()->index(row, 1));
 }
 
+// Shows the rows of edited widgets again when the document tells of the edit, as the property
+// pane does.
+struct RowRefresher : CDocumentObserver {
+    void DocumentChanged(const CDocumentChange& change) override
+    {
+        for (const HmiWidgetChange& entry : change.widgets)
+            entry.widget->UpdateTreeByWidgetProp();
+    }
+};
+
 } // namespace
 
 class ProjectDialogsTest : public QObject {
@@ -150,6 +160,7 @@ private:
     CHmiWidget* m_widget = nullptr;
     MemoryOptionItem* m_row = nullptr;
     ProjectContext m_context;
+    RowRefresher m_rows;
 
 private slots:
     void initTestCase() { RegisterBuiltinWidgetClasses(); }
@@ -164,6 +175,7 @@ private slots:
             QVERIFY(QFile::copy(demo.filePath(name), m_project->filePath(name)));
         SetProjectPath(QFile::encodeName(m_project->path()).toStdString());
         m_document = std::make_unique<CTamloDoc>();
+        m_document->AddObserver(&m_rows);
         m_tree = std::make_unique<MemoryOptionTree>();
         m_widget = nullptr;
         m_context = {};
