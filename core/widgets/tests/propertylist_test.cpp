@@ -65,9 +65,8 @@ TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
 {
     const auto basicRows = tree.ChildrenOf(tree.Find("Basic properties"));
     ASSERT_EQ(basicRows.size(), 14u);
-    EXPECT_EQ(basicRows[0]->editText, "gauge1");
-    EXPECT_EQ(basicRows[5]->editText, "40") << "width";
-    EXPECT_EQ(basicRows[6]->editText, "50") << "height";
+    EXPECT_EQ(std::tuple(basicRows[0]->editText, basicRows[5]->editText, basicRows[6]->editText),
+              std::tuple("gauge1", "40", "50")) << "name, width and height";
 
     const auto gaugeRows = tree.ChildrenOf(tree.Find("Gauge"));
     ASSERT_EQ(gaugeRows.size(), 3u) << "an unknown item type builds no row";

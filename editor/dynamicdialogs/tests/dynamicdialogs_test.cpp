@@ -320,7 +320,6 @@ private slots:
             PressOk(dialog);
         }));
         const std::string code = "a();\r\nb();\r\nc();\r\nd();\r\nsetvalue(var, value)\r\nbeep()";
-        QCOMPARE(m_widget->GetEvents()[0].code, code);
         QCOMPARE(SavedSection("events"),
                  "\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[" + code + "]]>\n\t\t\t</event>\r\n");
 
