@@ -1,7 +1,7 @@
-// Measures the canvas on a crowded window: a full repaint, and a rubber-band selection with the
-// repaints that follow it, against plain rectangles drawn through the same painter; and a full
-// repaint of a window whose widgets are as large, and whose counts as high, as a window file can
-// make them. Prints figures only; nothing here is a pass or a fail.
+// Measures the canvas on a crowded window: a full repaint, a rubber-band selection and a drag of
+// one widget with the repaints that follow them, against plain rectangles drawn through the same
+// painter; and a full repaint of a window whose widgets are as large, and whose counts as high, as
+// a window file can make them. Prints figures only; nothing here is a pass or a fail.
 
 #include "editor/app/tamloview.h"
 #include "catalogue/builtinwidgets.h"
@@ -27,8 +27,10 @@ constexpr int kWindowWidth = 1920;
 constexpr int kWindowHeight = 1080;
 constexpr int kRepaintRepetitions = 7;
 constexpr int kBandRepetitions = 5;
-// Mouse moves between the press and the release of one rubber-band drag.
+// Mouse moves between the press and the release of one rubber-band drag or widget drag.
 constexpr int kBandMoves = 12;
+// How far one widget drag takes the widget, to the right and down.
+constexpr int kWidgetDragDistance = 120;
 // The press lands in the empty margin below and right of the window, where no widget is.
 constexpr int kPressInset = 2;
 // The band ends this fraction of the window from its top-left corner, so that it encloses most widgets.
@@ -104,20 +106,25 @@ void FillDocument(CTamloDoc& document, int widgetCount)
         widget->SetWidgetRect({x, y, x + kind.width, y + kind.height});
         if (std::string_view(kind.key) == "picture")
             widget->SetWidgetProperty("filename", "string", "logo.png", "32");
-        document.AddWidget(std::move(widget), true, false);
+        document.AddWidget(std::move(widget), true);
     }
 }
 
-// Counts the paint events a widget receives, to show that a drag really repainted the canvas.
+// Counts the paint events a widget receives and the pixels they repaint, to show that a drag
+// really repainted the canvas, and how much of it.
 class PaintCounter : public QObject {
 public:
     int count = 0;
+    qint64 pixels = 0;
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint)
-            ++count;
+        if (event->type() != QEvent::Paint)
+            return false;
+        ++count;
+        for (const QRect& rect : static_cast<QPaintEvent*>(event)->region())
+            pixels += qint64(rect.width()) * rect.height();
         return false;
     }
 };
@@ -144,6 +151,39 @@ void DragRubberBand(CTamloView& view)
     QCoreApplication::processEvents();
 }
 
+// One drag of a widget by its middle, letting the event loop repaint after every event. Drags
+// take the widget there and back in turns, so that it stays inside the window.
+void DragWidget(CTamloView& view, const CHmiWidget& widget, bool back)
+{
+    const HmiRect& rect = widget.GetWidgetRect();
+    const QPoint from((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+    const QPoint distance = back ? -QPoint(kWidgetDragDistance, kWidgetDragDistance)
+                                 : QPoint(kWidgetDragDistance, kWidgetDragDistance);
+    SendMouse(view, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    for (int step = 1; step <= kBandMoves; ++step) {
+        SendMouse(view, QEvent::MouseMove, from + distance * step / kBandMoves, Qt::NoButton, Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+    SendMouse(view, QEvent::MouseButtonRelease, from + distance, Qt::LeftButton, Qt::NoButton);
+    QCoreApplication::processEvents();
+}
+
+// A rectangle in the window's top-left quarter, brought to the top of the drawing order, so
+// that a press on it takes it wherever it stands. The offscreen screen is smaller than the
+// window, and only what lies on it is repainted.
+const CHmiWidget& WidgetToDrag(CTamloDoc& document)
+{
+    const HmiRect corner{0, 0, kWindowWidth / 4, kWindowHeight / 4};
+    CHmiWidget& widget = **std::find_if(document.Widgets().begin(), document.Widgets().end(),
+                                        [&corner](const HmiWidgetPtr& widget) {
+                                            return widget->GetWidgetClassName() == "rectangle" &&
+                                                   widget->Intersects(corner);
+                                        });
+    document.MoveWidget(&widget, document.Widgets().size());
+    return widget;
+}
+
 void PrintRow(int widgetCount, const char* label, const Timing& timing, const Timing& baseline)
 {
     std::printf("%7d  %-26s %9.2f %9.2f %9.1fx\n", widgetCount, label, timing.median, timing.min,
@@ -161,7 +201,7 @@ void FillWithHugeWidgets(CTamloDoc& document)
         widget->SetWidgetRect({-kHugeCoordinate, -kHugeCoordinate, kHugeCoordinate, kHugeCoordinate});
         for (const char* count : {"hlines", "vlines", "xpoints"})
             widget->SetWidgetProperty(count, "ushort", kHugeCount, "");
-        document.AddWidget(std::move(widget), true, false);
+        document.AddWidget(std::move(widget), true);
     }
 }
 
@@ -218,13 +258,28 @@ void MeasureCanvas(int widgetCount)
         DragRubberBand(view);
         ++drags;
     });
+    const std::size_t banded = view.Selection().Widgets().size();
+    const int bandPaints = paints.count / drags;
+
+    // The band left most widgets selected, and a press on a selected widget drags them all.
+    view.Selection().Select(nullptr, false);
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    paints.pixels = 0;
+    drags = 0;
+    const CHmiWidget& dragged = WidgetToDrag(document);
+    const Timing widgetDrag = Measure(kBandRepetitions, [&] { DragWidget(view, dragged, drags++ % 2 == 1); });
     view.removeEventFilter(&paints);
 
     PrintRow(widgetCount, "plain rectangles", baseline, baseline);
     PrintRow(widgetCount, "full canvas repaint", repaint, baseline);
     PrintRow(widgetCount, "rubber band with repaints", band, baseline);
-    std::printf("%7s  (the band selects %zu of %d widgets; %d repaints per drag)\n", "",
-                view.Selection().Widgets().size(), widgetCount, paints.count / drags);
+    std::printf("%7s  (the band selects %zu of %d widgets; %d repaints per drag)\n", "", banded, widgetCount,
+                bandPaints);
+    PrintRow(widgetCount, "one widget dragged", widgetDrag, baseline);
+    const qint64 canvasPixels = qint64(view.width()) * view.height();
+    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area)\n", "", paints.count / drags,
+                double(paints.pixels) / drags / double(canvasPixels));
 }
 
 } // namespace

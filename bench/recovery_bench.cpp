@@ -52,7 +52,7 @@ std::unique_ptr<CTamloDoc> Document(int widgetCount)
         const int x = (i * 37) % 1000;
         const int y = (i * 53) % 700;
         widget->SetWidgetRect({x, y, x + 40, y + 20});
-        document->AddWidget(std::move(widget), true, false);
+        document->AddWidget(std::move(widget), true);
     }
     return document;
 }

@@ -59,7 +59,7 @@ void FillDocument(CTamloDoc& doc, int widgetCount)
         }
         if (i % 5 == 0)
             widget->SetWidgetEventCode("click", "setvar(\"$plc.x1\", 1);\nshowwindow(\"main\");");
-        doc.AddWidget(std::move(widget), true, false);
+        doc.AddWidget(std::move(widget), true);
     }
 }
 

@@ -55,7 +55,7 @@ void FuzzWindowFile(const std::uint8_t* data, std::size_t size)
     }();
     (void)registered;
     CTamloDoc document;
-    ReadWindowText(Text(data, size), [&](HmiWidgetPtr widget) { document.AddWidget(std::move(widget), false, false); });
+    ReadWindowText(Text(data, size), [&](HmiWidgetPtr widget) { document.AddWidget(std::move(widget), false); });
     // Drawn into a small image, as the canvas would show its corner: the work must follow the
     // image however large the widgets and their counts are (text is left out without fonts).
     CHmiImageDC image(64, 48);

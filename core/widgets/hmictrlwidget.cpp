@@ -9,10 +9,16 @@ CHmiCtrlWidget::~CHmiCtrlWidget() = default;
 
 void CHmiCtrlWidget::Draw(CHmiDC& dc)
 {
-    if (!m_pControl) {
+    if (!m_pControl)
         DrawWithoutControl(dc);
-        return;
-    }
+    else if (PlaceControl() && m_pView)
+        m_pView->InvalidateView();
+}
+
+bool CHmiCtrlWidget::PlaceControl()
+{
+    if (!m_pControl)
+        return false;
     HmiRect wanted = m_rect;
     if (m_pView) {
         const HmiPoint topLeft = m_pView->DocToClient({m_rect.left, m_rect.top});
@@ -20,10 +26,9 @@ void CHmiCtrlWidget::Draw(CHmiDC& dc)
         wanted = {topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
     }
     if (m_pControl->GetClientRect() == wanted)
-        return;
+        return false;
     m_pControl->MoveTo(wanted);
-    if (m_pView)
-        m_pView->InvalidateView();
+    return true;
 }
 
 void CHmiCtrlWidget::DrawWithoutControl(CHmiDC&) {}

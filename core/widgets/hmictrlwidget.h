@@ -29,6 +29,9 @@ public:
     // Keeps the widget's control in step with the widget's rectangle, or draws the still
     // picture when there is no control.
     void Draw(CHmiDC& dc) override;
+    // Moves the control to the widget's rectangle in its view's client coordinates. False when
+    // it stands there already, or there is no control.
+    bool PlaceControl();
 
     // Hands the widget the control created for it; the widget owns it from then on.
     void SetCtrlWndProc(std::unique_ptr<CHmiControl> control);

@@ -2,8 +2,6 @@
 
 #include "base/hmitypes.h"
 
-class CHmiWidget;
-
 // What a widget needs from a canvas that shows it: coordinate conversion between window
 // coordinates (the panel's pixels) and the view's client area, and repainting.
 class CHmiView {
@@ -17,6 +15,4 @@ public:
     virtual void InvalidateDocRect(const HmiRect& area) = 0;
     // Repaints the whole view without erasing its background first.
     virtual void InvalidateView() = 0;
-    // Called before a widget of the shown document is destroyed, so that the view lets go of it.
-    virtual void WidgetRemoved(CHmiWidget* widget) { (void)widget; }
 };

@@ -232,24 +232,15 @@ void CHmiWidget::MoveTo(const HmiRect& rect, CHmiView* view)
 {
     if (rect == m_rect)
         return;
-    InvalidateArea(m_rect, view);
+    const HmiRect before = m_rect;
     m_rect = rect.Normalized();
-    InvalidateArea(m_rect, view);
-    if (m_pDocument)
-        m_pDocument->SetModifiedFlag();
-}
-
-void CHmiWidget::InvalidateArea(const HmiRect& area, CHmiView* view) const
-{
-    if (view)
-        view->InvalidateDocRect(area);
-    else if (m_pDocument)
-        m_pDocument->UpdateAllViews(area);
-}
-
-void CHmiWidget::Invalidate() const
-{
-    InvalidateArea(m_rect, nullptr);
+    // A document's views repaint both areas when they hear of the change.
+    if (m_pDocument) {
+        m_pDocument->WidgetChanged(*this, DocChange::Geometry, before);
+    } else if (view) {
+        view->InvalidateDocRect(before);
+        view->InvalidateDocRect(m_rect);
+    }
 }
 
 void CHmiWidget::DrawTracker(CHmiDC& dc, TrackerState state) const

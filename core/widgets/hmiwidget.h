@@ -134,8 +134,6 @@ public:
     void SetWidgetName(std::string name) { m_strName = std::move(name); }
     // A handle's square of 7 by 7 view pixels around its point, in window coordinates.
     HmiRect GetHandleRect(int handle, const CHmiView* view) const;
-    // Repaints this widget in every view of its document.
-    void Invalidate() const;
     // Copies the base state into another widget of the same class (not the name).
     void CopyTo(CHmiWidget& other) const;
     // Binds the first property of that exact name to an expression; null if there is none.
@@ -234,10 +232,8 @@ protected:
 
 private:
     void DeclareBasicProperties();
-    void InvalidateArea(const HmiRect& area, CHmiView* view) const;
     void WriteDynamics(std::string& archive) const;
     void WriteEvents(std::string& archive) const;
     COptionTreeItem* CreatePropItem(CHmiWidgetProp& prop);
     void RefreshPropItem(const CHmiWidgetProp& prop) const;
-    void ApplyEditedRect(const HmiRect& rect);
 };

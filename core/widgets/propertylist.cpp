@@ -4,7 +4,6 @@
 
 #include "base/numberparsers.h"
 #include "optiontree.h"
-#include "tamlodoc.h"
 
 #include <optional>
 
@@ -221,14 +220,6 @@ CHmiWidgetProp* CHmiWidget::GetWidgetPropByTreeItem(const COptionTreeItem* item)
     return nullptr;
 }
 
-void CHmiWidget::ApplyEditedRect(const HmiRect& rect)
-{
-    // Unlike MoveTo, an edit in the list is taken as typed: a negative width stays inverted.
-    Invalidate();
-    m_rect = rect;
-    Invalidate();
-}
-
 void CHmiWidget::UpdateWidgetPropByTree(COptionTreeItem* item)
 {
     CHmiWidgetProp* prop = GetWidgetPropByTreeItem(item);
@@ -238,12 +229,7 @@ void CHmiWidget::UpdateWidgetPropByTree(COptionTreeItem* item)
     const std::int32_t number = HmiDecimalToLong(item->GetEditText());
     HmiRect rect = m_rect;
     if (name == "name") {
-        std::string newName = item->GetEditText();
-        if (CWidgetNameList* list = m_pDocument ? m_pDocument->GetWidgetNameList() : nullptr) {
-            list->RemoveWidgetName(m_strName);
-            list->AddWidgetName(newName, true);
-        }
-        m_strName = std::move(newName);
+        m_strName = item->GetEditText();
     } else if (name == "left") {
         rect.left = number;
         rect.right = number + m_rect.Width();
@@ -277,9 +263,7 @@ void CHmiWidget::UpdateWidgetPropByTree(COptionTreeItem* item)
     } else {
         return;
     }
-    if (rect != m_rect)
-        ApplyEditedRect(rect);
-    if (m_pDocument)
-        m_pDocument->SetModifiedFlag();
+    // Unlike MoveTo, an edit in the list is taken as typed: a negative width stays inverted.
+    m_rect = rect;
     UpdateTreeByWidgetProp();
 }

@@ -1,7 +1,5 @@
 #include "tamlodoc.h"
 
-#include "hmictrlwidget.h"
-#include "hmiview.h"
 #include "hmiwidgetwindow.h"
 #include "widgetfilereader.h"
 #include "windowfilecheck.h"
@@ -9,43 +7,140 @@
 #include <algorithm>
 #include <utility>
 
+// Collects the changes of one operation, such as a load or an Undo, and tells them as one.
+class CTamloDoc::CChangeBatch {
+public:
+    explicit CChangeBatch(CTamloDoc& document) : m_document(document) { ++m_document.m_nBatchDepth; }
+    ~CChangeBatch()
+    {
+        --m_document.m_nBatchDepth;
+        m_document.SendChange();
+    }
+    CChangeBatch(const CChangeBatch&) = delete;
+    CChangeBatch& operator=(const CChangeBatch&) = delete;
+
+private:
+    CTamloDoc& m_document;
+};
+
 int& CTamloDoc::WidgetNameCounter()
 {
     static int counter = 1;
     return counter;
 }
 
-void CTamloDoc::DeleteContents()
+CTamloDoc::~CTamloDoc()
 {
-    if (m_pNameList) {
-        for (const HmiWidgetPtr& widget : m_widgets)
-            m_pNameList->RemoveWidgetName(widget->GetWidgetName());
-    }
-    m_undoStep.clear();
-    for (const HmiWidgetPtr& widget : m_widgets)
-        for (CHmiView* view : m_views)
-            view->WidgetRemoved(widget.get());
-    m_widgets.clear();
+    for (CDocumentObserver* observer : std::exchange(m_observers, {}))
+        observer->DocumentDestroyed();
 }
 
-void CTamloDoc::AddWindowWidget(bool atTail, bool select)
+void CTamloDoc::AddObserver(CDocumentObserver* observer)
+{
+    if (std::find(m_observers.begin(), m_observers.end(), observer) == m_observers.end())
+        m_observers.push_back(observer);
+}
+
+void CTamloDoc::RemoveObserver(CDocumentObserver* observer)
+{
+    std::erase(m_observers, observer);
+}
+
+void CTamloDoc::Record(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore)
+{
+    // A reloaded document has no widget changes to tell: every widget is new.
+    if (!m_change.Has(DocChange::Reloaded)) {
+        m_change.what |= what;
+        const auto known = std::find_if(m_change.widgets.begin(), m_change.widgets.end(),
+                                        [&widget](const HmiWidgetChange& entry) { return entry.widget == &widget; });
+        if (known == m_change.widgets.end())
+            m_change.widgets.push_back({&widget, what, rectBefore});
+        else
+            known->what |= what; // the rectangle before stays the one before the first change
+    }
+    SendChange();
+}
+
+void CTamloDoc::Record(CHmiWidget& widget, DocChange what)
+{
+    Record(widget, what, widget.GetWidgetRect());
+}
+
+void CTamloDoc::SendChange()
+{
+    if (IsCollecting())
+        return;
+    if (m_bModified != m_bModifiedTold) {
+        m_bModifiedTold = m_bModified;
+        m_change.what |= DocChange::Modified;
+    }
+    if (m_change.what != DocChange::None) {
+        const CDocumentChange change = std::exchange(m_change, {});
+        // An observer may go or come while another one is told.
+        const std::vector<CDocumentObserver*> observers = m_observers;
+        for (CDocumentObserver* observer : observers)
+            if (std::find(m_observers.begin(), m_observers.end(), observer) != m_observers.end())
+                observer->DocumentChanged(change);
+    }
+    m_removedWidgets.clear();
+}
+
+void CTamloDoc::WidgetChanged(CHmiWidget& widget, DocChange what)
+{
+    WidgetChanged(widget, what, widget.GetWidgetRect());
+}
+
+void CTamloDoc::WidgetChanged(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore)
+{
+    CChangeBatch batch(*this);
+    if (widget.GetWidgetRect() != rectBefore)
+        what |= DocChange::Geometry;
+    Record(widget, what, rectBefore);
+    SetModifiedFlag();
+}
+
+void CTamloDoc::SetModifiedFlag(bool modified)
+{
+    m_bModified = modified;
+    if (modified)
+        ++m_nRevision;
+    SendChange();
+}
+
+void CTamloDoc::DeleteContents()
+{
+    m_change = {DocChange::Reloaded, {}};
+    m_undoStep.clear();
+    while (!m_widgets.empty())
+        TakeOut(m_widgets.begin());
+}
+
+void CTamloDoc::TakeOut(std::deque<HmiWidgetPtr>::iterator widget)
+{
+    m_removedWidgets.push_back(std::move(*widget));
+    m_widgets.erase(widget);
+}
+
+void CTamloDoc::AddWindowWidget(bool atTail)
 {
     HmiWidgetPtr window(new CHmiWidgetWindow);
     window->SetWidgetName(kWindowClassKey);
-    AddWidget(std::move(window), atTail, select);
+    AddWidget(std::move(window), atTail);
 }
 
 void CTamloDoc::OnNewDocument()
 {
+    CChangeBatch batch(*this);
     DeleteContents();
-    AddWindowWidget(true, true);
+    AddWindowWidget(true);
     m_bModified = false;
 }
 
-bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, bool select)
+bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
 {
     if (!widget || !widget->Init())
         return false;
+    CChangeBatch batch(*this);
     CHmiWidget& added = *widget;
     if (atTail)
         m_widgets.push_back(std::move(widget));
@@ -60,8 +155,7 @@ bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, bool select)
         while (HasWidgetName(name));
         added.SetWidgetName(std::move(name));
     }
-    if (m_pNameList)
-        m_pNameList->AddWidgetName(added.GetWidgetName(), select);
+    Record(added, DocChange::Added);
     SetModifiedFlag();
     return true;
 }
@@ -72,28 +166,26 @@ void CTamloDoc::RemoveWidget(CHmiWidget* widget)
                                     [widget](const HmiWidgetPtr& w) { return w.get() == widget; });
     if (found == m_widgets.end())
         return;
-    if (m_pNameList)
-        m_pNameList->RemoveWidgetName(widget->GetWidgetName());
-    widget->Invalidate();
-    for (CHmiView* view : m_views)
-        view->WidgetRemoved(widget);
+    CChangeBatch batch(*this);
     std::erase_if(m_undoStep, [widget](const HmiUndoEntry& entry) { return entry.widget == widget; });
-    m_widgets.erase(found);
+    TakeOut(found);
+    Record(*widget, DocChange::Removed);
     SetModifiedFlag();
 }
 
 void CTamloDoc::DestroyDeletedWidgets()
 {
-    std::vector<CHmiWidget*> deleted;
-    for (const HmiUndoEntry& entry : m_undoStep)
-        if (entry.operation == UndoOperation::Deleted)
-            deleted.push_back(entry.widget);
+    // The observers were told of their removal when they were deleted.
+    for (const HmiUndoEntry& entry : m_undoStep) {
+        if (entry.operation != UndoOperation::Deleted)
+            continue;
+        const auto found = std::find_if(m_widgets.begin(), m_widgets.end(),
+                                        [&entry](const HmiWidgetPtr& w) { return w.get() == entry.widget; });
+        if (found != m_widgets.end())
+            TakeOut(found);
+    }
     m_undoStep.clear();
-    // Their names left the name list when they were deleted.
-    CWidgetNameList* nameList = std::exchange(m_pNameList, nullptr);
-    for (CHmiWidget* widget : deleted)
-        RemoveWidget(widget);
-    m_pNameList = nameList;
+    SendChange();
 }
 
 void CTamloDoc::BeginUndoStep()
@@ -107,24 +199,20 @@ void CTamloDoc::RecordUndo(UndoOperation operation, CHmiWidget* widget)
     if (!m_bUndoStepOpen || !widget)
         return;
     m_undoStep.push_back({operation, widget->GetWidgetRect(), widget});
-    if (operation == UndoOperation::Deleted) {
-        if (m_pNameList)
-            m_pNameList->RemoveWidgetName(widget->GetWidgetName());
-        if (auto* control = dynamic_cast<CHmiCtrlWidget*>(widget))
-            control->Hide();
-        widget->Invalidate();
-    }
+    if (operation == UndoOperation::Deleted)
+        Record(*widget, DocChange::Removed);
 }
 
 void CTamloDoc::EndUndoStep()
 {
-    m_bUndoStepOpen = false;
     // A click records its widget too, with the rectangle unchanged: that alone is no edit.
     const bool changed = std::any_of(m_undoStep.begin(), m_undoStep.end(), [](const HmiUndoEntry& entry) {
         return entry.operation != UndoOperation::Changed || entry.rectBefore != entry.widget->GetWidgetRect();
     });
     if (changed)
         SetModifiedFlag();
+    m_bUndoStepOpen = false;
+    SendChange();
 }
 
 bool CTamloDoc::IsWidgetDeleted(const CHmiWidget* widget) const
@@ -136,6 +224,7 @@ bool CTamloDoc::IsWidgetDeleted(const CHmiWidget* widget) const
 
 void CTamloDoc::Undo()
 {
+    CChangeBatch batch(*this);
     m_bUndoStepOpen = false;
     const std::vector<HmiUndoEntry> step = std::exchange(m_undoStep, {});
     if (step.empty())
@@ -144,14 +233,13 @@ void CTamloDoc::Undo()
         CHmiWidget* widget = entry->widget;
         switch (entry->operation) {
         case UndoOperation::Changed:
-            widget->Invalidate();
-            widget->SetWidgetRect(entry->rectBefore);
-            widget->Invalidate();
+            if (widget->GetWidgetRect() != entry->rectBefore) {
+                Record(*widget, DocChange::Geometry);
+                widget->SetWidgetRect(entry->rectBefore);
+            }
             break;
         case UndoOperation::Deleted:
-            if (m_pNameList)
-                m_pNameList->AddWidgetName(widget->GetWidgetName(), false);
-            widget->Invalidate();
+            Record(*widget, DocChange::Added);
             break;
         case UndoOperation::Added:
             RemoveWidget(widget);
@@ -183,9 +271,11 @@ bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
                                     [widget](const HmiWidgetPtr& w) { return w.get() == widget; });
     if (found == m_widgets.end())
         return false;
+    CChangeBatch batch(*this);
     HmiWidgetPtr moved = std::move(*found);
     m_widgets.erase(found);
     m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
+    Record(*widget, DocChange::Order);
     SetModifiedFlag();
     return true;
 }
@@ -207,17 +297,16 @@ CHmiWidget* CTamloDoc::GetWindowWidget() const
 
 FileResult CTamloDoc::Load(const std::string& path)
 {
+    CChangeBatch batch(*this);
     DeleteContents();
     m_strPathName = path;
     const FileResult result =
         ReadWindowFile(path, [this](HmiWidgetPtr widget) {
             widget->m_pView = m_views.empty() ? nullptr : m_views.front();
-            AddWidget(std::move(widget), false, false);
+            AddWidget(std::move(widget), false);
         });
     if (!GetWindowWidget())
-        AddWindowWidget(false, false);
-    for (CHmiView* view : m_views)
-        view->InvalidateView();
+        AddWindowWidget(false);
     m_bModified = false;
     return result;
 }
@@ -253,8 +342,8 @@ FileResult CTamloDoc::Save(const std::string& path)
     else
         result = WriteFileAtomically(path, text);
     if (result) {
-        m_bModified = false;
         m_strPathName = path;
+        SetModifiedFlag(false);
     }
     return result;
 }
@@ -276,12 +365,6 @@ void CTamloDoc::AddView(CHmiView* view)
 void CTamloDoc::RemoveView(CHmiView* view)
 {
     std::erase(m_views, view);
-}
-
-void CTamloDoc::UpdateAllViews(const HmiRect& area) const
-{
-    for (CHmiView* view : m_views)
-        view->InvalidateDocRect(area);
 }
 
 CUndoStepGuard::CUndoStepGuard(CTamloDoc& document) : m_document(document)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/hmitypes.h"
+#include "documentchange.h"
 #include "hmiwidget.h"
 #include "project/fileio.h"
 #include "undostep.h"
@@ -14,23 +15,16 @@
 
 class CHmiView;
 
-// The main frame's list of widget names (a combo box in the editor), kept in step with the
-// document whose widgets it lists.
-class CWidgetNameList {
-public:
-    virtual ~CWidgetNameList() = default;
-    virtual void AddWidgetName(const std::string& name, bool select) = 0;
-    virtual void RemoveWidgetName(const std::string& name) = 0;
-};
-
 // The document of one HMI window: it owns the window's widgets in drawing order (head first,
-// tail on top), names new widgets, and loads and saves the window file.
+// tail on top), names new widgets, and loads and saves the window file. It tells its observers
+// of every change (documentchange.h), so that each view refreshes only what changed.
 class CTamloDoc {
 public:
     CTamloDoc() = default;
     CTamloDoc(const CTamloDoc&) = delete;
     CTamloDoc& operator=(const CTamloDoc&) = delete;
-    virtual ~CTamloDoc() = default;
+    // Tells the observers that are left that the document goes.
+    virtual ~CTamloDoc();
 
     // Makes the document a new window: just a window widget named "window".
     void OnNewDocument();
@@ -38,8 +32,8 @@ public:
     // Initialises the widget and adds it at the tail (else the head). A widget without a name
     // gets its class key and the next free value of the process-wide name counter. Returns
     // false, destroying the widget, when it fails to initialise.
-    bool AddWidget(HmiWidgetPtr widget, bool atTail, bool select);
-    // Takes the widget out of the list and destroys it.
+    bool AddWidget(HmiWidgetPtr widget, bool atTail);
+    // Takes the widget out of the list and destroys it once the observers have heard of it.
     void RemoveWidget(CHmiWidget* widget);
     // Takes the widget out of the list and puts it back at an index of the shortened list (the
     // end at most). False when the widget is not in the list.
@@ -76,29 +70,30 @@ public:
     void AddView(CHmiView* view);
     void RemoveView(CHmiView* view);
     const std::vector<CHmiView*>& Views() const { return m_views; }
-    // Repaints an area (window coordinates) in every view.
-    void UpdateAllViews(const HmiRect& area) const;
+
+    // Observers are told of each change once it is complete; not owned.
+    void AddObserver(CDocumentObserver* observer);
+    void RemoveObserver(CDocumentObserver* observer);
+    // Tells the observers that an edit changed the widget, and marks the document modified. A
+    // widget whose rectangle is no longer rectBefore has changed its geometry too. Within an
+    // undo step the changes are collected and told once, when the step ends.
+    void WidgetChanged(CHmiWidget& widget, DocChange what);
+    void WidgetChanged(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore);
 
     bool IsModified() const { return m_bModified; }
-    void SetModifiedFlag(bool modified = true)
-    {
-        m_bModified = modified;
-        if (modified)
-            ++m_nRevision;
-    }
+    // The observers hear of the flag when it changes.
+    void SetModifiedFlag(bool modified = true);
     // Grows each time the document is marked modified, so that an observer can tell whether it
     // changed since the observer last looked. Saving leaves it as it is.
     std::uint64_t Revision() const { return m_nRevision; }
-
-    void SetWidgetNameList(CWidgetNameList* list) { m_pNameList = list; }
-    CWidgetNameList* GetWidgetNameList() const { return m_pNameList; }
 
     // The one-step undo record. Beginning a step discards the previous one, destroying for good
     // the widgets it deleted. A deleted widget stays in the list until then, so that Undo can
     // bring it back, but it is neither drawn, hit nor saved.
     void BeginUndoStep();
     void RecordUndo(UndoOperation operation, CHmiWidget* widget);
-    // Closes the step; a step that changed anything marks the document modified.
+    // Closes the step; a step that changed anything marks the document modified. The step's
+    // changes are told as one.
     void EndUndoStep();
     // Puts back the rectangles the step changed, brings back the widgets it deleted and removes
     // the widgets it added; then the step is empty, so a second Undo does nothing.
@@ -117,19 +112,33 @@ public:
     static int& WidgetNameCounter();
 
 private:
+    class CChangeBatch;
+
     // The widgets that are not deleted, written in drawing order.
     CWindowFileWriter WriteWidgets() const;
     void DeleteContents();
     void DestroyDeletedWidgets();
-    void AddWindowWidget(bool atTail, bool select);
+    void AddWindowWidget(bool atTail);
+    // Takes the widget out of the list; it lives on until its removal has been told.
+    void TakeOut(std::deque<HmiWidgetPtr>::iterator widget);
+    // Adds to the change being collected, and tells it unless more is to come.
+    void Record(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore);
+    void Record(CHmiWidget& widget, DocChange what);
+    bool IsCollecting() const { return m_bUndoStepOpen || m_nBatchDepth > 0; }
+    // Tells the observers the change collected so far, unless an undo step or a batch is open.
+    void SendChange();
 
     std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
+    std::vector<CDocumentObserver*> m_observers;
     std::string m_strPathName;
     std::string m_strPictureFolder;
-    CWidgetNameList* m_pNameList = nullptr;
     bool m_bModified = false;
+    bool m_bModifiedTold = false; // the flag as the observers last heard of it
     std::uint64_t m_nRevision = 0;
     std::vector<HmiUndoEntry> m_undoStep;
     bool m_bUndoStepOpen = false;
+    int m_nBatchDepth = 0;
+    CDocumentChange m_change;                  // collected, not told yet
+    std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed once told
 };

@@ -3,7 +3,12 @@
 #include "hmictrlwidget.h"
 #include "tamlodoc.h"
 
-void DrawWindow(const CTamloDoc& document, CHmiDC& dc)
+#include <algorithm>
+
+namespace {
+
+template <typename Shown>
+void DrawWidgets(const CTamloDoc& document, CHmiDC& dc, Shown shown)
 {
     // Loading reverses the list, so the window widget may stand anywhere in it.
     CHmiWidget* window = document.FindWindowWidget();
@@ -12,9 +17,31 @@ void DrawWindow(const CTamloDoc& document, CHmiDC& dc)
     for (const HmiWidgetPtr& widget : document.Widgets()) {
         if (widget.get() == window)
             continue;
-        if (!document.IsWidgetDeleted(widget.get()))
-            widget->Draw(dc);
-        else if (auto* control = dynamic_cast<CHmiCtrlWidget*>(widget.get()))
+        if (!document.IsWidgetDeleted(widget.get())) {
+            if (shown(*widget))
+                widget->Draw(dc);
+        } else if (auto* control = dynamic_cast<CHmiCtrlWidget*>(widget.get())) {
             control->Hide();
+        }
     }
+}
+
+bool Meets(const HmiRect& a, const HmiRect& b)
+{
+    return a.left <= b.right && b.left <= a.right && a.top <= b.bottom && b.top <= a.bottom;
+}
+
+} // namespace
+
+void DrawWindow(const CTamloDoc& document, CHmiDC& dc)
+{
+    DrawWidgets(document, dc, [](const CHmiWidget&) { return true; });
+}
+
+void DrawWindow(const CTamloDoc& document, CHmiDC& dc, std::span<const HmiRect> areas)
+{
+    DrawWidgets(document, dc, [areas](const CHmiWidget& widget) {
+        const HmiRect rect = widget.GetWidgetRect().Normalized();
+        return std::any_of(areas.begin(), areas.end(), [&rect](const HmiRect& area) { return Meets(rect, area); });
+    });
 }

@@ -37,13 +37,21 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
     setAttribute(Qt::WA_DeleteOnClose);
     m_view->Selection().Select(nullptr, false);
     RefreshTitle();
+    m_document->AddObserver(this);
 }
 
 // The view goes before the document it shows.
 CChildFrame::~CChildFrame()
 {
     emit closing();
+    m_document->RemoveObserver(this);
     delete widget();
+}
+
+void CChildFrame::DocumentChanged(const CDocumentChange& change)
+{
+    if (change.Has(DocChange::Modified))
+        RefreshTitle();
 }
 
 QString CChildFrame::FilePath() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/documentchange.h"
+
 #include <QMdiSubWindow>
 
 #include <memory>
@@ -9,8 +11,9 @@ class CTamloDoc;
 class CTamloView;
 
 // The child window of one open HMI window: owns the document and shows its canvas in a
-// scroll area. Closing it asks whether to keep unsaved changes.
-class CChildFrame : public QMdiSubWindow {
+// scroll area, and its modified mark in the title. Closing it asks whether to keep unsaved
+// changes.
+class CChildFrame : public QMdiSubWindow, public CDocumentObserver {
     Q_OBJECT
 public:
     CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, QWidget* parent = nullptr);
@@ -28,8 +31,8 @@ public:
     bool SaveAs();
     // Asks whether to save a modified document. False when the user cancelled or saving failed.
     bool MaybeSave();
-    // Shows the name and the modified mark in the title.
-    void RefreshTitle();
+
+    void DocumentChanged(const CDocumentChange& change) override;
 
 signals:
     void documentSaved(const QString& path);
@@ -43,6 +46,8 @@ protected:
 
 private:
     bool SaveTo(const QString& path);
+    // Shows the name and the modified mark in the title.
+    void RefreshTitle();
 
     std::unique_ptr<CTamloDoc> m_document;
     CEditorPrompts& m_prompts;

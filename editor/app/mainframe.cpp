@@ -83,7 +83,7 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* pa
     statusBar()->addPermanentWidget(m_cursorPosition);
 
     connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &CMainFrame::ChildActivated);
-    connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::AfterEdit);
+    connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::UpdateEditActions);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
     if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray()))
         resize(1280, 860);
@@ -124,13 +124,9 @@ void CMainFrame::CreateDocks()
     propertyDock->setWidget(properties);
     addDockWidget(Qt::RightDockWidgetArea, propertyDock);
 
-    connect(m_nameCombo, &CWidgetNameCombo::widgetNameChosen, this, &CMainFrame::SelectWidgetByName);
-    connect(m_propertyPane, &CPropertyPane::widgetEdited, this, [this](CHmiWidget* widget) {
-        if (CTamloDoc* document = widget->m_pDocument)
-            document->SetModifiedFlag();
+    connect(m_nameCombo, &CWidgetNameCombo::widgetChosen, this, [this](CHmiWidget* widget) {
         if (CTamloView* view = ActiveView())
-            view->InvalidateView();
-        AfterEdit();
+            view->Selection().Select(widget, false);
     });
     ConnectRowDialogs();
 }
@@ -159,9 +155,8 @@ void CMainFrame::ConnectRowDialogs()
 
 void CMainFrame::RunRowDialog(COptionTreeItem* row, const RowDialog& dialog)
 {
-    CHmiWidget* widget = m_propertyPane->CurrentWidget();
-    if (widget && row && dialog(this, *widget, *row))
-        m_propertyPane->RefreshWidget();
+    if (CHmiWidget* widget = m_propertyPane->CurrentWidget(); widget && row)
+        dialog(this, *widget, *row);
 }
 
 QAction* CMainFrame::AddAction(QMenu* menu, const QString& text, const QString& statusText,
@@ -410,13 +405,12 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
         if (child == m_shownChild)
             ShowSelection(child->View());
     });
-    connect(&view, &CTamloView::documentEdited, this, &CMainFrame::AfterEdit);
+    connect(&view, &CTamloView::commandEnded, this, [this] {
+        m_toolbox->SyncWithCurrentTool(); // a placing tool may have given way to the pointer
+        UpdateEditActions();
+    });
     connect(&view, &CTamloView::cursorMoved, this, [this](const QPoint& point) {
         m_cursorPosition->setText(QStringLiteral("%1, %2").arg(point.x()).arg(point.y()));
-    });
-    connect(&view, &CTamloView::widgetDestroyed, this, [this](CHmiWidget* widget) {
-        if (m_propertyPane->CurrentWidget() == widget)
-            m_propertyPane->Clear();
     });
     connect(child, &CChildFrame::documentSaved, this, [this](const QString& path) {
         m_recentFiles.Add(QFileInfo(path).absoluteFilePath());
@@ -453,8 +447,6 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
     if (child == m_shownChild)
         return;
     m_shownChild = child;
-    for (CChildFrame* other : Children())
-        other->Document().SetWidgetNameList(other == child ? m_nameCombo : nullptr);
     m_nameCombo->ShowDocument(child ? &child->Document() : nullptr);
     m_propertyPane->Clear();
     if (child)
@@ -474,35 +466,7 @@ void CMainFrame::ShowSelection(CTamloView& view)
     CHmiWidget* reference = selected.back();
     if (m_propertyPane->CurrentWidget() != reference)
         m_propertyPane->ShowWidget(reference);
-    m_nameCombo->SelectName(reference->GetWidgetName());
-}
-
-void CMainFrame::SelectWidgetByName(const std::string& name)
-{
-    CTamloView* view = ActiveView();
-    if (!view)
-        return;
-    for (const HmiWidgetPtr& widget : view->Document().Widgets()) {
-        if (widget->GetWidgetName() == name && !view->Document().IsWidgetDeleted(widget.get())) {
-            view->Selection().Select(widget.get(), false);
-            return;
-        }
-    }
-}
-
-void CMainFrame::AfterEdit()
-{
-    if (CChildFrame* child = ActiveChild()) {
-        CTamloView& view = child->View();
-        if (view.Selection().IsEmpty())
-            view.Selection().Select(nullptr, false);
-        view.FitToWindow();
-        if (CHmiWidget* shown = m_propertyPane->CurrentWidget())
-            shown->UpdateTreeByWidgetProp();
-        child->RefreshTitle();
-    }
-    m_toolbox->SyncWithCurrentTool();
-    UpdateEditActions();
+    m_nameCombo->SelectWidget(reference);
 }
 
 void CMainFrame::UpdateEditActions()
@@ -600,11 +564,7 @@ void CMainFrame::EditUndo()
     if (!view || !view->Document().CanUndo())
         return;
     view->Document().Undo();
-    // The names of widgets that Undo brings back return to their places in the list.
-    m_nameCombo->ShowDocument(&view->Document());
-    ShowSelection(*view);
-    view->InvalidateView();
-    AfterEdit();
+    UpdateEditActions();
 }
 
 void CMainFrame::EditCopy()
@@ -634,15 +594,12 @@ void CMainFrame::EditPaste()
         PasteWidgets(view->Document(), clipboard->data(kWidgetsMimeType).toStdString());
     for (std::size_t i = 0; i < pasted.size(); ++i)
         view->Selection().Select(pasted[i], i > 0);
-    view->InvalidateView();
-    AfterEdit();
+    UpdateEditActions();
 }
 
 void CMainFrame::EditDelete()
 {
-    CTamloView* view = ActiveView();
-    if (!view || !DeleteWidgets(view->Document(), view->Selection().Widgets()))
-        return;
-    view->Selection().Select(nullptr, false);
-    AfterEdit();
+    // The deleted widgets leave the selection, which then holds the window widget.
+    if (CTamloView* view = ActiveView(); view && DeleteWidgets(view->Document(), view->Selection().Widgets()))
+        UpdateEditActions();
 }

@@ -91,9 +91,8 @@ private:
     void ChildActivated(QMdiSubWindow* window);
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
-    void SelectWidgetByName(const std::string& name);
-    // Brings the panes, the title and the commands up to date after the active window changed.
-    void AfterEdit();
+    // Enables the commands that have something to act on; the panes and the canvas follow the
+    // documents' changes themselves.
     void UpdateEditActions();
     void UpdateRecentFileActions();
     void UpdateWindowMenu();

@@ -3,6 +3,7 @@
 #include "editor/model/canvasgeometry.h"
 #include "editor/model/formatcommands.h"
 #include "widgets/hmipainterdc.h"
+#include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/windowpainter.h"
 
@@ -11,8 +12,10 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 
 namespace {
@@ -21,6 +24,12 @@ namespace {
 constexpr int kHandleMargin = 6;
 // Empty canvas right and below the window, so that the window's own handles can be grabbed.
 constexpr int kCanvasMargin = 8;
+// A repaint during a drag that covers more than this part of the canvas copies the canvas drawn
+// once instead of drawing it.
+constexpr int kLargeRepaintDivisor = 16;
+// A change of more widgets than this repaints the whole canvas: so many separate areas would
+// cost more to gather than to paint.
+constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
 
 QRect ToQRect(const HmiRect& rect)
 {
@@ -88,14 +97,14 @@ CTamloView::CTamloView(CTamloDoc& document, QWidget* parent)
         setFocus(Qt::OtherFocusReason);
         emit selectionChanged();
     });
-    connect(&m_controls, &CCanvasControls::columnResized, this, &CTamloView::documentEdited);
     m_document.AddView(this);
+    m_document.AddObserver(this);
     FitToWindow();
-    m_controls.Sync();
 }
 
 CTamloView::~CTamloView()
 {
+    m_document.RemoveObserver(this);
     m_document.RemoveView(this);
 }
 
@@ -111,22 +120,39 @@ void CTamloView::FitToWindow()
 
 void CTamloView::InvalidateDocRect(const HmiRect& area)
 {
+    if (m_painting)
+        return;
     m_dragBackdrop = QImage();
     update(ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin));
 }
 
 void CTamloView::InvalidateView()
 {
+    if (m_painting)
+        return;
     m_dragBackdrop = QImage();
-    FitToWindow();
-    m_controls.Sync();
     update();
 }
 
-void CTamloView::WidgetRemoved(CHmiWidget* widget)
+void CTamloView::DocumentChanged(const CDocumentChange& change)
 {
-    m_selection.Forget(widget);
-    emit widgetDestroyed(widget);
+    constexpr DocChange kDrawn =
+        DocChange::Geometry | DocChange::Properties | DocChange::Added | DocChange::Removed | DocChange::Order;
+    // The window widget is the canvas's background: a change of it changes everything drawn.
+    const auto isBackground = [](const HmiWidgetChange& entry) {
+        return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
+    };
+    const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
+    if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne) {
+        FitToWindow();
+        return InvalidateView();
+    }
+    for (const HmiWidgetChange& entry : change.widgets) {
+        if (HasAny(entry.what, DocChange::Geometry))
+            InvalidateDocRect(entry.rectBefore);
+        if (HasAny(entry.what, kDrawn))
+            InvalidateDocRect(entry.widget->GetWidgetRect());
+    }
 }
 
 void CTamloView::SetMouseCapture(bool capture)
@@ -161,32 +187,46 @@ QRect CTamloView::FeedbackArea() const
 
 void CTamloView::paintEvent(QPaintEvent* event)
 {
+    const QScopedValueRollback painting(m_painting, true);
     QPainter painter(this);
-    if (m_feedback.empty()) {
-        PaintCanvas(painter, event->rect());
-    } else {
-        // While a drag shows its rectangles the document stands still: it is drawn once and
-        // then copied, so that a band over thousands of widgets follows the mouse.
+    // While a drag shows its rectangles the document stands still. When they cover much of the
+    // canvas, as a band over thousands of widgets does, the canvas is drawn once and then copied,
+    // so that the band follows the mouse.
+    const QRect area = event->rect();
+    const bool large =
+        std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
+    if (!m_feedback.empty() && (large || !m_dragBackdrop.isNull())) {
         if (m_dragBackdrop.isNull()) {
             m_dragBackdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
             m_dragBackdrop.setDevicePixelRatio(devicePixelRatio());
             QPainter backdrop(&m_dragBackdrop);
             PaintCanvas(backdrop, rect());
         }
-        painter.drawImage(event->rect(), m_dragBackdrop, event->rect());
+        painter.drawImage(area, m_dragBackdrop, area);
+    } else {
+        PaintCanvas(painter, event->region());
     }
     DrawDragFeedback(painter);
 }
 
-void CTamloView::PaintCanvas(QPainter& painter, const QRect& area) const
+void CTamloView::PaintCanvas(QPainter& painter, const QRegion& region) const
 {
-    // Only the area to repaint is drawn: the drawing target takes the clip as what it shows.
+    // Only the region to repaint is drawn: the drawing target takes the clip as what it shows,
+    // and leaves out the widgets whose room lies wholly outside it.
     painter.save();
-    painter.setClipRect(area);
-    painter.fillRect(area, palette().color(QPalette::Dark));
+    if (region.rectCount() == 1)
+        painter.setClipRect(region.boundingRect()); // the painter's fast way
+    else
+        painter.setClipRegion(region);
+    painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
+    std::vector<HmiRect> areas;
+    for (const QRect& rect : region) {
+        const QRect room = rect.adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
+        areas.push_back({room.left(), room.top(), room.right() + 1, room.bottom() + 1});
+    }
     {
         CHmiPainterDC dc(painter);
-        DrawWindow(m_document, dc);
+        DrawWindow(m_document, dc, areas);
     }
     DrawTrackers(painter);
     painter.restore();
@@ -245,7 +285,7 @@ void CTamloView::mouseReleaseEvent(QMouseEvent* event)
     const bool wasDragging = tools.IsDragging();
     tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()));
     if (wasDragging)
-        emit documentEdited();
+        emit commandEnded();
 }
 
 void CTamloView::mouseDoubleClickEvent(QMouseEvent* event)
@@ -263,7 +303,7 @@ void CTamloView::keyPressEvent(QKeyEvent* event)
     const std::optional<NudgeKey> key = ToNudgeKey(event->key());
     const bool resize = event->modifiers().testFlag(Qt::ShiftModifier);
     if (key && NudgeWidgets(m_document, m_selection.Widgets(), *key, resize))
-        return emit documentEdited();
+        return emit commandEnded();
     QWidget::keyPressEvent(event);
 }
 

@@ -3,6 +3,7 @@
 #include "editor/canvascontrols/canvascontrols.h"
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
+#include "widgets/documentchange.h"
 #include "widgets/hmiview.h"
 
 #include <QImage>
@@ -16,7 +17,8 @@ class QMenu;
 // The canvas of one HMI window: draws the document and the selection trackers, and hands the
 // mouse to the current canvas tool and the arrow keys to the nudge command. Client coordinates
 // are window coordinates, because the canvas is as large as the window and scrolls as a whole.
-class CTamloView : public QWidget, public CHmiView, public CCanvasToolHost {
+// It repaints only where the document changed, and painting never asks for another repaint.
+class CTamloView : public QWidget, public CHmiView, public CCanvasToolHost, public CDocumentObserver {
     Q_OBJECT
 public:
     explicit CTamloView(CTamloDoc& document, QWidget* parent = nullptr);
@@ -27,11 +29,14 @@ public:
     // CHmiView
     HmiPoint DocToClient(HmiPoint point) const override { return point; }
     HmiPoint ClientToDoc(HmiPoint point) const override { return point; }
+    // Both are ignored while the canvas paints: what a widget finds out of place then is in
+    // place by the time the canvas has painted.
     void InvalidateDocRect(const HmiRect& area) override;
-    // Also brings the live controls in step with the document, which may have changed as a whole
-    // (loaded, pasted into, undone, edited in the property pane).
     void InvalidateView() override;
-    void WidgetRemoved(CHmiWidget* widget) override;
+
+    // CDocumentObserver: repaints where changed widgets stood and stand, and the whole canvas
+    // when the window widget, the background, changed.
+    void DocumentChanged(const CDocumentChange& change) override;
 
     // CCanvasToolHost
     CCanvasSelection& Selection() override { return m_selection; }
@@ -44,18 +49,14 @@ public:
     const CCanvasControls& Controls() const { return m_controls; }
     // The menu the canvas pops up on a right click; the main frame provides it.
     void SetContextMenu(QMenu* menu) { m_contextMenu = menu; }
-    // Grows or shrinks the canvas to the window widget's size.
-    void FitToWindow();
 
 signals:
     // Widgets joined or left the selection.
     void selectionChanged();
-    // The mouse or the keyboard changed the document (a column width dragged on a list control too).
-    void documentEdited();
+    // A drag or a key has ended its command: the undo step and the canvas tool may have changed.
+    void commandEnded();
     // The mouse stands over this point of the window.
     void cursorMoved(const QPoint& point);
-    // The document is about to destroy a widget; whoever shows it must let go.
-    void widgetDestroyed(CHmiWidget* widget);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -67,7 +68,9 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    void PaintCanvas(QPainter& painter, const QRect& area) const;
+    // Grows or shrinks the canvas to the window widget's size.
+    void FitToWindow();
+    void PaintCanvas(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
     void DrawDragFeedback(QPainter& painter) const;
     QRect FeedbackArea() const;
@@ -76,7 +79,8 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
-    QImage m_dragBackdrop; // the canvas as it stood when the drag began
+    QImage m_dragBackdrop; // the canvas drawn once for a drag whose rectangles cover much of it
     QMenu* m_contextMenu = nullptr;
+    bool m_painting = false;
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes
 };

@@ -1,53 +1,128 @@
 #include "widgetnamecombo.h"
 
 #include "base/textcodec.h"
+#include "widgets/tamlodoc.h"
 
 #include <QSignalBlocker>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// A change of more widgets than this lists the names anew, at less cost than finding each.
+constexpr std::size_t kNamesPlacedOneByOne = 64;
+
+QString DisplayName(const CHmiWidget& widget)
+{
+    return QString::fromStdString(Gb2312ToUtf8OrKeep(widget.GetWidgetName()));
+}
+
+QVariant ItemData(const CHmiWidget* widget)
+{
+    return QVariant::fromValue(reinterpret_cast<quintptr>(widget));
+}
+
+} // namespace
 
 CWidgetNameCombo::CWidgetNameCombo(QWidget* parent) : QComboBox(parent)
 {
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
     setMinimumContentsLength(16);
-    connect(this, &QComboBox::activated, this, [this](int index) { emit widgetNameChosen(NameAt(index)); });
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        if (CHmiWidget* widget = WidgetAt(index))
+            emit widgetChosen(widget);
+    });
 }
 
-std::string CWidgetNameCombo::NameAt(int index) const
+CWidgetNameCombo::~CWidgetNameCombo()
 {
-    return itemData(index).toByteArray().toStdString();
+    if (m_document)
+        m_document->RemoveObserver(this);
 }
 
-int CWidgetNameCombo::FindName(const std::string& name) const
+CHmiWidget* CWidgetNameCombo::WidgetAt(int index) const
 {
-    return findData(QByteArray::fromStdString(name));
+    return reinterpret_cast<CHmiWidget*>(itemData(index).value<quintptr>());
 }
 
-void CWidgetNameCombo::AddWidgetName(const std::string& name, bool select)
+int CWidgetNameCombo::FindWidget(const CHmiWidget* widget) const
 {
-    addItem(QString::fromStdString(Gb2312ToUtf8OrKeep(name)), QByteArray::fromStdString(name));
-    if (select)
-        SelectName(name);
+    return findData(ItemData(widget));
 }
 
-void CWidgetNameCombo::RemoveWidgetName(const std::string& name)
+void CWidgetNameCombo::ShowDocument(CTamloDoc* document)
 {
-    const QSignalBlocker quiet(this);
-    if (const int index = FindName(name); index >= 0)
-        removeItem(index);
+    if (m_document)
+        m_document->RemoveObserver(this);
+    m_document = document;
+    if (m_document)
+        m_document->AddObserver(this);
+    ListWidgets();
 }
 
-void CWidgetNameCombo::ShowDocument(const CTamloDoc* document)
+void CWidgetNameCombo::ListWidgets()
 {
     const QSignalBlocker quiet(this);
     clear();
-    if (!document)
+    if (!m_document)
         return;
-    for (const HmiWidgetPtr& widget : document->Widgets())
-        if (!document->IsWidgetDeleted(widget.get()))
-            AddWidgetName(widget->GetWidgetName(), false);
+    for (const HmiWidgetPtr& widget : m_document->Widgets())
+        if (!m_document->IsWidgetDeleted(widget.get()))
+            addItem(DisplayName(*widget), ItemData(widget.get()));
 }
 
-void CWidgetNameCombo::SelectName(const std::string& name)
+void CWidgetNameCombo::SelectWidget(const CHmiWidget* widget)
 {
     const QSignalBlocker quiet(this);
-    setCurrentIndex(FindName(name));
+    setCurrentIndex(FindWidget(widget));
+}
+
+void CWidgetNameCombo::DocumentChanged(const CDocumentChange& change)
+{
+    const QSignalBlocker quiet(this);
+    const CHmiWidget* current = WidgetAt(currentIndex());
+    if (change.Has(DocChange::Reloaded) || change.widgets.size() > kNamesPlacedOneByOne)
+        ListWidgets();
+    else
+        Follow(change.widgets);
+    if (const int index = FindWidget(current); index >= 0)
+        setCurrentIndex(index);
+}
+
+void CWidgetNameCombo::Follow(const std::vector<HmiWidgetChange>& changed)
+{
+    // Widgets that came, went or moved in the drawing order are taken off the list and put back
+    // where they now stand; the list holds the others in drawing order all along.
+    std::vector<const CHmiWidget*> placed;
+    for (const HmiWidgetChange& entry : changed) {
+        const int index = FindWidget(entry.widget);
+        if (HasAny(entry.what, DocChange::Added | DocChange::Removed | DocChange::Order)) {
+            placed.push_back(entry.widget);
+            if (index >= 0)
+                removeItem(index);
+        } else if (index >= 0 && HasAny(entry.what, DocChange::Properties)) {
+            setItemText(index, DisplayName(*entry.widget));
+        }
+    }
+    if (!placed.empty())
+        PutBack(placed);
+}
+
+void CWidgetNameCombo::PutBack(const std::vector<const CHmiWidget*>& widgets)
+{
+    int index = 0;
+    for (const HmiWidgetPtr& widget : m_document->Widgets()) {
+        if (m_document->IsWidgetDeleted(widget.get()))
+            continue;
+        if (std::find(widgets.begin(), widgets.end(), widget.get()) != widgets.end())
+            insertItem(index, DisplayName(*widget), ItemData(widget.get()));
+        ++index;
+    }
+}
+
+void CWidgetNameCombo::DocumentDestroyed()
+{
+    m_document = nullptr;
+    ListWidgets();
 }

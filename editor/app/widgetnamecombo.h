@@ -1,30 +1,42 @@
 #pragma once
 
-#include "widgets/tamlodoc.h"
+#include "widgets/documentchange.h"
 
 #include <QComboBox>
 
-#include <string>
+#include <vector>
 
-// The main frame's list of the active window's widget names. Choosing a name selects the widget.
-// Names are kept in the documents' 8-bit form, so that a name finds its widget whatever it shows.
-class CWidgetNameCombo : public QComboBox, public CWidgetNameList {
+class CTamloDoc;
+
+// The main frame's list of the active window's widget names, in drawing order, without the
+// deleted widgets. Choosing a name selects the widget. As the document's observer it adds,
+// removes, renames and reorders exactly the names of the widgets that changed, Undo included.
+class CWidgetNameCombo : public QComboBox, public CDocumentObserver {
     Q_OBJECT
 public:
     explicit CWidgetNameCombo(QWidget* parent = nullptr);
+    ~CWidgetNameCombo() override;
 
-    void AddWidgetName(const std::string& name, bool select) override;
-    void RemoveWidgetName(const std::string& name) override;
+    // Lists the widgets of a document (none: empty) and follows its changes.
+    void ShowDocument(CTamloDoc* document);
+    // Shows the widget's name as the current one without reporting a choice.
+    void SelectWidget(const CHmiWidget* widget);
+    CHmiWidget* WidgetAt(int index) const;
 
-    // Lists the widgets of a document (none: empty) that are not deleted.
-    void ShowDocument(const CTamloDoc* document);
-    // Shows the name as the current one without reporting a choice.
-    void SelectName(const std::string& name);
-    std::string NameAt(int index) const;
+    void DocumentChanged(const CDocumentChange& change) override;
+    void DocumentDestroyed() override;
 
 signals:
-    void widgetNameChosen(const std::string& name);
+    void widgetChosen(CHmiWidget* widget);
 
 private:
-    int FindName(const std::string& name) const;
+    int FindWidget(const CHmiWidget* widget) const;
+    void ListWidgets();
+    // Adds, removes, renames and moves the names of the changed widgets.
+    void Follow(const std::vector<HmiWidgetChange>& changed);
+    // Lists those of the widgets that are part of the window at their places in the drawing
+    // order, the list holding every other widget of the window already.
+    void PutBack(const std::vector<const CHmiWidget*>& widgets);
+
+    CTamloDoc* m_document = nullptr;
 };

@@ -12,10 +12,13 @@
 CCanvasControls::CCanvasControls(QWidget& canvas, const CHmiView& view, CTamloDoc& document)
     : m_canvas(canvas), m_view(view), m_document(document), m_forwarder(new CControlMouseForwarder(canvas))
 {
+    Sync();
+    m_document.AddObserver(this);
 }
 
 CCanvasControls::~CCanvasControls()
 {
+    m_document.RemoveObserver(this);
     for (const HmiWidgetPtr& widget : m_document.Widgets()) {
         auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(widget.get());
         if (controlWidget && ControlOf(*controlWidget))
@@ -29,28 +32,46 @@ CCanvasControl* CCanvasControls::ControlOf(const CHmiCtrlWidget& widget) const
     return control && control->Widget() && control->Widget()->parentWidget() == &m_canvas ? control : nullptr;
 }
 
+void CCanvasControls::DocumentChanged(const CDocumentChange& change)
+{
+    if (change.Has(DocChange::Reloaded))
+        return Sync();
+    for (const HmiWidgetChange& entry : change.widgets)
+        if (auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(entry.widget))
+            Update(*controlWidget, entry.what);
+}
+
 void CCanvasControls::Sync()
 {
-    for (const HmiWidgetPtr& widget : m_document.Widgets()) {
-        auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(widget.get());
-        if (!controlWidget)
-            continue;
-        if (!controlWidget->GetControl())
-            CreateControl(*controlWidget);
-        if (CCanvasControl* control = ControlOf(*controlWidget)) {
-            control->Refresh();
-            control->Widget()->setVisible(!m_document.IsWidgetDeleted(controlWidget));
-        }
+    for (const HmiWidgetPtr& widget : m_document.Widgets())
+        if (auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(widget.get()))
+            Update(*controlWidget, DocChange::Added | DocChange::Properties | DocChange::Geometry);
+}
+
+void CCanvasControls::Update(CHmiCtrlWidget& widget, DocChange what)
+{
+    if (HasAny(what, DocChange::Added) && !widget.GetControl())
+        CreateControl(widget);
+    CCanvasControl* control = ControlOf(widget);
+    if (!control)
+        return;
+    if (HasAny(what, DocChange::Properties))
+        control->Refresh();
+    if (HasAny(what, DocChange::Geometry))
+        widget.PlaceControl();
+    if (HasAny(what, DocChange::Added | DocChange::Removed)) {
+        const bool removed = HasAny(what, DocChange::Removed) || m_document.IsWidgetDeleted(&widget);
+        control->Widget()->setVisible(!removed);
     }
 }
 
 void CCanvasControls::CreateControl(CHmiCtrlWidget& widget)
 {
     const CanvasControlFactory* factory = FindCanvasControl(widget.GetRuntimeClass());
-    std::unique_ptr<CCanvasControl> control = factory ? (*factory)(widget, m_canvas, [this] {
-        m_document.SetModifiedFlag();
-        emit columnResized();
-    }) : nullptr;
+    std::unique_ptr<CCanvasControl> control =
+        factory ? (*factory)(widget, m_canvas,
+                             [this, &widget] { m_document.WidgetChanged(widget, DocChange::Properties); })
+                : nullptr;
     if (!control)
         return;
     m_forwarder->Attach(*control->Widget());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+#include "widgets/documentchange.h"
 
 class CCanvasControl;
 class CControlMouseForwarder;
@@ -11,30 +11,28 @@ class QWidget;
 
 // The live controls of one canvas: a real child widget for each control widget of the document
 // (check box, combo box, edit box, and the report lists of the alarm window and the history list).
-// The widgets own their controls and keep them at their rectangles when they are drawn; this class
-// gives new widgets their controls, shows their current properties and hides deleted ones.
-class CCanvasControls : public QObject {
-    Q_OBJECT
+// The widgets own their controls; this class gives new widgets their controls and, as the
+// document's observer, keeps exactly the controls of changed widgets in step: it moves them,
+// shows their edited properties, and hides those of widgets that left the window.
+class CCanvasControls : public CDocumentObserver {
 public:
     // view converts window coordinates to the canvas's client coordinates.
     CCanvasControls(QWidget& canvas, const CHmiView& view, CTamloDoc& document);
     // Takes the controls back from the widgets, which then draw pictures of them.
     ~CCanvasControls() override;
-
-    // Brings the controls in step with the document: creates the missing ones (after loading,
-    // placing, pasting), shows edited properties, and shows a control exactly while its widget
-    // is not deleted (undo brings a deleted widget back). Call it whenever the document changed.
-    void Sync();
+    CCanvasControls(const CCanvasControls&) = delete;
+    CCanvasControls& operator=(const CCanvasControls&) = delete;
 
     // The control of a widget when this canvas made it, else null.
     CCanvasControl* ControlOf(const CHmiCtrlWidget& widget) const;
 
-signals:
-    // The user dragged a column width of a list control; the widget has it and the document is
-    // marked modified.
-    void columnResized();
+    void DocumentChanged(const CDocumentChange& change) override;
 
 private:
+    // Brings every control in step with the document, as after a load.
+    void Sync();
+    // Brings the control of one widget in step with what changed about it.
+    void Update(CHmiCtrlWidget& widget, DocChange what);
     void CreateControl(CHmiCtrlWidget& widget);
 
     QWidget& m_canvas;

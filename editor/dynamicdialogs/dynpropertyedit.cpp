@@ -19,6 +19,6 @@ bool EditDynamicProperty(QWidget* parent, CHmiWidget& widget, COptionTreeItem& r
     ApplyDynamicBinding(*prop, dialog.TakeBinding());
     row.SetAdtColumnBkColor(BindingMarkColor(prop->m_strExpression));
     if (widget.m_pDocument)
-        widget.m_pDocument->SetModifiedFlag();
+        widget.m_pDocument->WidgetChanged(widget, DocChange::Bindings);
     return true;
 }

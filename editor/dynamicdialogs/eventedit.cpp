@@ -48,6 +48,6 @@ bool EditWidgetEvent(QWidget* parent, CHmiWidget& widget, COptionTreeItem& row,
     widget.SetWidgetEventCode(event->name, code);
     row.SetStaticText(code);
     if (widget.m_pDocument)
-        widget.m_pDocument->SetModifiedFlag();
+        widget.m_pDocument->WidgetChanged(widget, DocChange::Events);
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgets/documentchange.h"
 #include "base/hmitypes.h"
 
 #include <functional>
@@ -12,9 +13,13 @@ class CTamloDoc;
 // The widgets selected on one canvas, in the order in which they were selected: the last one is
 // the reference of the format commands. Selecting nothing selects the window widget, so the
 // property pane always shows something; the window widget never stays selected with others.
-class CCanvasSelection {
+// Widgets that leave the document leave the selection.
+class CCanvasSelection : public CDocumentObserver {
 public:
     CCanvasSelection(CTamloDoc& document, CHmiView& view);
+    ~CCanvasSelection() override;
+    CCanvasSelection(const CCanvasSelection&) = delete;
+    CCanvasSelection& operator=(const CCanvasSelection&) = delete;
 
     // Called once a Select or a Deselect has changed the selection: the editor gives the canvas
     // the focus and shows the widget selected last in the property pane and the name list.
@@ -26,8 +31,9 @@ public:
     // Selects every widget that lies wholly inside a rectangle given in client coordinates.
     void SelectInRect(const HmiRect& clientRect, bool add);
     bool IsSelected(const CHmiWidget* widget) const;
-    // Forgets a widget that is about to be destroyed.
-    void Forget(const CHmiWidget* widget);
+
+    // CDocumentObserver: a selection that loses its last widget selects the window widget.
+    void DocumentChanged(const CDocumentChange& change) override;
 
     const std::vector<CHmiWidget*>& Widgets() const { return m_widgets; }
     bool IsEmpty() const { return m_widgets.empty(); }
@@ -35,7 +41,8 @@ public:
     CHmiView& View() const { return m_view; }
 
 private:
-    void InvalidateWidget(const CHmiWidget& widget) const;
+    // Repaints the widgets' selection handles.
+    void InvalidateTrackers(const std::vector<CHmiWidget*>& widgets) const;
     bool Remove(CHmiWidget* widget);
 
     CTamloDoc& m_document;

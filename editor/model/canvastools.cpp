@@ -164,16 +164,10 @@ void CCanvasTools::ButtonUp(CCanvasToolHost& host, HmiPoint point)
 void CCanvasTools::SelectButtonUp(CCanvasToolHost& host, HmiPoint point)
 {
     CCanvasSelection& selection = host.Selection();
-    if (m_mode == DragMode::RubberBand) {
+    if (m_mode == DragMode::RubberBand)
         selection.SelectInRect(RectBetween(m_pressPoint, point), true);
-        EndCapture(host);
-        selection.View().InvalidateView();
-        return;
-    }
-    if (!host.IsLocked())
+    else if (!host.IsLocked())
         ApplyDrag(host, point);
-    if (m_mode != DragMode::None)
-        selection.View().InvalidateView();
     EndCapture(host);
 }
 
@@ -233,7 +227,7 @@ void CCanvasTools::PlaceWidget(CCanvasToolHost& host, const HmiRect& clientRect)
     CHmiWidget* placed = widget.get();
     CTamloDoc& document = selection.Document();
     CUndoStepGuard step(document);
-    if (!document.AddWidget(std::move(widget), true, true))
+    if (!document.AddWidget(std::move(widget), true))
         return;
     step.Record(UndoOperation::Added, placed);
     selection.Select(placed, false);

@@ -69,7 +69,7 @@ std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& te
             widget->SetWidgetName({});
         widget->m_pView = document.Views().empty() ? nullptr : document.Views().front();
         CHmiWidget* added = widget.get();
-        if (document.AddWidget(std::move(widget), true, false)) {
+        if (document.AddWidget(std::move(widget), true)) {
             step.Record(UndoOperation::Added, added);
             pasted.push_back(added);
         }

@@ -1,24 +1,18 @@
 #include "formatcommands.h"
 
-#include "widgets/hmiview.h"
 #include "widgets/tamlodoc.h"
 
 #include <algorithm>
 
 namespace {
 
-void RepaintViews(const CTamloDoc& document)
+// Assigns a rectangle as the commands do: directly, without normalising.
+void SetRect(CTamloDoc& document, CHmiWidget& widget, const HmiRect& rect)
 {
-    for (CHmiView* view : document.Views())
-        view->InvalidateView();
-}
-
-// Assigns a rectangle as the commands do: directly, without normalising, repainting both areas.
-void SetRect(CHmiWidget& widget, const HmiRect& rect)
-{
-    widget.Invalidate();
+    const HmiRect before = widget.GetWidgetRect();
     widget.SetWidgetRect(rect);
-    widget.Invalidate();
+    if (rect != before)
+        document.WidgetChanged(widget, DocChange::Geometry, before);
 }
 
 HmiRect Aligned(HmiRect r, const HmiRect& ref, AlignCommand command)
@@ -69,15 +63,12 @@ void AlignWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection
     if (selection.empty())
         return;
     const HmiRect reference = selection.back()->GetWidgetRect();
-    {
-        CUndoStepGuard step(document);
-        for (std::size_t i = 0; i + 1 < selection.size(); ++i) {
-            CHmiWidget& widget = *selection[i];
-            step.Record(UndoOperation::Changed, &widget);
-            SetRect(widget, Aligned(widget.GetWidgetRect(), reference, command));
-        }
+    CUndoStepGuard step(document);
+    for (std::size_t i = 0; i + 1 < selection.size(); ++i) {
+        CHmiWidget& widget = *selection[i];
+        step.Record(UndoOperation::Changed, &widget);
+        SetRect(document, widget, Aligned(widget.GetWidgetRect(), reference, command));
     }
-    RepaintViews(document);
 }
 
 void SpaceWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, SpacingDirection direction)
@@ -101,22 +92,19 @@ void SpaceWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection
     const std::int32_t gap = (last - first - total) / std::int32_t(selection.size() - 1);
     if (selection.size() < 3)
         return;
-    {
-        CUndoStepGuard step(document);
-        std::int32_t previousEnd = 0;
-        for (CHmiWidget* widget : ordered) {
-            step.Record(UndoOperation::Changed, widget);
-            HmiRect rect = widget->GetWidgetRect();
-            if (widget != ordered.front()) {
-                const std::int32_t size = rect.*span.end - rect.*span.start;
-                rect.*span.start = previousEnd + gap;
-                rect.*span.end = rect.*span.start + size;
-                SetRect(*widget, rect);
-            }
-            previousEnd = rect.*span.end;
+    CUndoStepGuard step(document);
+    std::int32_t previousEnd = 0;
+    for (CHmiWidget* widget : ordered) {
+        step.Record(UndoOperation::Changed, widget);
+        HmiRect rect = widget->GetWidgetRect();
+        if (widget != ordered.front()) {
+            const std::int32_t size = rect.*span.end - rect.*span.start;
+            rect.*span.start = previousEnd + gap;
+            rect.*span.end = rect.*span.start + size;
+            SetRect(document, *widget, rect);
         }
+        previousEnd = rect.*span.end;
     }
-    RepaintViews(document);
 }
 
 void ZoomWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, std::int32_t percent)
@@ -129,35 +117,30 @@ void ZoomWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection,
         x0 = std::min(x0, widget->GetWidgetRect().left);
         y0 = std::min(y0, widget->GetWidgetRect().top);
     }
-    {
-        CUndoStepGuard step(document);
-        for (CHmiWidget* widget : selection)
-            step.Record(UndoOperation::Changed, widget);
-        if (percent > 0) {
-            const auto scale = [percent](std::int32_t value, std::int32_t origin) {
-                return origin + std::int32_t(std::uint32_t(value - origin) * std::uint32_t(percent)) / 100;
-            };
-            for (CHmiWidget* widget : selection) {
-                const HmiRect& r = widget->GetWidgetRect();
-                SetRect(*widget, {scale(r.left, x0), scale(r.top, y0), scale(r.right, x0), scale(r.bottom, y0)});
-            }
+    CUndoStepGuard step(document);
+    for (CHmiWidget* widget : selection)
+        step.Record(UndoOperation::Changed, widget);
+    if (percent > 0) {
+        const auto scale = [percent](std::int32_t value, std::int32_t origin) {
+            return origin + std::int32_t(std::uint32_t(value - origin) * std::uint32_t(percent)) / 100;
+        };
+        for (CHmiWidget* widget : selection) {
+            const HmiRect& r = widget->GetWidgetRect();
+            SetRect(document, *widget, {scale(r.left, x0), scale(r.top, y0), scale(r.right, x0), scale(r.bottom, y0)});
         }
     }
-    RepaintViews(document);
 }
 
 void MoveWidgetToTop(CTamloDoc& document, const std::vector<CHmiWidget*>& selection)
 {
-    if (selection.empty() || !document.MoveWidget(selection.front(), document.Widgets().size() - 1))
-        return;
-    RepaintViews(document);
+    if (!selection.empty())
+        document.MoveWidget(selection.front(), document.Widgets().size() - 1);
 }
 
 void MoveWidgetToBottom(CTamloDoc& document, const std::vector<CHmiWidget*>& selection)
 {
-    if (selection.empty() || !document.MoveWidget(selection.front(), 1))
-        return;
-    RepaintViews(document);
+    if (!selection.empty())
+        document.MoveWidget(selection.front(), 1);
 }
 
 bool NudgeWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, NudgeKey key, bool resize)
@@ -166,20 +149,17 @@ bool NudgeWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection
         return false;
     const std::int32_t dx = key == NudgeKey::Left ? -1 : key == NudgeKey::Right ? 1 : 0;
     const std::int32_t dy = key == NudgeKey::Up ? -1 : key == NudgeKey::Down ? 1 : 0;
-    {
-        CUndoStepGuard step(document);
-        for (CHmiWidget* widget : selection) {
-            step.Record(UndoOperation::Changed, widget);
-            HmiRect r = widget->GetWidgetRect();
-            if (!resize) {
-                r.left += dx;
-                r.top += dy;
-            }
-            r.right += dx;
-            r.bottom += dy;
-            SetRect(*widget, r);
+    CUndoStepGuard step(document);
+    for (CHmiWidget* widget : selection) {
+        step.Record(UndoOperation::Changed, widget);
+        HmiRect r = widget->GetWidgetRect();
+        if (!resize) {
+            r.left += dx;
+            r.top += dy;
         }
+        r.right += dx;
+        r.bottom += dy;
+        SetRect(document, *widget, r);
     }
-    RepaintViews(document);
     return true;
 }

@@ -8,7 +8,7 @@ class CTamloDoc;
 
 // The Format menu's commands on the widgets selected on a canvas, given in selection order (the
 // last one is the reference). Each command that changes geometry records the old rectangles
-// as one undo step of the document and repaints its views.
+// as one undo step of the document, whose views repaint what changed.
 
 // The alignment family, in the order of its consecutive command identifiers.
 enum class AlignCommand {

@@ -24,7 +24,7 @@
 namespace {
 
 // Runs an edit of the widget. When it changed what the widget writes to its window file, the
-// rows show the new values, the widget is repainted and the document is marked modified.
+// document hears of it, and with it the rows and the canvas.
 bool EditWidget(CHmiWidget& widget, const std::function<void()>& edit)
 {
     std::string before;
@@ -34,10 +34,8 @@ bool EditWidget(CHmiWidget& widget, const std::function<void()>& edit)
     widget.SaveWidgetProperties(after);
     if (after == before)
         return false;
-    widget.UpdateTreeByWidgetProp();
-    widget.Invalidate();
     if (widget.m_pDocument)
-        widget.m_pDocument->SetModifiedFlag();
+        widget.m_pDocument->WidgetChanged(widget, DocChange::Properties);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "propertypaneitem.h"
 
 #include "base/textcodec.h"
+#include "widgets/tamlodoc.h"
 
 #include <QColorDialog>
 #include <QHeaderView>
@@ -13,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -69,7 +71,11 @@ CPropertyPane::CPropertyPane(QWidget* parent)
 }
 
 // Out of line: the items are complete only here.
-CPropertyPane::~CPropertyPane() = default;
+CPropertyPane::~CPropertyPane()
+{
+    if (m_document)
+        m_document->RemoveObserver(this);
+}
 
 COptionTreeItem* CPropertyPane::CreateNewRootItem(const std::string& caption, const std::string& info)
 {
@@ -104,23 +110,49 @@ void CPropertyPane::Clear()
     m_tree->clear();
     m_description->clear();
     m_widget = nullptr;
+    if (m_document)
+        std::exchange(m_document, nullptr)->RemoveObserver(this);
 }
 
 void CPropertyPane::ShowWidget(CHmiWidget* widget)
 {
     Clear();
     m_widget = widget;
-    if (widget)
-        widget->CreateWidgetPropertyTree(*this);
+    if (!widget)
+        return;
+    widget->CreateWidgetPropertyTree(*this);
+    m_document = widget->m_pDocument;
+    if (m_document)
+        m_document->AddObserver(this);
 }
 
 void CPropertyPane::ApplyToWidget(COptionTreeItem* item)
 {
     if (!m_widget)
         return;
-    CHmiWidget* widget = m_widget;
-    widget->UpdateWidgetPropByTree(item);
-    emit widgetEdited(widget);
+    const HmiRect before = m_widget->GetWidgetRect();
+    m_widget->UpdateWidgetPropByTree(item);
+    if (m_document)
+        m_document->WidgetChanged(*m_widget, DocChange::Properties, before);
+}
+
+void CPropertyPane::DocumentChanged(const CDocumentChange& change)
+{
+    if (change.Has(DocChange::Reloaded))
+        return Clear();
+    const auto shown = std::find_if(change.widgets.begin(), change.widgets.end(),
+                                    [this](const HmiWidgetChange& entry) { return entry.widget == m_widget; });
+    if (shown == change.widgets.end())
+        return;
+    if (HasAny(shown->what, DocChange::Removed))
+        Clear();
+    else if (HasAny(shown->what, DocChange::Geometry | DocChange::Properties | DocChange::Bindings))
+        m_widget->UpdateTreeByWidgetProp();
+}
+
+void CPropertyPane::DocumentDestroyed()
+{
+    Clear();
 }
 
 void CPropertyPane::CommitItem(COptionTreeItem* item)
@@ -129,14 +161,6 @@ void CPropertyPane::CommitItem(COptionTreeItem* item)
                                      [item](const auto& own) { return own.get() == item; });
     if (ownItem)
         emit itemChanged(item);
-}
-
-void CPropertyPane::RefreshWidget()
-{
-    if (!m_widget)
-        return;
-    m_widget->UpdateTreeByWidgetProp();
-    emit widgetEdited(m_widget);
 }
 
 CPropertyPaneItem* CPropertyPane::FindItem(const std::string& caption, const std::string& rootCaption) const

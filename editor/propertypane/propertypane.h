@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgets/documentchange.h"
 #include "widgets/hmiwidget.h"
 #include "widgets/optiontree.h"
 
@@ -12,14 +13,16 @@
 #include <vector>
 
 class CPropertyPaneItem;
+class CTamloDoc;
 class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 // The editor's property pane: the active widget's properties as a three-column tree (caption,
 // value editor, and a narrow column that shows whether the property is bound to an expression),
-// with the current row's help text underneath.
-class CPropertyPane : public QWidget, public COptionTree {
+// with the current row's help text underneath. It observes the shown widget's document: the rows
+// follow the widget's changes, whoever made them, and the pane empties when the widget goes.
+class CPropertyPane : public QWidget, public COptionTree, public CDocumentObserver {
     Q_OBJECT
 public:
     enum Column { CaptionColumn, ValueColumn, ExtraColumn };
@@ -33,7 +36,7 @@ public:
     COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
                                    const std::string& info) override;
 
-    // Removes every row and forgets the shown widget; call it before the shown widget is destroyed.
+    // Removes every row and forgets the shown widget.
     void Clear();
     // Rebuilds the pane for a widget (null: leaves it empty); the user's edits then go to it.
     void ShowWidget(CHmiWidget* widget);
@@ -49,13 +52,13 @@ public:
     // Says in the description area why an edit was refused.
     void ShowRefusal(const QString& reason);
 
+    void DocumentChanged(const CDocumentChange& change) override;
+    void DocumentDestroyed() override;
+
 public slots:
     // Applies a row that a dialog opened from its button has changed, as if the user had edited
     // it in place (a chosen file or variable). Rows of other panes or of cleared ones are ignored.
     void CommitItem(COptionTreeItem* item);
-    // Shows the widget's values and bindings again after a dialog changed the widget itself
-    // (a binding, a font), and reports it as edited.
-    void RefreshWidget();
 
 signals:
     // The user committed a new value in the row (never sent for values the program sets).
@@ -68,18 +71,18 @@ signals:
     void fileRequested(COptionTreeItem* item);
     void fontRequested(COptionTreeItem* item);
     void eventEditRequested(COptionTreeItem* item);
-    // The shown widget took an edit and needs redrawing.
-    void widgetEdited(CHmiWidget* widget);
 
 private:
     CPropertyPaneItem* AddItem(OptionItemKind kind, CPropertyPaneItem* parent, const std::string& caption,
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);
+    // Gives the widget the row's value and tells its document.
     void ApplyToWidget(COptionTreeItem* item);
 
     QTreeWidget* m_tree;
     QLabel* m_description;
     std::vector<std::unique_ptr<CPropertyPaneItem>> m_items; // in creation order
     CHmiWidget* m_widget = nullptr;
+    CTamloDoc* m_document = nullptr; // the shown widget's, observed while it is shown
     ColorChooser m_chooseColor;
 };

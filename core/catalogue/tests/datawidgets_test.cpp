@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <tuple>
 
 namespace {
 
@@ -160,18 +161,15 @@ TEST(CurvePreview, DrawsTheGridLabelsAndScaledSamples)
                                                      {30, 115, 130, 15}, {130, 15, 230, 65}}));
     EXPECT_EQ(lines.back().pen, (HmiPen{HmiPenStyle::Solid, 0, 0xFF}));
     EXPECT_EQ(dc.pen, HmiPen{}) << "the curve pen is released";
-}
 
-TEST(CurvePreview, TimeLabelsStandUnderTheLeftEdgeAndEachVerticalLine)
-{
-    CHmiWidgetCurve curve;
-    curve.SetWidgetRect({0, 0, 260, 130});
-    const auto texts = DrawnBy(curve).ShapesOfKind("text");
-    ASSERT_EQ(texts.size(), 5u + 6u);
+    // With more points than vertical lines, time labels stand under the left edge and each line.
+    curve.m_nXPoints = 60;
+    const auto times = DrawnBy(curve).ShapesOfKind("text");
+    ASSERT_EQ(times.size(), 5u + 6u);
     for (std::size_t t = 0; t < 6; ++t) {
-        const HmiRect& at = texts[5 + t].rect;
-        EXPECT_EQ(at, (HmiRect{30 + 200 * std::int32_t(t) / 6, 115, 130 + 200 * std::int32_t(t) / 6, 135}));
-        EXPECT_EQ(std::count(texts[5 + t].text.begin(), texts[5 + t].text.end(), ':'), 2);
+        const std::int32_t x = 30 + 200 * std::int32_t(t) / 6;
+        EXPECT_EQ(times[5 + t].rect, (HmiRect{x, 115, x + 100, 135}));
+        EXPECT_EQ(std::count(times[5 + t].text.begin(), times[5 + t].text.end(), ':'), 2);
     }
 }
 
@@ -219,8 +217,6 @@ std::string Kept(const char* kind, const char* what, const char* name, const cha
 const std::vector<NameCase>& NameCases()
 {
     static const std::vector<NameCase> cases = {
-        {"unknown database of a list", kTwoDatabases, nullptr, "hislist", HistoryLine("plant2"),
-         {"boiler", "pumps", "plant2 (not in the project)"}, 2, Kept("History list", "history database", "plant2")},
         {"unknown database of a curve", kTwoDatabases, nullptr, "hiscurve", HistoryLine("plant2"),
          {"boiler", "pumps", "plant2 (not in the project)"}, 2, Kept("History curve", "history database", "plant2")},
         {"listed database", kTwoDatabases, nullptr, "hislist", HistoryLine("pumps"), {"boiler", "pumps"}, 1, ""},
@@ -259,7 +255,7 @@ const char* RowCaption(const NameCase& c)
 
 } // namespace
 
-TEST_F(ProjectNameTest, LoadAndSaveKeepTheNameAndReportIt)
+TEST_F(ProjectNameTest, LoadSaveAndCopiesKeepTheNameAndThePaneMarksIt)
 {
     for (const NameCase& c : NameCases()) {
         SCOPED_TRACE(c.title);
@@ -272,26 +268,14 @@ TEST_F(ProjectNameTest, LoadAndSaveKeepTheNameAndReportIt)
         // Copy and paste writes the widget and reads it back; Clone copies it in memory.
         std::string copied;
         widget->Serialize(copied);
-        const HmiWidgetPtr pasted = ReadWindow(copied);
-        ASSERT_NE(pasted, nullptr);
-        EXPECT_EQ(OwnPropertyLines(*pasted), OwnPropertyLines(*widget));
-        EXPECT_EQ(OwnPropertyLines(*widget->Clone()), OwnPropertyLines(*widget));
-    }
-}
-
-TEST_F(ProjectNameTest, PaneMarksAKeptNameAndAPickedOneReplacesIt)
-{
-    for (const NameCase& c : NameCases()) {
-        SCOPED_TRACE(c.title);
-        UseProject(c.history, c.datalog);
-        const HmiWidgetPtr widget = Read(c.classKey, c.lines);
-        for (const HmiWidgetPtr& shown : {widget->Clone(), Read(c.classKey, c.lines)}) {
+        for (const HmiWidgetPtr& shown : {ReadWindow(copied), widget->Clone()}) {
+            ASSERT_NE(shown, nullptr);
+            EXPECT_EQ(OwnPropertyLines(*shown), OwnPropertyLines(*widget));
             MemoryOptionTree tree;
             shown->CreateWidgetPropertyTree(tree);
             MemoryOptionItem* row = tree.Find(RowCaption(c));
             ASSERT_NE(row, nullptr);
-            EXPECT_EQ(row->choices, c.choices);
-            EXPECT_EQ(row->selection, c.selection);
+            EXPECT_EQ(std::tuple(row->choices, row->selection), std::tuple(c.choices, c.selection));
             if (c.notice.empty() || c.choices.size() < 2)
                 continue;
 
@@ -302,8 +286,7 @@ TEST_F(ProjectNameTest, PaneMarksAKeptNameAndAPickedOneReplacesIt)
             const HmiWidgetPtr fresh = CHmiWidget::GetWidgetClass(c.classKey)->CreateObject();
             EXPECT_EQ(OwnPropertyLines(*shown), OwnPropertyLines(*fresh));
             shown->UpdateTreeByWidgetProp();
-            EXPECT_EQ(row->choices, c.choices);
-            EXPECT_EQ(row->selection, 0);
+            EXPECT_EQ(std::tuple(row->choices, row->selection), std::tuple(c.choices, 0));
             row->SetCurSel(c.selection);
             shown->UpdateWidgetPropByTree(row);
             EXPECT_NE(OwnPropertyLines(*shown).find(c.lines), std::string::npos);
@@ -318,13 +301,20 @@ TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
     curve.SetWidgetRect({0, 0, 600, 400});
     curve.m_nHLines = curve.m_nVLines = curve.m_nXPoints = INT_MAX;
     curve.m_nCurveNum = 1;
-    const FixedSamples samples({0, 32767});
+    FixedSamples samples({0, 32767});
     const RecordingDC dc = DrawnBy(curve, {0, 0, 640, 480});
     const auto lines = dc.ShapesOfKind("line");
     const auto gridLines = std::count_if(lines.begin(), lines.end(), [](const auto& l) { return l.pen.width == 1; });
     EXPECT_LE(gridLines, 540 + 370) << "one grid line per pixel column and row of the plot";
     EXPECT_LE(dc.ShapesOfKind("text").size(), 2u * 640u) << "one label per pixel row and column";
     EXPECT_EQ(samples.taken, 65535u) << "the panel's 16-bit count of points";
+
+    // One point per pixel column of the plot, x = 30 + p: those past the view are neither sampled
+    // nor drawn.
+    curve.m_nXPoints = 541;
+    samples.taken = 0;
+    EXPECT_EQ(DrawnBy(curve, {0, 0, 100, 100}).ShapesOfKind("line").back().rect.right, 100);
+    EXPECT_EQ(samples.taken, 71u) << "the points at x 30 to 99 and the next one";
 
     CHmiWidgetHisCurve margins;
     margins.SetWidgetRect({INT_MIN, INT_MIN, INT_MAX, INT_MAX});
@@ -337,17 +327,6 @@ TEST(CurvePreview, CountsAsLargeAsAFileCanHoldDrawOnlyWhatTheViewShows)
     margins.m_fMaxValue = 3e38f;
     const RecordingDC view = DrawnBy(margins, {0, 0, 640, 480});
     EXPECT_LE(view.shapes.size(), 2u * 65535u + 2u * (640u + 480u));
-}
-
-TEST(CurvePreview, PointsPastTheViewAreNeitherSampledNorDrawn)
-{
-    CHmiWidgetCurve curve;
-    curve.SetWidgetRect({0, 0, 600, 400});
-    curve.m_nXPoints = 541; // one point per pixel column of the plot, x = 30 + p
-    curve.m_nCurveNum = 1;
-    const FixedSamples samples({16384});
-    EXPECT_EQ(DrawnBy(curve, {0, 0, 100, 100}).ShapesOfKind("line").back().rect.right, 100);
-    EXPECT_EQ(samples.taken, 71u) << "the points at x 30 to 99 and the next one";
 }
 
 TEST(ListPicture, HeadingsStopAtTheEdgeOfTheListOrOfTheView)

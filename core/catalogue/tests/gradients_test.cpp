@@ -69,18 +69,10 @@ struct PixelCase {
 
 } // namespace
 
-TEST(GradientSteps, DivideInDoubleKeepSingleAndTruncatePerChannel)
-{
-    const GradientSteps steps(kRed, kBlue, 10);
-    EXPECT_EQ(steps.At(0), kRed);
-    EXPECT_EQ(steps.At(3), HmiRgb(178, 0, 76)) << "255 - 76.5 and 76.5, truncated";
-    EXPECT_EQ(steps.At(10), kBlue);
-    EXPECT_EQ(GradientSteps(kBlack, kWhite, 0).At(0), kBlack) << "no steps: the start colour";
-}
-
 TEST(GradientPixels, EachModeStepsFromItsNamedEdgeOrCentre)
 {
-    const HmiColor step3 = HmiRgb(178, 0, 76); // of 10 steps from red to blue, as GradientSteps has it
+    // Step 3 of 10 from red to blue: 255 - 76.5 and 76.5, each channel truncated.
+    const HmiColor step3 = HmiRgb(178, 0, 76);
     const PixelCase cases[] = {
         {"left to right; a line stops short of the bottom", PaintRectGradient, 34, {0, 0, 10, 4}, kRed, kBlue,
          {{0, 0, kRed}, {3, 3, step3}, {9, 1, HmiRgb(25, 0, 229)}, {3, 4, kWhite}}},
@@ -169,39 +161,31 @@ TEST(GradientPixels, WidgetDrawsItsStoredDirection)
     EXPECT_EQ(dc.GetPixel(7, 2), HmiRgb(178, 0, 76)) << "right to left: step 3 at right - 3";
 }
 
-TEST(GradientPixels, GradientsRunningPastTheImageKeepEveryPixelInside)
+// Square, wide, flat, tall, narrow and reversed rectangles around and across a small image
+// paint inside it what an image large enough to hold them does; huge ones draw no more lines
+// (or rings) than a 640 x 480 view can show: one per pixel across and down the view, for each of
+// the two halves that some modes paint in pairs, and a few more.
+TEST(GradientPixels, GradientsRunningPastTheTargetPaintOnlyWhatReachesIt)
 {
-    // Square, wide, flat, tall, narrow and reversed rectangles around and across the small
-    // image. No side has a negative odd sum of ends, whose half would not shift with them.
-    const HmiRect rects[] = {{-90, -70, 110, 95}, {-125, 3, 160, 26}, {-130, 12, 170, 14}, {15, -100, 31, 130},
-                             {-4, -98, 2, 127}, {60, 50, -40, -60}};
+    // No side has a negative odd sum of ends, whose half would not shift with them.
+    const HmiRect past[] = {{-90, -70, 110, 95}, {-125, 3, 160, 26}, {-130, 12, 170, 14}, {15, -100, 31, 130},
+                            {-4, -98, 2, 127}, {60, 50, -40, -60}};
+    const HmiRect huge[] = {{-1000000000, -1000000000, 1000000000, 1000000000}, {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
+                            {-1000000000, 100, 300, 1000000000}, {INT_MAX, INT_MAX, INT_MIN, INT_MIN}};
+    constexpr std::size_t kBound = 2 * 2 * (640 + 480) + 64;
     for (const GradientMode& mode : AllModes()) {
-        for (const HmiRect& r : rects) {
+        SCOPED_TRACE(std::string(mode.painter) + " " + std::to_string(mode.code));
+        for (const HmiRect& r : past) {
             const std::string changed = FirstPixelChangedByClipping([&](CHmiDC& dc, HmiPoint at) {
                 mode.paint(dc, {r.left + at.x, r.top + at.y, r.right + at.x, r.bottom + at.y}, kRed, kBlue, mode.code);
             });
-            EXPECT_EQ(changed, "") << mode.painter << " " << mode.code << " in " << r.left << "," << r.top << ","
-                                   << r.right << "," << r.bottom;
+            EXPECT_EQ(changed, "") << r.left << "," << r.top << "," << r.right << "," << r.bottom;
         }
-    }
-}
-
-TEST(GradientWork, HugeGradientsDrawOnlyWhatReachesTheTarget)
-{
-    // A bound on the lines (or rings) of a 640 x 480 view: one per pixel across and down the
-    // view, for each of the two halves that some modes paint in pairs, and a few more.
-    constexpr std::size_t kBound = 2 * 2 * (640 + 480) + 64;
-    const HmiRect rects[] = {{-1000000000, -1000000000, 1000000000, 1000000000},
-                             {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
-                             {-1000000000, 100, 300, 1000000000},
-                             {INT_MAX, INT_MAX, INT_MIN, INT_MIN}};
-    for (const GradientMode& mode : AllModes()) {
-        for (const HmiRect& r : rects) {
+        for (const HmiRect& r : huge) {
             RecordingDC dc;
             dc.clipBox = {0, 0, 640, 480};
             mode.paint(dc, r, kRed, kBlue, mode.code);
-            EXPECT_LE(dc.shapes.size(), kBound) << mode.painter << " " << mode.code << " in " << r.left << ","
-                                                << r.top << "," << r.right << "," << r.bottom;
+            EXPECT_LE(dc.shapes.size(), kBound) << r.left << "," << r.top << "," << r.right << "," << r.bottom;
         }
     }
 }

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 TEST(Shapes, LineIsGrabbedInABandAroundThinLinesAndAnywhereInItsBox)
 {
@@ -37,15 +38,14 @@ TEST(Shapes, LineRunsCornerToCornerInItsStyle)
     line.m_nDirection = 0;
     RecordingDC dc = DrawnBy(line);
     ASSERT_EQ(dc.shapes.size(), 1u);
-    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{30, 20, 10, 40})) << "right top to left bottom";
-    EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Solid, 0, 0}));
+    EXPECT_EQ(std::tuple(dc.shapes[0].rect, dc.shapes[0].pen),
+              std::tuple(HmiRect{30, 20, 10, 40}, HmiPen{HmiPenStyle::Solid, 0, 0})) << "right top to left bottom";
 
     line.m_nDirection = 1;
     line.m_nStyle = 2;
     line.Draw(dc);
-    EXPECT_EQ(dc.shapes[1].rect, (HmiRect{10, 20, 30, 40}));
-    EXPECT_EQ(dc.shapes[1].pen.style, HmiPenStyle::Dot);
-    EXPECT_EQ(dc.pen, HmiPen{});
+    EXPECT_EQ(std::tuple(dc.shapes[1].rect, dc.shapes[1].pen.style, dc.pen),
+              std::tuple(HmiRect{10, 20, 30, 40}, HmiPenStyle::Dot, HmiPen{}));
 }
 
 TEST(Shapes, RectangleAndEllipseDrawTheStoredRectangleWithTheirColours)
@@ -58,12 +58,10 @@ TEST(Shapes, RectangleAndEllipseDrawTheStoredRectangleWithTheirColours)
     ellipse.m_fillColor = 0xFF00;
     ellipse.Draw(dc);
     ASSERT_EQ(dc.shapes.size(), 2u);
-    EXPECT_EQ(dc.shapes[0].kind, "rectangle");
-    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{50, 50, 10, 10}));
-    EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Solid, 1, 0xFF}));
-    EXPECT_EQ(dc.shapes[0].brush, (HmiBrush{false, 0xFFFFFF}));
-    EXPECT_EQ(dc.shapes[1].kind, "ellipse");
-    EXPECT_EQ(dc.shapes[1].brush.color, 0xFF00u);
+    EXPECT_EQ(std::tuple(dc.shapes[0].kind, dc.shapes[0].rect, dc.shapes[0].pen, dc.shapes[0].brush),
+              std::tuple("rectangle", HmiRect{50, 50, 10, 10}, HmiPen{HmiPenStyle::Solid, 1, 0xFF},
+                         HmiBrush{false, 0xFFFFFF}));
+    EXPECT_EQ(std::tuple(dc.shapes[1].kind, dc.shapes[1].brush.color), std::tuple("ellipse", 0xFF00u));
 }
 
 TEST(Shapes, ValveIsABowTieWithAStemAWheelAndTheCentreColour)
@@ -75,10 +73,8 @@ TEST(Shapes, ValveIsABowTieWithAStemAWheelAndTheCentreColour)
     const auto lines = dc.ShapesOfKind("line");
     const auto ellipses = dc.ShapesOfKind("ellipse");
     ASSERT_EQ(ellipses.size(), 2u);
-    EXPECT_EQ(ellipses[0].rect, (HmiRect{8, 24, 32, 48}));
-    EXPECT_EQ(ellipses[0].brush.color, 0x7E7E7Eu);
-    EXPECT_EQ(ellipses[1].rect, (HmiRect{12, 30, 28, 42}));
-    EXPECT_EQ(ellipses[1].brush.color, 0xFF00u);
+    EXPECT_EQ(std::tuple(ellipses[0].rect, ellipses[0].brush.color, ellipses[1].rect, ellipses[1].brush.color),
+              std::tuple(HmiRect{8, 24, 32, 48}, 0x7E7E7Eu, HmiRect{12, 30, 28, 42}, 0xFF00u));
     // Both halves fan from the middle (20, 36): the left apex on its right side, the right on its left.
     ASSERT_GE(lines.size(), 4u);
     EXPECT_EQ(HmiPoint(lines[0].rect.left, lines[0].rect.top), (HmiPoint{20, 36}));
@@ -86,8 +82,8 @@ TEST(Shapes, ValveIsABowTieWithAStemAWheelAndTheCentreColour)
         return line.rect.left == 20 && line.rect.top == 36 && line.rect.right == 40;
     }));
     const auto& stem = lines[lines.size() - 2];
-    EXPECT_EQ(stem.rect, (HmiRect{20, 0, 20, 36}));
-    EXPECT_EQ(stem.pen, (HmiPen{HmiPenStyle::Solid, 2, 0x7E7E7E}));
+    EXPECT_EQ(std::tuple(stem.rect, stem.pen),
+              std::tuple(HmiRect{20, 0, 20, 36}, HmiPen{HmiPenStyle::Solid, 2, 0x7E7E7E}));
     EXPECT_EQ(lines.back().rect, (HmiRect{10, 0, 30, 0})) << "the wheel";
 }
 
@@ -98,8 +94,7 @@ TEST(Shapes, WindowDrawsItsBackgroundFromTheOriginInADottedFrame)
     window.m_bkColor = 0x00FF00;
     const RecordingDC dc = DrawnBy(window);
     ASSERT_EQ(dc.shapes.size(), 1u);
-    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{0, 0, 320, 240}));
-    EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Dot, 1, 0}));
-    EXPECT_EQ(dc.shapes[0].brush, (HmiBrush{false, 0x00FF00}));
+    EXPECT_EQ(std::tuple(dc.shapes[0].rect, dc.shapes[0].pen, dc.shapes[0].brush),
+              std::tuple(HmiRect{0, 0, 320, 240}, HmiPen{HmiPenStyle::Dot, 1, 0}, HmiBrush{false, 0x00FF00}));
     EXPECT_EQ(dc.pen, HmiPen{}) << "the previous pen is selected back";
 }

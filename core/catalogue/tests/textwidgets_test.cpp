@@ -16,6 +16,7 @@
 
 #include <filesystem>
 #include <sys/stat.h>
+#include <tuple>
 
 TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
 {
@@ -26,24 +27,23 @@ TEST(Button, DrawsARaisedFrameAndTheCaptionCentredWithItsAmpersand)
     button.m_nShadowWidth = 2;
     const RecordingDC dc = DrawnBy(button);
     ASSERT_EQ(dc.ShapesOfKind("rectangle").size(), 1u);
-    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{9, 9, 62, 32}));
-    EXPECT_EQ(dc.shapes[0].brush.color, 0xC0C0C0u);
+    EXPECT_EQ(std::tuple(dc.shapes[0].rect, dc.shapes[0].brush.color), std::tuple(HmiRect{9, 9, 62, 32}, 0xC0C0C0u));
     const auto polygons = dc.ShapesOfKind("polygon");
     ASSERT_EQ(polygons.size(), 4u);
-    EXPECT_EQ(polygons[0].points, (std::vector<HmiPoint>{{10, 10}, {12, 12}, {12, 28}, {10, 30}}));
-    EXPECT_EQ(polygons[0].brush.color, 0xFFFFFFu);
-    EXPECT_EQ(polygons[3].points, (std::vector<HmiPoint>{{10, 30}, {12, 28}, {58, 28}, {60, 30}}));
-    EXPECT_EQ(polygons[3].pen.color, 0x808080u);
+    EXPECT_EQ(std::tuple(polygons[0].points, polygons[0].brush.color),
+              std::tuple(std::vector<HmiPoint>{{10, 10}, {12, 12}, {12, 28}, {10, 30}}, 0xFFFFFFu));
+    EXPECT_EQ(std::tuple(polygons[3].points, polygons[3].pen.color),
+              std::tuple(std::vector<HmiPoint>{{10, 30}, {12, 28}, {58, 28}, {60, 30}}, 0x808080u));
     const auto text = dc.ShapesOfKind("text");
     ASSERT_EQ(text.size(), 1u);
-    EXPECT_EQ(text[0].text, "A&B");
+    EXPECT_EQ(std::tuple(text[0].text, text[0].bkMode), std::tuple("A&B", HmiBkMode::Transparent));
     EXPECT_EQ(text[0].format, HMI_DT_CENTER | HMI_DT_VCENTER | HMI_DT_SINGLELINE | HMI_DT_NOPREFIX);
     EXPECT_EQ(std::tuple(text[0].font.face, text[0].font.height, text[0].font.weight), std::tuple("MS Serif", 12, 700));
-    EXPECT_EQ(text[0].bkMode, HmiBkMode::Transparent);
     EXPECT_EQ(dc.font, HmiFont::DefaultGui()) << "the previous font is put back";
 
     button.m_nFontSize = 9;
-    EXPECT_EQ(DrawnBy(button).ShapesOfKind("text")[0].font, HmiFont::DefaultGui()) << "an unknown size keeps the current font";
+    EXPECT_EQ(DrawnBy(button).ShapesOfKind("text")[0].font, HmiFont::DefaultGui())
+        << "an unknown size keeps the current font";
 
     // Borders without a width have no area: their outlines would paint stray lines.
     button.m_nShadowWidth = 0;
@@ -60,10 +60,9 @@ TEST(Text, WrapsInTheFontOfItsSizeAndDrawsNothingForAnUnknownAlign)
     const RecordingDC dc = DrawnBy(text);
     const auto drawn = dc.ShapesOfKind("text");
     ASSERT_EQ(drawn.size(), 1u);
-    EXPECT_EQ(drawn[0].rect, (HmiRect{10, 20, 50, 40}));
-    EXPECT_EQ(drawn[0].format, HMI_DT_RIGHT | HMI_DT_WORDBREAK);
+    EXPECT_EQ(std::tuple(drawn[0].rect, drawn[0].format, drawn[0].color),
+              std::tuple(HmiRect{10, 20, 50, 40}, HMI_DT_RIGHT | HMI_DT_WORDBREAK, 0xFFu));
     EXPECT_EQ(drawn[0].font.face, "MS Serif") << "8 points alone takes the serif face";
-    EXPECT_EQ(drawn[0].color, 0xFFu);
     EXPECT_EQ(dc.textColor, 0u) << "the previous text colour is put back";
 
     text.m_nFontSize = 0;
@@ -80,10 +79,9 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     number.m_nAlign = 3;
     const RecordingDC transparent = DrawnBy(number);
     ASSERT_EQ(transparent.shapes.size(), 1u);
-    EXPECT_EQ(transparent.shapes[0].text, "##");
-    EXPECT_EQ(transparent.shapes[0].format, HMI_DT_LEFT | HMI_DT_VCENTER | HMI_DT_SINGLELINE)
+    EXPECT_EQ(std::tuple(transparent.shapes[0].text, transparent.shapes[0].format, transparent.shapes[0].font.face),
+              std::tuple("##", HMI_DT_LEFT | HMI_DT_VCENTER | HMI_DT_SINGLELINE, "MS Serif"))
         << "every alignment shows on the left";
-    EXPECT_EQ(transparent.shapes[0].font.face, "MS Serif");
 
     number.m_nTransparent = 0;
     const RecordingDC opaque = DrawnBy(number);
@@ -96,8 +94,7 @@ TEST(InputFields, ShowAPlaceholderInABoxOnlyWhenOpaque)
     text.m_nFontSize = 0;
     const RecordingDC textDc = DrawnBy(text);
     ASSERT_EQ(textDc.ShapesOfKind("text").size(), 1u);
-    EXPECT_EQ(textDc.shapes[0].text, "abc");
-    EXPECT_EQ(textDc.shapes[0].font.face, "MS SansSerif");
+    EXPECT_EQ(std::tuple(textDc.shapes[0].text, textDc.shapes[0].font.face), std::tuple("abc", "MS SansSerif"));
     text.m_nAlign = 5;
     EXPECT_TRUE(DrawnBy(text).ShapesOfKind("text").empty());
 }
@@ -108,7 +105,7 @@ TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
     doc.SetPictureFolder("/project");
     auto* picture = new CHmiWidgetPic;
     picture->SetWidgetRect({1, 2, 30, 40});
-    doc.AddWidget(HmiWidgetPtr(picture), true, false);
+    doc.AddWidget(HmiWidgetPtr(picture), true);
     const RecordingDC frame = DrawnBy(*picture);
     ASSERT_EQ(frame.shapes.size(), 1u);
     EXPECT_EQ(frame.shapes[0].kind, "rectangle");
@@ -118,10 +115,8 @@ TEST(Picture, PaintsItsFileFromTheWindowFolderOrAFrameWithoutOne)
     picture->m_transparentColor = 0xFF00FF;
     const RecordingDC dc = DrawnBy(*picture);
     ASSERT_EQ(dc.shapes.size(), 1u);
-    EXPECT_EQ(dc.shapes[0].text, "/project/pump.png");
-    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{1, 2, 30, 40}));
-    EXPECT_TRUE(dc.shapes[0].transparent);
-    EXPECT_EQ(dc.shapes[0].color, 0xFF00FFu);
+    EXPECT_EQ(std::tuple(dc.shapes[0].text, dc.shapes[0].rect, dc.shapes[0].transparent, dc.shapes[0].color),
+              std::tuple("/project/pump.png", HmiRect{1, 2, 30, 40}, true, 0xFF00FFu));
 }
 
 // Choosing from elsewhere, a file already in the project and one of the same name are
@@ -133,7 +128,7 @@ TEST(Picture, ATypedPathIsCopiedIntoTheProjectOrChangesNothing)
     CTamloDoc doc;
     doc.SetPictureFolder(dir.Path("project/"));
     auto* picture = new CHmiWidgetPic;
-    doc.AddWidget(HmiWidgetPtr(picture), true, false);
+    doc.AddWidget(HmiWidgetPtr(picture), true);
     MemoryOptionTree tree;
     picture->CreateWidgetPropertyTree(tree);
     MemoryOptionItem* file = tree.Find("filename", "Picture");

@@ -87,7 +87,7 @@ TEST_F(LoaderTest, LibraryClassesFollowTheBuiltInsAndSurviveTheWindowFile)
 
     CTamloDoc doc;
     doc.OnNewDocument();
-    ASSERT_TRUE(doc.AddWidget(std::move(widget), true, false));
+    ASSERT_TRUE(doc.AddWidget(std::move(widget), true));
     const TempDir dir;
     ASSERT_TRUE(doc.Save(dir.Path("gauge.xml")));
 

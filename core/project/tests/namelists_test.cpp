@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 namespace {
 
 std::string Repeated(const char* element, int count)
@@ -18,6 +21,13 @@ struct NameListsTest : ::testing::Test {
     void SetUp() override { SetProjectPath(dir.Path("")); }
     void TearDown() override { SetProjectPath(""); }
 
+    // What a reader returns, and how many names it gave.
+    std::pair<int, int> Read(int (*reader)(std::string names[], int& count))
+    {
+        const int read = reader(names, count);
+        return {read, count};
+    }
+
     TempDir dir;
     std::string names[kMaxDataLogNames];
     int count = -1;
@@ -28,44 +38,35 @@ struct NameListsTest : ::testing::Test {
 TEST_F(NameListsTest, WithoutAProjectNothingIsRead)
 {
     SetProjectPath("");
-    EXPECT_EQ(GetHmiLognameDesp(names, count), 0);
-    EXPECT_EQ(count, 0);
-    EXPECT_EQ(GetHmiHistoryDbname(names, count), 0);
-    EXPECT_EQ(count, 0);
+    EXPECT_EQ(Read(GetHmiLognameDesp), std::pair(0, 0));
+    EXPECT_EQ(Read(GetHmiHistoryDbname), std::pair(0, 0));
 }
 
 TEST_F(NameListsTest, DataLogNamesInFileOrderUpToTheLimit)
 {
     dir.Write("datalog.xml", "<datalog>" + Repeated("log", 150) + "</datalog>");
-    EXPECT_EQ(GetHmiLognameDesp(names, count), 1);
-    EXPECT_EQ(count, 100);
-    EXPECT_EQ(names[0], "n0");
-    EXPECT_EQ(names[99], "n99");
+    EXPECT_EQ(Read(GetHmiLognameDesp), std::pair(1, 100));
+    EXPECT_EQ(std::tuple(names[0], names[99]), std::tuple("n0", "n99"));
 
     dir.Write("datalog.xml", "<logs>" + Repeated("log", 3) + "</logs>");
-    EXPECT_EQ(GetHmiLognameDesp(names, count), 1);
-    EXPECT_EQ(count, 0) << "another root gives no names";
+    EXPECT_EQ(Read(GetHmiLognameDesp), std::pair(1, 0)) << "another root gives no names";
 }
 
 TEST_F(NameListsTest, HistoryNamesInBothForms)
 {
-    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
-    EXPECT_EQ(count, 0) << "no file";
+    EXPECT_EQ(Read(GetHmiHistoryDbname), std::pair(1, 0)) << "no file";
 
     dir.Write("history.xml", "<zqhistory>" + Repeated("historydb", 40) + "</zqhistory>");
-    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
-    EXPECT_EQ(count, 32);
+    EXPECT_EQ(Read(GetHmiHistoryDbname), std::pair(1, 32));
     EXPECT_EQ(names[31], "n31");
 
     names[0] = "stale";
     dir.Write("history.xml", "<history><historydb name=\"old\"/></history>");
-    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
-    EXPECT_EQ(count, 1);
+    EXPECT_EQ(Read(GetHmiHistoryDbname), std::pair(1, 1));
     EXPECT_EQ(names[0], "") << "the older form has one nameless database";
 
     dir.Write("history.xml", "<zqhistory><historydb name=\"a\"/>");
-    EXPECT_EQ(GetHmiHistoryDbname(names, count), 1);
-    EXPECT_EQ(count, 0) << "a broken file gives no names";
+    EXPECT_EQ(Read(GetHmiHistoryDbname), std::pair(1, 0)) << "a broken file gives no names";
 }
 
 TEST_F(NameListsTest, VariablesOfOneHistoryDatabase)

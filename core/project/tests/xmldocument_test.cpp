@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -29,11 +30,9 @@ TEST(XmlDocument, Gb2312FilesGiveTheirValuesBackInGb2312)
         const XmlDocument doc = XmlDocument::Parse(text);
         ASSERT_TRUE(doc.IsValid());
         const XmlElement root = doc.Root();
-        EXPECT_TRUE(root.Is("root"));
-        EXPECT_FALSE(root.Is("Root"));
-        EXPECT_EQ(root.Attribute("a"), kTemperatureGb) << encoding;
-        EXPECT_EQ(root.Attribute("b"), "x & y");
-        EXPECT_EQ(root.Attribute("missing"), "");
+        EXPECT_EQ(std::tuple(root.Is("root"), root.Is("Root")), std::tuple(true, false));
+        EXPECT_EQ(std::tuple(root.Attribute("a"), root.Attribute("b"), root.Attribute("missing")),
+                  std::tuple(kTemperatureGb, "x & y", "")) << encoding;
         XmlChildStream stream(text);
         EXPECT_EQ(stream.Next().Attribute("a"), kTemperatureGb) << encoding;
     }
@@ -74,9 +73,7 @@ TEST(XmlChildStream, GivesTheRootsChildrenOneByOneAndJudgesTheWholeText)
                           " <b><![CDATA[p\r\nq\rr]]>&#13;</b>\n</r>\n");
     EXPECT_EQ(stream.RootName(), "r");
     const XmlElement a = stream.Next();
-    ASSERT_TRUE(a.Is("a"));
-    EXPECT_EQ(a.Attribute("x"), "1");
-    EXPECT_TRUE(a.FirstChild().Is("in"));
+    EXPECT_EQ(std::tuple(a.Is("a"), a.Attribute("x"), a.FirstChild().Is("in")), std::tuple(true, "1", true));
     const XmlElement b = stream.Next();
     ASSERT_TRUE(b.Is("b"));
     EXPECT_EQ(b.Text(), "p\nq\nr\r") << "line ends read as XML reads them; a referenced CR stays";
@@ -84,9 +81,7 @@ TEST(XmlChildStream, GivesTheRootsChildrenOneByOneAndJudgesTheWholeText)
     EXPECT_TRUE(stream.IsValid());
 
     XmlChildStream empty("<r/>");
-    EXPECT_EQ(empty.RootName(), "r");
-    EXPECT_FALSE(empty.Next());
-    EXPECT_TRUE(empty.IsValid());
+    EXPECT_EQ((std::tuple{empty.RootName(), bool(empty.Next()), empty.IsValid()}), std::tuple("r", false, true));
 
     XmlChildStream broken("<r><a/>\n<b/>\n</r>\n<oops");
     while (broken.Next()) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(HmiDraw, RectAndPolygonUseTheirOwnPenAndBrushAndPutTheOldOnesBack)
 {
     RecordingDC dc;
@@ -13,11 +15,9 @@ TEST(HmiDraw, RectAndPolygonUseTheirOwnPenAndBrushAndPutTheOldOnesBack)
     EXPECT_EQ(HmiDrawPolygon(&dc, points, 0x808080, 0x808080), 1);
 
     ASSERT_EQ(dc.shapes.size(), 2u);
-    EXPECT_EQ(dc.shapes[0].rect, (HmiRect{1, 2, 30, 40}));
-    EXPECT_EQ(dc.shapes[0].pen, (HmiPen{HmiPenStyle::Solid, 1, 0x0000FF}));
-    EXPECT_EQ(dc.shapes[0].brush, (HmiBrush{false, 0xFF0000}));
-    EXPECT_EQ(dc.pen, oldPen);
-    EXPECT_EQ(dc.brush, oldBrush);
+    EXPECT_EQ(std::tuple(dc.shapes[0].rect, dc.shapes[0].pen, dc.shapes[0].brush),
+              std::tuple(HmiRect{1, 2, 30, 40}, HmiPen{HmiPenStyle::Solid, 1, 0x0000FF}, HmiBrush{false, 0xFF0000}));
+    EXPECT_EQ(std::tuple(dc.pen, dc.brush), std::tuple(oldPen, oldBrush));
 
     EXPECT_EQ(HmiDrawRect(nullptr, 0, 0, 1, 1, 0, 0), 0);
     EXPECT_EQ(HmiDrawPolygon(nullptr, points, 0, 0), 0) << "no target draws nothing";
@@ -62,13 +62,11 @@ TEST(HmiDraw, TextWrapsInTheDefaultFontAndTakesALength)
     HmiDrawText(&dc, 0, 0, 100, 20, "hello world", 5, 0xFF, 0);
     HmiDrawText(&dc, 0, 0, 100, 20, "hi", 50, 0xFF, 1);
     ASSERT_EQ(dc.shapes.size(), 3u);
-    EXPECT_EQ(dc.shapes[0].text, "hello world");
-    EXPECT_EQ(dc.shapes[0].format, HMI_DT_RIGHT | HMI_DT_WORDBREAK);
-    EXPECT_EQ(dc.shapes[0].font, HmiFont::DefaultGui());
-    EXPECT_EQ(dc.shapes[0].bkMode, HmiBkMode::Transparent);
-    EXPECT_EQ(dc.shapes[0].color, 0xFFu);
-    EXPECT_EQ(dc.shapes[1].text, "hello");
-    EXPECT_EQ(dc.shapes[1].format, HMI_DT_LEFT | HMI_DT_WORDBREAK);
-    EXPECT_EQ(dc.shapes[2].text, "hi");
+    const RecordingDC::Shape& first = dc.shapes[0];
+    EXPECT_EQ(std::tuple(first.text, first.format, first.font, first.bkMode, first.color),
+              std::tuple("hello world", HMI_DT_RIGHT | HMI_DT_WORDBREAK, HmiFont::DefaultGui(), HmiBkMode::Transparent,
+                         0xFFu));
+    EXPECT_EQ(std::tuple(dc.shapes[1].text, dc.shapes[1].format, dc.shapes[2].text),
+              std::tuple("hello", HMI_DT_LEFT | HMI_DT_WORDBREAK, "hi"));
     EXPECT_EQ(dc.font, (HmiFont{"Other", 20, 700})) << "the previous font is put back";
 }

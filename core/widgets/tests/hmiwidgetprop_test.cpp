@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 const char* const kChoices[] = {"No", "Yes"};
@@ -21,9 +23,8 @@ TEST(HmiWidgetProp, CopiesShareTheListButOwnTheirOwnBinding)
         original.SetDynamicType(std::move(type));
 
         CHmiWidgetProp copy(original);
-        EXPECT_EQ(copy.m_strExpression, "$db.level");
-        EXPECT_EQ(copy.m_pComboList, kChoices);
-        EXPECT_EQ(copy.m_nComboCount, 2);
+        EXPECT_EQ(std::tuple(copy.m_strExpression, copy.m_pComboList, copy.m_nComboCount),
+                  std::tuple("$db.level", kChoices, 2));
         ASSERT_NE(copy.GetDynamicType(), nullptr);
         EXPECT_NE(copy.GetDynamicType(), original.GetDynamicType());
         EXPECT_EQ(copy.GetDynamicType()->expression, "level");

@@ -74,7 +74,7 @@ void DrawLine(CHmiDC& dc, HmiPoint from, HmiPoint to)
 
 } // namespace
 
-TEST(PainterDC, RectangleCoversLeftToRightMinusOneOutlineIncluded)
+TEST(PainterDC, RectangleAndEllipseCoverLeftToRightMinusOneOutlineIncluded)
 {
     for (const bool hollow : {false, true})
         for (const HmiRect rect : {HmiRect{2, 3, 6, 7}, HmiRect{6, 7, 2, 3}}) {
@@ -85,6 +85,12 @@ TEST(PainterDC, RectangleCoversLeftToRightMinusOneOutlineIncluded)
             EXPECT_EQ(ExtentOf(dc, kBlack), (HmiRect{2, 3, 5, 6}));
             EXPECT_EQ(PixelsOf(dc, kBlack).size(), 12u) << "the outline is one pixel wide around the fill";
         }
+
+    CHmiImageDC ellipse(14, 14);
+    ellipse.SelectBrush({false, kRed});
+    ellipse.Ellipse({1, 1, 11, 11});
+    EXPECT_EQ(ellipse.GetPixel(6, 6), kRed);
+    EXPECT_EQ(ExtentOf(ellipse, kBlack), (HmiRect{1, 1, 10, 10})) << "the outline reaches right - 1 and bottom - 1";
 }
 
 TEST(PainterDC, LinesLeaveOutTheirEndPointInEveryDirection)
@@ -125,15 +131,6 @@ TEST(PainterDC, DottedPensRunThreeOnThreeOffAndFillGapsOnlyWhenOpaque)
     dc.SetBkColor(kBlue);
     DrawLine(dc, {0, 2}, {13, 2});
     EXPECT_EQ(PixelsOf(dc, kBlue), (std::set<std::string>{"3,2", "4,2", "5,2", "9,2", "10,2", "11,2"}));
-}
-
-TEST(PainterDC, EllipseStaysInsideItsRectangle)
-{
-    CHmiImageDC dc(14, 14);
-    dc.SelectBrush({false, kRed});
-    dc.Ellipse({1, 1, 11, 11});
-    EXPECT_EQ(dc.GetPixel(6, 6), kRed);
-    EXPECT_EQ(ExtentOf(dc, kBlack), (HmiRect{1, 1, 10, 10})) << "the outline reaches right - 1 and bottom - 1";
 }
 
 TEST(PainterDC, TextIsTwoColouredWrapsAlignsAndFillsItsBackgroundWhenOpaque)

@@ -3,9 +3,7 @@
 // editor/propertypane/tests.
 
 #include "tests/support/memoryoptiontree.h"
-#include "tests/support/recordingnamelist.h"
 #include "widgets/hmiwidget.h"
-#include "widgets/tamlodoc.h"
 
 #include <gtest/gtest.h>
 
@@ -43,8 +41,6 @@ public:
 struct PropertyListTest : ::testing::Test {
     void SetUp() override
     {
-        doc.SetWidgetNameList(&names);
-        widget.m_pDocument = &doc;
         widget.SetWidgetName("gauge1");
         widget.SetWidgetRect({10, 10, 50, 60});
         widget.CreateWidgetPropertyTree(tree);
@@ -59,8 +55,6 @@ struct PropertyListTest : ::testing::Test {
         widget.UpdateWidgetPropByTree(item);
     }
 
-    RecordingNameList names;
-    CTamloDoc doc;
     GaugeWidget widget;
     MemoryOptionTree tree;
 };
@@ -71,9 +65,8 @@ TEST_F(PropertyListTest, RowsStandUnderTheirGroupsWithTheirValues)
 {
     const auto basicRows = tree.ChildrenOf(tree.Find("Basic properties"));
     ASSERT_EQ(basicRows.size(), 14u);
-    EXPECT_EQ(basicRows[0]->editText, "gauge1");
-    EXPECT_EQ(basicRows[5]->editText, "40") << "width";
-    EXPECT_EQ(basicRows[6]->editText, "50") << "height";
+    EXPECT_EQ(std::tuple(basicRows[0]->editText, basicRows[5]->editText, basicRows[6]->editText),
+              std::tuple("gauge1", "40", "50")) << "name, width and height";
 
     const auto gaugeRows = tree.ChildrenOf(tree.Find("Gauge"));
     ASSERT_EQ(gaugeRows.size(), 3u) << "an unknown item type builds no row";
@@ -114,22 +107,16 @@ TEST_F(PropertyListTest, GeometryEditsMoveOrResizeAndRefusedOnesAreShownUndone)
     }
 }
 
-TEST_F(PropertyListTest, RenamingUpdatesTheWidgetNameList)
+TEST_F(PropertyListTest, NamesFlagsAndNumbersAreTakenAsTypedWithoutByteTruncation)
 {
     Edit("Name", "needle");
     EXPECT_EQ(widget.GetWidgetName(), "needle");
-    EXPECT_EQ(names.log, (std::vector<std::string>{"remove gauge1", "add needle selected"}));
-}
-
-TEST_F(PropertyListTest, FlagsAndNumbersHaveNoByteTruncation)
-{
     Edit("Horizontal offset", "300");
     Edit("Flash speed", "-1");
     tree.Find("Enable")->SetCheck(false);
     widget.UpdateWidgetPropByTree(tree.Find("Enable"));
     const HmiWidgetExtension& extension = widget.GetExtension();
     EXPECT_EQ(std::tuple(extension.xoffset, widget.m_nFlashSpeed, extension.enable), std::tuple(300, -1, 0));
-    EXPECT_TRUE(doc.IsModified());
 }
 
 TEST_F(PropertyListTest, ItemsOfNoRecordChangeNothing)
@@ -137,5 +124,4 @@ TEST_F(PropertyListTest, ItemsOfNoRecordChangeNothing)
     widget.UpdateWidgetPropByTree(tree.Find("Button Down"));
     widget.UpdateWidgetPropByTree(nullptr);
     EXPECT_EQ(widget.GetWidgetRect(), (HmiRect{10, 10, 50, 60}));
-    EXPECT_FALSE(doc.IsModified());
 }

@@ -28,7 +28,7 @@ CHmiWidget& AddWidget(CTamloDoc& doc, const char* classKey, const char* name)
 {
     HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(classKey)->CreateObject();
     widget->SetWidgetName(name);
-    doc.AddWidget(std::move(widget), true, false);
+    doc.AddWidget(std::move(widget), true);
     return *doc.Widgets().back();
 }
 

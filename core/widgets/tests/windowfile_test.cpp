@@ -168,7 +168,7 @@ Widget& Add(CTamloDoc& doc, Widget* widget, const char* name, HmiRect rect)
 {
     widget->SetWidgetName(name);
     widget->SetWidgetRect(rect);
-    doc.AddWidget(HmiWidgetPtr(widget), true, false);
+    doc.AddWidget(HmiWidgetPtr(widget), true);
     return *widget;
 }
 

@@ -25,14 +25,20 @@ HmiWidgetPtr MakeWidget(CHmiWidget* widget, HmiRect rect)
 TEST(WindowPainter, DrawsTheWindowFirstWhereverItStandsThenTheListInOrder)
 {
     CTamloDoc doc;
-    doc.AddWidget(MakeWidget(new BoxWidget, {1, 1, 2, 2}), true, false);
-    doc.AddWidget(MakeWidget(new CHmiWidgetWindow, {0, 0, 40, 30}), true, false);
-    doc.AddWidget(MakeWidget(new BoxWidget, {3, 3, 4, 4}), true, false);
+    doc.AddWidget(MakeWidget(new BoxWidget, {1, 1, 2, 2}), true);
+    doc.AddWidget(MakeWidget(new CHmiWidgetWindow, {0, 0, 40, 30}), true);
+    doc.AddWidget(MakeWidget(new BoxWidget, {3, 3, 4, 4}), true);
 
-    RecordingDC dc;
-    DrawWindow(doc, dc);
-    std::vector<HmiRect> drawn;
-    for (const RecordingDC::Shape& shape : dc.ShapesOfKind("rectangle"))
-        drawn.push_back(shape.rect);
-    EXPECT_EQ(drawn, (std::vector<HmiRect>{{0, 0, 40, 30}, {1, 1, 2, 2}, {3, 3, 4, 4}}));
+    const auto drawn = [&doc](const std::vector<HmiRect>* areas) {
+        RecordingDC dc;
+        areas ? DrawWindow(doc, dc, *areas) : DrawWindow(doc, dc);
+        std::vector<HmiRect> rects;
+        for (const RecordingDC::Shape& shape : dc.ShapesOfKind("rectangle"))
+            rects.push_back(shape.rect);
+        return rects;
+    };
+    EXPECT_EQ(drawn(nullptr), (std::vector<HmiRect>{{0, 0, 40, 30}, {1, 1, 2, 2}, {3, 3, 4, 4}}));
+    // Areas leave out the widgets they do not meet, but never the window, the background.
+    const std::vector<HmiRect> edge{{4, 4, 9, 9}};
+    EXPECT_EQ(drawn(&edge), (std::vector<HmiRect>{{0, 0, 40, 30}, {3, 3, 4, 4}}));
 }

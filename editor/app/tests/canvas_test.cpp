@@ -17,9 +17,48 @@
 
 #include <QAction>
 #include <QDir>
+#include <QPaintEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
+
+#include <functional>
+
+namespace {
+
+// What the canvas repainted, and how often.
+struct RepaintRecorder : QObject {
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            painted += static_cast<QPaintEvent*>(event)->region();
+            ++paints;
+        }
+        return false;
+    }
+    QRegion painted;
+    int paints = 0;
+};
+
+// A widget that asks for a repaint while it is drawn, as a careless widget library's might.
+struct RestlessWidget : CHmiWidget {
+    std::string GetWidgetClassName() const override { return "restless"; }
+    void Draw(CHmiDC&) override { m_pView->InvalidateView(); }
+};
+
+// Where a widget stands, with room around it for its handles when asked for.
+QRegion Area(const HmiRect& rect, int room = 0)
+{
+    return QRect(rect.left, rect.top, rect.Width(), rect.Height()).adjusted(-room, -room, room, room);
+}
+
+// Lets the canvas repaint what it was asked to, at the pace the platform allows.
+void LetTheCanvasPaint()
+{
+    QTest::qWait(50);
+}
+
+} // namespace
 
 class CanvasTest : public QObject {
     Q_OBJECT
@@ -104,7 +143,6 @@ private slots:
 
         // Dragging one moves all; the title and the pane follow, and Ctrl+Z takes the move back.
         document->SetModifiedFlag(false);
-        child->RefreshTitle();
         Drag(view, QPoint(20, 20), QPoint(35, 25));
         QCOMPARE(RectOf(a), (HmiRect{25, 15, 65, 55}));
         QVERIFY(child->isWindowModified());
@@ -165,6 +203,52 @@ private slots:
         QVERIFY(view->IsLocked());
     }
 
+    // An edit repaints where its widget stood and stands, and nothing else; painting never asks
+    // for another repaint.
+    void editsRepaintOnlyWhereTheWidgetStoodAndStands()
+    {
+        CHmiWidget* a = AddRect(*document, {100, 100, 140, 140});
+        AddRect(*document, {300, 300, 340, 340});
+        Click(view, QPoint(120, 120));
+        CPropertyPane& pane = editor->frame.PropertyPane();
+        const struct {
+            const char* name;
+            std::function<void()> edit;
+        } edits[] = {
+            {"arrow key", [&] { Press(Qt::Key_Right); }},
+            {"drag", [&] { Drag(view, QPoint(120, 120), QPoint(150, 170)); }},
+            {"row",
+             [&] {
+                 pane.FindItem("Left")->SetEditText("20");
+                 emit pane.itemChanged(pane.FindItem("Left"));
+             }},
+            {"undo", [&] { Press(Qt::Key_Z, Qt::ControlModifier); }},
+            {"sequence", [&] { editor->frame.findChild<QAction*>(QStringLiteral("actionMoveToTop"))->trigger(); }},
+        };
+        RepaintRecorder repaints;
+        view->installEventFilter(&repaints);
+        for (const auto& [name, edit] : edits) {
+            LetTheCanvasPaint();
+            repaints.painted = QRegion();
+            const HmiRect before = RectOf(a);
+            edit();
+            LetTheCanvasPaint();
+            constexpr int kHandleRoom = 8;
+            QVERIFY2((Area(before) + Area(RectOf(a)) - repaints.painted).isEmpty(), name);
+            QVERIFY2((repaints.painted - Area(before, kHandleRoom) - Area(RectOf(a), kHandleRoom)).isEmpty(), name);
+        }
+
+        auto restless = std::make_unique<RestlessWidget>();
+        restless->SetWidgetRect({400, 100, 420, 120});
+        restless->m_pView = view;
+        document->AddWidget(HmiWidgetPtr(restless.release()), true);
+        LetTheCanvasPaint();
+        repaints.paints = 0;
+        view->update();
+        LetTheCanvasPaint();
+        QCOMPARE(repaints.paints, 1);
+    }
+
     // The canvas's own menu shows its status texts in the main window, as the menu bar does.
     void theContextMenuShowsStatusTexts()
     {
@@ -179,6 +263,7 @@ private slots:
     void deleteCutCopyAndPasteKeys()
     {
         CHmiWidget* a = AddRect(*document, {10, 10, 50, 50});
+        AddRect(*document, {100, 100, 140, 140});
         const QString name = QString::fromStdString(a->GetWidgetName());
         CWidgetNameCombo& names = editor->frame.NameCombo();
         Click(view, QPoint(20, 20));
@@ -186,9 +271,12 @@ private slots:
         QVERIFY(document->IsWidgetDeleted(a));
         QCOMPARE(names.findText(name), -1);
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{document->FindWindowWidget()});
+        // Undo brings the name back to its place, between the window's and the other's; the list
+        // keeps showing the selected widget.
         Press(Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(!document->IsWidgetDeleted(a));
-        QVERIFY(names.findText(name) >= 0);
+        QCOMPARE(names.findText(name), 1);
+        QCOMPARE(names.currentText(), QStringLiteral("window"));
 
         Click(view, QPoint(20, 20));
         Press(Qt::Key_C, Qt::ControlModifier);
@@ -196,10 +284,13 @@ private slots:
         CHmiWidget* copy = document->Widgets().back().get();
         QCOMPARE(RectOf(copy), (HmiRect{20, 20, 60, 60}));
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{copy});
-        // Undo takes the pasted widget away again, and the pane lets go of it.
+        QCOMPARE(names.currentText().toStdString(), copy->GetWidgetName());
+        // Undo takes the pasted widget away again; the pane and the name list let go of it.
         Press(Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(document->Widgets().size(), std::size_t(2));
+        QCOMPARE(document->Widgets().size(), std::size_t(3));
         QCOMPARE(editor->frame.PropertyPane().CurrentWidget(), document->FindWindowWidget());
+        QCOMPARE(names.count(), 3);
+        QCOMPARE(names.currentText(), QStringLiteral("window"));
 
         Click(view, QPoint(20, 20));
         Press(Qt::Key_X, Qt::ControlModifier);
@@ -242,7 +333,7 @@ private slots:
         auto gradient = std::make_unique<CHmiWidgetGradRect>();
         gradient->SetWidgetRect({-300, 40, 900, 700});
         gradient->m_nDirection = 44;
-        document->AddWidget(HmiWidgetPtr(gradient.release()), true, false);
+        document->AddWidget(HmiWidgetPtr(gradient.release()), true);
         AddRect(*document, {150, -20, 2000, 130});
         view->Selection().Deselect(document->GetWindowWidget());
         CHmiImageDC rendered(1024, 768);

@@ -75,7 +75,7 @@ inline CHmiWidget* AddRect(CTamloDoc& document, const HmiRect& rect)
     HmiWidgetPtr widget(new CHmiWidgetRect);
     widget->SetWidgetRect(rect);
     CHmiWidget* added = widget.get();
-    document.AddWidget(std::move(widget), true, false);
+    document.AddWidget(std::move(widget), true);
     return added;
 }
 

@@ -39,7 +39,7 @@ void AddSample(CTamloDoc& document, const ControlSample& sample)
     HmiWidgetPtr widget(new Widget);
     widget->SetWidgetName(sample.name);
     widget->SetWidgetRect(sample.rect);
-    document.AddWidget(std::move(widget), true, false);
+    document.AddWidget(std::move(widget), true);
 }
 
 QRect ToQRect(const HmiRect& rect)
@@ -110,7 +110,7 @@ private slots:
 
     // Opens a saved window file with one widget of every control kind. The edit box has no class
     // key of its own in the registry, so no file brings one: it joins the open window directly,
-    // as a placed or pasted widget does, and gets its control with the next repaint all the same.
+    // as a placed or pasted widget does, and gets its control as it joins all the same.
     void init()
     {
         editor = std::make_unique<EditorUnderTest>();
@@ -127,7 +127,6 @@ private slots:
         view = &child->View();
         document = &child->Document();
         AddSample<CHmiWidgetEdit>(*document, kEdit);
-        view->InvalidateView();
         LetTheCanvasPaint();
     }
 
@@ -205,7 +204,6 @@ private slots:
                                                               {kHistory, "\"190,\""}};
         for (const auto& [sample, savedWidths] : lists) {
             document->SetModifiedFlag(false);
-            child->RefreshTitle();
 
             QHeaderView* header = List(sample)->header();
             auto* columns = dynamic_cast<ListColumnsState*>(Find(sample));
@@ -240,17 +238,17 @@ private slots:
         QCOMPARE(items, QStringList({"a", "b", "", "c"}));
         QCOMPARE(combobox->currentText(), QStringLiteral("a"));
 
-        // The field dialog gives new columns of the default width; the canvas redraws after it.
+        // The field dialog gives new columns of the default width, and tells the document.
         auto* alarms = dynamic_cast<CHmiWidgetAlarmWnd*>(Find(kAlarms));
         alarms->SetDisplayFields("Time,Alarm info,");
-        view->InvalidateView();
+        document->WidgetChanged(*alarms, DocChange::Properties);
         QHeaderView* header = List(kAlarms)->header();
         QCOMPARE(header->count(), 2);
         QCOMPARE(List(kAlarms)->headerItem()->text(1), QStringLiteral("Alarm info"));
         QCOMPARE(header->sectionSize(1), 80);
         // With every field unchecked the list has no columns at all.
         alarms->SetDisplayFields("");
-        view->InvalidateView();
+        document->WidgetChanged(*alarms, DocChange::Properties);
         QCOMPARE(header->count(), 0);
     }
 };

@@ -94,7 +94,7 @@ private:
         HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(classKey)->CreateObject();
         widget->SetWidgetRect({10, 10, 60, 40});
         m_widget = widget.get();
-        m_document->AddWidget(std::move(widget), true, false);
+        m_document->AddWidget(std::move(widget), true);
         m_document->SetModifiedFlag(false);
         m_widget->CreateWidgetPropertyTree(m_tree);
         m_row = m_tree.Find(caption, root);
@@ -320,7 +320,6 @@ private slots:
             PressOk(dialog);
         }));
         const std::string code = "a();\r\nb();\r\nc();\r\nd();\r\nsetvalue(var, value)\r\nbeep()";
-        QCOMPARE(m_widget->GetEvents()[0].code, code);
         QCOMPARE(SavedSection("events"),
                  "\t\t\t<event name=\"click\">\n\t\t\t\t<![CDATA[" + code + "]]>\n\t\t\t</event>\r\n");
 

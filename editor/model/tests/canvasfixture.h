@@ -9,23 +9,11 @@
 
 #include <gtest/gtest.h>
 
-// A view that lets the selection forget widgets the document destroys, as the canvas does.
-struct ForgettingView : FakeView {
-    using FakeView::FakeView;
-    void WidgetRemoved(CHmiWidget* widget) override
-    {
-        if (selection)
-            selection->Forget(widget);
-    }
-    CCanvasSelection* selection = nullptr;
-};
-
 // A canvas without a display: a document with its window widget, a view scrolled by an
 // offset, a selection and a tool host that records what the tools asked of it.
 struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     CanvasFixture() : view({5, 7}), selection(document, view)
     {
-        view.selection = &selection;
         document.AddView(&view);
         document.OnNewDocument();
         selection.Select(nullptr, false);
@@ -48,7 +36,7 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
         HmiWidgetPtr widget(new CHmiWidgetRect);
         widget->SetWidgetRect(rect);
         CHmiWidget* added = widget.get();
-        document.AddWidget(std::move(widget), true, false);
+        document.AddWidget(std::move(widget), true);
         return added;
     }
     CHmiWidget* Window() const { return document.GetWindowWidget(); }
@@ -70,7 +58,7 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
 
     CRegistryScope registry;
     CTamloDoc document;
-    ForgettingView view;
+    FakeView view;
     CCanvasSelection selection;
     bool locked = false;
     bool captured = false;

@@ -58,7 +58,7 @@ private:
         HmiWidgetPtr widget = CHmiWidget::GetWidgetClass(key)->CreateObject();
         widget->SetWidgetRect(rect);
         auto* added = dynamic_cast<Widget*>(widget.get());
-        doc->AddWidget(std::move(widget), true, false);
+        doc->AddWidget(std::move(widget), true);
         return added;
     }
 
@@ -205,19 +205,17 @@ private slots:
         QCOMPARE(pane->Tree()->currentItem(), Row("Left")->Row());
         QCOMPARE(ExtraColumnPixel("Left"), kBoundColor);
 
-        // A binding made in a dialog shows once the main frame asks for a refresh.
-        QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
+        // A binding made in a dialog shows once the document tells of it.
         rect->AddWidgetDynProp("top", "$db.y");
         rect->AddWidgetDynProp("left", "");
-        pane->RefreshWidget();
+        doc->WidgetChanged(*rect, DocChange::Bindings);
         QCOMPARE(ExtraColumnPixel("Top"), kBoundColor);
         QCOMPARE(ExtraColumnPixel("Left"), kFaceColor);
-        QCOMPARE(edited.count(), 1);
     }
 
     // The rules for each row are tested with the widget's property list; here, that the pane
-    // commits what was typed on Return alone and shows the widget again: derived rows follow,
-    // refused values are put back.
+    // commits what was typed on Return alone, tells the document and shows the widget again:
+    // derived rows follow, refused values are put back.
     void geometryEditsChangeTheRectangle()
     {
         const struct {
@@ -229,7 +227,7 @@ private slots:
         for (const auto& edit : edits) {
             auto* rect = Show(Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60}));
             QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
-            QSignalSpy edited(pane.get(), &CPropertyPane::widgetEdited);
+            doc->SetModifiedFlag(false);
             QLineEdit* field = EditorOf<QLineEdit>(edit.caption);
             QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
             QTest::keyClicks(field, edit.typed);
@@ -239,7 +237,7 @@ private slots:
             QCOMPARE(changed.count(), 1);
             QCOMPARE(changed.first().first().value<COptionTreeItem*>(),
                      static_cast<COptionTreeItem*>(Row(edit.caption)));
-            QCOMPARE(edited.count(), 1);
+            QVERIFY(doc->IsModified());
             QCOMPARE(Geometry(rect->GetWidgetRect()), QString(edit.geometry));
             QCOMPARE(ShownGeometry(), QString(edit.geometry));
         }
@@ -350,15 +348,6 @@ private slots:
         QCOMPARE(pane->Tree()->topLevelItemCount(), 0);
         QCOMPARE(pane->CurrentWidget(), nullptr);
         QCOMPARE(Geometry(rect->GetWidgetRect()), QString("10,10,50,50,40,40"));
-
-        // A main frame that rebuilds the pane whenever the widget was edited.
-        connect(pane.get(), &CPropertyPane::widgetEdited, pane.get(),
-                [this](CHmiWidget* widget) { pane->ShowWidget(widget); });
-        Show(rect);
-        Type(EditorOf<QLineEdit>("Top"), "0");
-        QCoreApplication::processEvents();
-        QCOMPARE(Geometry(rect->GetWidgetRect()), QString("10,0,50,40,40,40"));
-        QCOMPARE(ShownGeometry(), Geometry(rect->GetWidgetRect()));
     }
 };
 

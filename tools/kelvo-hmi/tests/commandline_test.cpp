@@ -69,17 +69,13 @@ std::string WindowFile(int right = 40, int bottom = 30)
 
 } // namespace
 
-TEST(CommandLine, ListsRoundTripsAndListsVariables)
+// What a round trip writes is checked against the recorded bytes below.
+TEST(CommandLine, ListsWidgetsAndVariables)
 {
     TempDir dir;
-    const std::string in = dir.Write("w.xml", WindowFile());
-    const ToolRun list = RunTool("list '" + in + "'");
+    const ToolRun list = RunTool("list '" + dir.Write("w.xml", WindowFile()) + "'");
     EXPECT_EQ(list.status, 0);
     EXPECT_EQ(list.output, "tick\ttimer\t5\t0\t9\t0\nwindow\twindow\t0\t0\t40\t30\n");
-
-    EXPECT_EQ(RunTool("roundtrip '" + in + "' '" + dir.Path("out.xml") + "'").status, 0);
-    EXPECT_EQ(RunTool("list '" + dir.Path("out.xml") + "'").output, "window\twindow\t0\t0\t40\t30\n"
-                                                                    "tick\ttimer\t5\t0\t9\t0\n");
 
     const ToolRun vars = RunTool(std::string("vars '") + KELVO_DEMO_DIR + "'");
     EXPECT_EQ(vars.status, 0);
