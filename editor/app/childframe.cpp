@@ -43,7 +43,6 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
 // The view goes before the document it shows.
 CChildFrame::~CChildFrame()
 {
-    emit closing();
     m_document->RemoveObserver(this);
     delete widget();
 }

@@ -38,8 +38,6 @@ signals:
     void documentSaved(const QString& path);
     // The user closed the window, and its changes were saved or discarded.
     void closedByUser();
-    // The window is being destroyed: its document's widgets go next.
-    void closing();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -96,7 +96,6 @@ CMainFrame::~CMainFrame()
 {
     // The children's documents go before the panes that show their widgets, without questions;
     // closed children may still wait for their deletion.
-    m_propertyPane->Clear();
     const QList<CChildFrame*> children = m_mdiArea->findChildren<CChildFrame*>();
     for (CChildFrame* child : children)
         child->disconnect(this);
@@ -415,11 +414,6 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
     connect(child, &CChildFrame::documentSaved, this, [this](const QString& path) {
         m_recentFiles.Add(QFileInfo(path).absoluteFilePath());
         UpdateRecentFileActions();
-    });
-    connect(child, &CChildFrame::closing, this, [this, child] {
-        const CHmiWidget* shown = m_propertyPane->CurrentWidget();
-        if (shown && shown->m_pDocument == &child->Document())
-            m_propertyPane->Clear();
     });
     connect(child, &QObject::destroyed, this, [this, child] {
         if (m_shownChild == child)
