@@ -19,8 +19,9 @@ constexpr int kClassKeyRole = Qt::UserRole;
 
 bool FromLibrary(const std::string& key)
 {
-    return std::any_of(RegisteredWidgetLibs().begin(), RegisteredWidgetLibs().end(), [&key](const CWidgetLibRecord& lib) {
-        return std::any_of(lib.m_pEntries, lib.m_pEntries + lib.m_nCount,
+    const std::vector<CWidgetLibRecord>& libraries = RegisteredWidgetLibs();
+    return std::any_of(libraries.begin(), libraries.end(), [&key](const CWidgetLibRecord& library) {
+        return std::any_of(library.m_pEntries, library.m_pEntries + library.m_nCount,
                            [&key](const CWidgetRunTimeClass& entry) { return entry.m_strClassKey == key; });
     });
 }

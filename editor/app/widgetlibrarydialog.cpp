@@ -39,7 +39,8 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
         const QString reason = library.outcome == LibraryOutcome::SkippedAfterCrash && !SkippedAtNextStart(library)
                                    ? kLoadedAtNextStart
                                    : QString::fromStdString(library.reason);
-        m_list->addTopLevelItem(new QTreeWidgetItem({ToQtPath(library.file), QString::fromLatin1(OutcomeText(library.outcome)), reason}));
+        const QString outcome = QString::fromLatin1(OutcomeText(library.outcome));
+        m_list->addTopLevelItem(new QTreeWidgetItem({ToQtPath(library.file), outcome, reason}));
     }
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CWidgetLibraryDialog::UpdateLoadAgainButton);

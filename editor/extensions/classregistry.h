@@ -13,7 +13,10 @@
 template <typename Entry>
 class CClassRegistry final : public CLibraryExtensionPoint {
 public:
-    void Add(const CHmiRuntimeClass& widgetClass, Entry entry) { m_entries.push_back({&widgetClass, std::move(entry)}); }
+    void Add(const CHmiRuntimeClass& widgetClass, Entry entry)
+    {
+        m_entries.push_back({&widgetClass, std::move(entry)});
+    }
 
     // matches(entry) picks among the entries of one class.
     template <typename Matches>

@@ -89,9 +89,9 @@ void ImportPicture(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, c
         return;
     // Brought in here rather than by the widget, so that a failure is told to the user.
     std::string name;
-    const FileResult imported = folder.empty()
-                                    ? FileResult::Failure("The window has no folder for its pictures yet: save it first.")
-                                    : ImportPictureFile(ToModel(chosen), folder, name);
+    const FileResult imported =
+        folder.empty() ? FileResult::Failure("The window has no folder for its pictures yet: save it first.")
+                       : ImportPictureFile(ToModel(chosen), folder, name);
     if (!imported)
         context.reportError(parent, QString::fromStdString(imported.error));
     else
