@@ -454,7 +454,7 @@ void CMainFrame::ShowSelection(CTamloView& view)
     const std::vector<CHmiWidget*>& selected = view.Selection().Widgets();
     if (selected.empty()) {
         m_propertyPane->Clear();
-        m_nameCombo->setCurrentIndex(-1);
+        m_nameCombo->SelectWidget(nullptr);
         return;
     }
     CHmiWidget* reference = selected.back();

@@ -56,6 +56,7 @@ void CWidgetNameCombo::ShowDocument(CTamloDoc* document)
     if (m_document)
         m_document->RemoveObserver(this);
     m_document = document;
+    m_shown = nullptr;
     if (m_document)
         m_document->AddObserver(this);
     ListWidgets();
@@ -75,19 +76,18 @@ void CWidgetNameCombo::ListWidgets()
 void CWidgetNameCombo::SelectWidget(const CHmiWidget* widget)
 {
     const QSignalBlocker quiet(this);
+    m_shown = widget;
     setCurrentIndex(FindWidget(widget));
 }
 
 void CWidgetNameCombo::DocumentChanged(const CDocumentChange& change)
 {
     const QSignalBlocker quiet(this);
-    const CHmiWidget* current = WidgetAt(currentIndex());
     if (change.Has(DocChange::Reloaded) || change.widgets.size() > kNamesPlacedOneByOne)
         ListWidgets();
     else
         Follow(change.widgets);
-    if (const int index = FindWidget(current); index >= 0)
-        setCurrentIndex(index);
+    setCurrentIndex(FindWidget(m_shown));
 }
 
 void CWidgetNameCombo::Follow(const std::vector<HmiWidgetChange>& changed)
@@ -124,5 +124,6 @@ void CWidgetNameCombo::PutBack(const std::vector<const CHmiWidget*>& widgets)
 void CWidgetNameCombo::DocumentDestroyed()
 {
     m_document = nullptr;
+    m_shown = nullptr;
     ListWidgets();
 }

@@ -19,7 +19,8 @@ public:
 
     // Lists the widgets of a document (none: empty) and follows its changes.
     void ShowDocument(CTamloDoc* document);
-    // Shows the widget's name as the current one without reporting a choice.
+    // Shows the widget's name as the current one without reporting a choice; a widget the
+    // document has not told of yet (one just placed) is shown once it is listed. Null shows none.
     void SelectWidget(const CHmiWidget* widget);
     CHmiWidget* WidgetAt(int index) const;
 
@@ -39,4 +40,6 @@ private:
     void PutBack(const std::vector<const CHmiWidget*>& widgets);
 
     CTamloDoc* m_document = nullptr;
+    // The widget whose name is to be current; only compared, never followed.
+    const CHmiWidget* m_shown = nullptr;
 };

@@ -107,6 +107,7 @@ private slots:
         Drag(view, QPoint(120, 80), QPoint(20, 30));
         CHmiWidget* placed = document->Widgets().back().get();
         QCOMPARE(placed->GetWidgetClassName(), std::string("rectangle"));
+        QCOMPARE(editor->frame.NameCombo().currentText().toStdString(), placed->GetWidgetName());
 
         // Escape, on the canvas or in the toolbox, gives the pointer back: the next drag selects.
         Press(Qt::Key_Escape);
