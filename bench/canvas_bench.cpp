@@ -231,7 +231,8 @@ void MeasureHugeWidgets()
 {
     CTamloDoc document;
     FillWithHugeWidgets(document);
-    CTamloView view(document);
+    CCanvasTools tools;
+    CTamloView view(document, tools);
     view.show();
     QCoreApplication::processEvents();
     QImage image(view.size(), kImageFormat);
@@ -245,7 +246,8 @@ void MeasureCanvas(int widgetCount)
 {
     CTamloDoc document;
     FillDocument(document, widgetCount);
-    CTamloView view(document);
+    CCanvasTools tools;
+    CTamloView view(document, tools);
     view.show();
     QCoreApplication::processEvents();
     QImage image(view.size(), kImageFormat);

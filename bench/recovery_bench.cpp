@@ -7,6 +7,7 @@
 #include "editor/app/mainframe.h"
 #include "editor/app/recoverykeeper.h"
 #include "editor/app/recoveryoffer.h"
+#include "editor/model/editorsession.h"
 #include "editor/recovery/recoverystore.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/tamlodoc.h"
@@ -75,7 +76,8 @@ void Measure(int widgetCount, const QString& root)
     QTemporaryDir profile;
     QSettings settings(profile.filePath(QStringLiteral("profile.ini")), QSettings::IniFormat);
     RestoringPrompts prompts;
-    CMainFrame frame(prompts, settings);
+    CEditorSession session;
+    CMainFrame frame(prompts, settings, session);
     CRecoveryKeeper keeper(frame, NewSession(root), 1h);
     CChildFrame* child = frame.AddChild(Document(widgetCount));
     const std::string content = child->Document().Serialize();

@@ -4,31 +4,24 @@
 #include "pathtext.h"
 #include "tamloview.h"
 
+#include "editor/model/editorsession.h"
+
 #include "widgets/tamlodoc.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QScrollArea>
 
-namespace {
-
-// New windows are called Tamlo1, Tamlo2 and so on until they are saved.
-QString NextUntitledName()
-{
-    static int count = 0;
-    return QStringLiteral("Tamlo%1").arg(++count);
-}
-
-} // namespace
-
-CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, QWidget* parent)
+CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, CEditorSession& session,
+                         QWidget* parent)
     : QMdiSubWindow(parent)
     , m_document(std::move(document))
     , m_prompts(prompts)
-    , m_view(new CTamloView(*m_document))
+    , m_view(new CTamloView(*m_document, session.Tools()))
 {
+    // New windows are called Tamlo1, Tamlo2 and so on until they are saved.
     if (m_document->GetPathName().empty())
-        m_untitledName = NextUntitledName();
+        m_untitledName = QStringLiteral("Tamlo%1").arg(session.NextUntitledNumber());
     auto* scroller = new QScrollArea;
     scroller->setWidget(m_view);
     scroller->setAlignment(Qt::AlignLeft | Qt::AlignTop);

@@ -7,6 +7,7 @@
 #include <memory>
 
 class CEditorPrompts;
+class CEditorSession;
 class CTamloDoc;
 class CTamloView;
 
@@ -16,7 +17,8 @@ class CTamloView;
 class CChildFrame : public QMdiSubWindow, public CDocumentObserver {
     Q_OBJECT
 public:
-    CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, QWidget* parent = nullptr);
+    CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, CEditorSession& session,
+                QWidget* parent = nullptr);
     ~CChildFrame() override;
 
     CTamloDoc& Document() const { return *m_document; }

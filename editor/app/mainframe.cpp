@@ -12,6 +12,7 @@
 #include "editor/dynamicdialogs/dynpropertyedit.h"
 #include "editor/dynamicdialogs/eventedit.h"
 #include "editor/model/editcommands.h"
+#include "editor/model/editorsession.h"
 #include "editor/projectdialogs/projectwindowdialog.h"
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/propertypane/propertypane.h"
@@ -61,10 +62,11 @@ void ShowAtCanvasSize(CChildFrame& child, const QMdiArea& area)
 
 } // namespace
 
-CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* parent)
+CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSession& session, QWidget* parent)
     : QMainWindow(parent)
     , m_prompts(prompts)
     , m_settings(settings)
+    , m_session(session)
     , m_recentFiles(settings)
     , m_mdiArea(new QMdiArea(this))
     , m_cursorPosition(new QLabel(this))
@@ -104,7 +106,7 @@ CMainFrame::~CMainFrame()
 
 void CMainFrame::CreateDocks()
 {
-    m_toolbox = new CToolbox;
+    m_toolbox = new CToolbox(m_session.Tools());
     auto* toolboxDock = new QDockWidget(QStringLiteral("Toolbox"), this);
     toolboxDock->setObjectName(QStringLiteral("toolboxDock"));
     toolboxDock->setWidget(m_toolbox);
@@ -397,7 +399,7 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
 
 CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
 {
-    auto* child = new CChildFrame(std::move(document), m_prompts);
+    auto* child = new CChildFrame(std::move(document), m_prompts, m_session);
     CTamloView& view = child->View();
     view.SetContextMenu(m_canvasMenu);
     connect(&view, &CTamloView::selectionChanged, this, [this, child] {
@@ -544,7 +546,7 @@ void CMainFrame::FileSaveAs()
 
 void CMainFrame::CancelTool()
 {
-    CCanvasTools& tools = CCanvasTools::Instance();
+    CCanvasTools& tools = m_session.Tools();
     if (CTamloView* view = ActiveView())
         tools.Cancel(*view); // ends a drag in progress too
     else

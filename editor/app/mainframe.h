@@ -16,6 +16,7 @@
 class CChildFrame;
 class COptionTreeItem;
 class CEditorPrompts;
+class CEditorSession;
 class CFormatActions;
 class CHmiWidget;
 class CPropertyPane;
@@ -36,7 +37,7 @@ class QSettings;
 class CMainFrame : public QMainWindow {
     Q_OBJECT
 public:
-    CMainFrame(CEditorPrompts& prompts, QSettings& settings, QWidget* parent = nullptr);
+    CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSession& session, QWidget* parent = nullptr);
     ~CMainFrame() override;
 
     CChildFrame* NewDocument();
@@ -114,6 +115,7 @@ private:
 
     CEditorPrompts& m_prompts;
     QSettings& m_settings;
+    CEditorSession& m_session;
     CRecentFileList m_recentFiles;
     QMdiArea* m_mdiArea;
     QLabel* m_cursorPosition; // where the mouse stands on the canvas, in window coordinates

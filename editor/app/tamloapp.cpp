@@ -76,7 +76,7 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     WidgetLibraryLoadReport libraries = LoadWidgetLibraries(kModulesFolder, ToModelPath(stateFolder));
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
-    m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings);
+    m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings, m_session);
     m_mainFrame->SetWidgetLibraries(std::move(libraries));
     auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
     connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, &CHandOverQueue::Add);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/model/editorsession.h"
 #include "editor/startup/singleinstance.h"
 
 #include <QObject>
@@ -49,6 +50,7 @@ private:
     CEditorPrompts& m_prompts;
     CInstanceGuard m_guard;
     std::unique_ptr<QSettings> m_settings;
+    CEditorSession m_session;
     std::unique_ptr<CMainFrame> m_mainFrame;
     std::unique_ptr<CRecoveryKeeper> m_recovery;
     std::unique_ptr<CTerminationSignals> m_termination;

@@ -84,9 +84,10 @@ std::optional<NudgeKey> ToNudgeKey(int key)
 
 } // namespace
 
-CTamloView::CTamloView(CTamloDoc& document, QWidget* parent)
+CTamloView::CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent)
     : QWidget(parent)
     , m_document(document)
+    , m_tools(tools)
     , m_selection(document, *this)
     , m_controls(*this, *this, document)
 {
@@ -267,23 +268,21 @@ void CTamloView::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
-    CCanvasTools::Instance().ButtonDown(*this, ToHmiPoint(event->position().toPoint()),
-                                        ToMouseFlags(event->modifiers()));
+    m_tools.ButtonDown(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
 }
 
 void CTamloView::mouseMoveEvent(QMouseEvent* event)
 {
     emit cursorMoved(event->position().toPoint());
-    CCanvasTools::Instance().MouseMove(*this, ToHmiPoint(event->position().toPoint()));
+    m_tools.MouseMove(*this, ToHmiPoint(event->position().toPoint()));
 }
 
 void CTamloView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return QWidget::mouseReleaseEvent(event);
-    CCanvasTools& tools = CCanvasTools::Instance();
-    const bool wasDragging = tools.IsDragging();
-    tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()));
+    const bool wasDragging = m_tools.IsDragging();
+    m_tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()));
     if (wasDragging)
         emit commandEnded();
 }
@@ -292,8 +291,7 @@ void CTamloView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return QWidget::mouseDoubleClickEvent(event);
-    CCanvasTools::Instance().DoubleClick(*this, ToHmiPoint(event->position().toPoint()),
-                                         ToMouseFlags(event->modifiers()));
+    m_tools.DoubleClick(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
 }
 
 void CTamloView::keyPressEvent(QKeyEvent* event)

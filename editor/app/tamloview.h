@@ -21,7 +21,8 @@ class QMenu;
 class CTamloView : public QWidget, public CHmiView, public CCanvasToolHost, public CDocumentObserver {
     Q_OBJECT
 public:
-    explicit CTamloView(CTamloDoc& document, QWidget* parent = nullptr);
+    // tools: the mouse tools, shared by every canvas of the editor.
+    CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent = nullptr);
     ~CTamloView() override;
 
     CTamloDoc& Document() const { return m_document; }
@@ -76,6 +77,7 @@ private:
     QRect FeedbackArea() const;
 
     CTamloDoc& m_document;
+    CCanvasTools& m_tools;
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;

@@ -40,7 +40,7 @@ QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
 
 } // namespace
 
-CToolbox::CToolbox(QWidget* parent) : QListWidget(parent)
+CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), m_tools(tools)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
     addItem(QStringLiteral("Pointer"));
@@ -76,18 +76,17 @@ bool CToolbox::HasClass(const std::string& key) const
 void CToolbox::Choose(QListWidgetItem* item)
 {
     const std::string key = item->data(kClassKeyRole).toString().toStdString();
-    CCanvasTools& tools = CCanvasTools::Instance();
     if (key.empty()) {
         CHmiWidget::CurWidgetClass = nullptr;
-        tools.SetCurrentTool(CanvasTool::Select);
+        m_tools.SetCurrentTool(CanvasTool::Select);
         return;
     }
     CHmiWidget::CurWidgetClass = CHmiWidget::GetWidgetClass(key);
-    tools.SetCurrentTool(CanvasTool::Place);
+    m_tools.SetCurrentTool(CanvasTool::Place);
 }
 
 void CToolbox::SyncWithCurrentTool()
 {
-    if (CCanvasTools::Instance().CurrentTool() == CanvasTool::Select && currentRow() != 0)
+    if (m_tools.CurrentTool() == CanvasTool::Select && currentRow() != 0)
         setCurrentRow(0);
 }

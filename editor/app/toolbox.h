@@ -4,6 +4,7 @@
 
 #include <string>
 
+class CCanvasTools;
 struct CWidgetRunTimeClass;
 
 // The toolbox pane: "Pointer", then the built-in widget kinds in their toolbox order, then every
@@ -14,7 +15,7 @@ struct CWidgetRunTimeClass;
 class CToolbox : public QListWidget {
     Q_OBJECT
 public:
-    explicit CToolbox(QWidget* parent = nullptr);
+    explicit CToolbox(CCanvasTools& tools, QWidget* parent = nullptr);
 
     // Shows the pointer again once the selection tool is back (a click that placed nothing).
     void SyncWithCurrentTool();
@@ -23,4 +24,6 @@ private:
     void AddClass(const CWidgetRunTimeClass& entry);
     bool HasClass(const std::string& key) const;
     void Choose(QListWidgetItem* item);
+
+    CCanvasTools& m_tools;
 };

@@ -46,12 +46,6 @@ int HandleUnder(CCanvasSelection& selection, HmiPoint canvasPoint)
 
 } // namespace
 
-CCanvasTools& CCanvasTools::Instance()
-{
-    static CCanvasTools tools;
-    return tools;
-}
-
 void CCanvasTools::ButtonDown(CCanvasToolHost& host, HmiPoint point, MouseFlags flags)
 {
     m_mode = DragMode::None;

@@ -31,12 +31,11 @@ enum class CanvasTool { Select = 0, Place = 1 };
 
 // The mouse tools of every canvas: the selection tool, which selects, moves and resizes, and
 // the placing tool, which creates a widget of CHmiWidget::CurWidgetClass over a dragged
-// rectangle. One tool is current for the whole editor and one drag happens at a time, so the
-// state is process-wide. Points are in the canvas's client coordinates.
+// rectangle. One tool is current for all canvases of the editor and one drag happens at a
+// time, so the canvases share one object (the editor session's). Points are in the canvas's
+// client coordinates.
 class CCanvasTools {
 public:
-    static CCanvasTools& Instance();
-
     CanvasTool CurrentTool() const { return m_tool; }
     void SetCurrentTool(CanvasTool tool) { m_tool = tool; }
 

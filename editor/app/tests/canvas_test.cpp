@@ -91,11 +91,7 @@ private slots:
         view->setFocus();
     }
 
-    void cleanup()
-    {
-        CCanvasTools::Instance().Cancel(*view);
-        editor.reset();
-    }
+    void cleanup() { editor.reset(); }
 
     void theToolboxPlacesWidgetsUntilAClickOrEscape()
     {

@@ -4,6 +4,7 @@
 #include "editor/app/editorprompts.h"
 #include "editor/app/mainframe.h"
 #include "editor/app/tamloview.h"
+#include "editor/model/editorsession.h"
 #include "editor/recovery/tests/recoveryfixture.h" // ReadBytes, WriteBytes
 #include "catalogue/hmiwidgetrect.h"
 #include "widgets/tamlodoc.h"
@@ -50,7 +51,7 @@ struct ScriptedPrompts : CEditorPrompts {
 struct EditorUnderTest {
     EditorUnderTest()
         : settings(folder.filePath(QStringLiteral("profile.ini")), QSettings::IniFormat)
-        , frame(prompts, settings)
+        , frame(prompts, settings, session)
     {
         frame.resize(1200, 900);
         frame.show();
@@ -67,6 +68,7 @@ struct EditorUnderTest {
     QTemporaryDir folder;
     ScriptedPrompts prompts;
     QSettings settings;
+    CEditorSession session;
     CMainFrame frame;
 };
 

@@ -130,11 +130,7 @@ private slots:
         LetTheCanvasPaint();
     }
 
-    void cleanup()
-    {
-        CCanvasTools::Instance().Cancel(*view);
-        editor.reset();
-    }
+    void cleanup() { editor.reset(); }
 
     void everyControlKindStandsAtItsWidget()
     {

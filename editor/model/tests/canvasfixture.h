@@ -17,13 +17,8 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
         document.AddView(&view);
         document.OnNewDocument();
         selection.Select(nullptr, false);
-        CCanvasTools::Instance().Cancel(*this);
     }
-    ~CanvasFixture() override
-    {
-        CCanvasTools::Instance().Cancel(*this);
-        CHmiWidget::CurWidgetClass = nullptr;
-    }
+    ~CanvasFixture() override { CHmiWidget::CurWidgetClass = nullptr; }
 
     CCanvasSelection& Selection() override { return selection; }
     bool IsLocked() const override { return locked; }
@@ -43,9 +38,9 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
 
     // Client points for window coordinates.
     HmiPoint Client(int x, int y) const { return view.DocToClient({x, y}); }
-    void Press(int x, int y, MouseFlags flags = {}) { CCanvasTools::Instance().ButtonDown(*this, Client(x, y), flags); }
-    void Move(int x, int y) { CCanvasTools::Instance().MouseMove(*this, Client(x, y)); }
-    void Release(int x, int y) { CCanvasTools::Instance().ButtonUp(*this, Client(x, y)); }
+    void Press(int x, int y, MouseFlags flags = {}) { tools.ButtonDown(*this, Client(x, y), flags); }
+    void Move(int x, int y) { tools.MouseMove(*this, Client(x, y)); }
+    void Release(int x, int y) { tools.ButtonUp(*this, Client(x, y)); }
     void Drag(int x0, int y0, int x1, int y1, MouseFlags flags = {})
     {
         Press(x0, y0, flags);
@@ -57,6 +52,7 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     std::vector<CHmiWidget*> Selected() const { return selection.Widgets(); }
 
     CRegistryScope registry;
+    CCanvasTools tools;
     CTamloDoc document;
     FakeView view;
     CCanvasSelection selection;

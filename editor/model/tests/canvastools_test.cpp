@@ -18,9 +18,9 @@ TEST_F(CanvasToolsTest, ControlClickAddsButNeverRemovesShiftDoubleClickRemoves)
     Click(110, 20);
     EXPECT_EQ(Selected(), (Widgets{a, b})) << "a press on a selected widget keeps the selection";
 
-    CCanvasTools::Instance().DoubleClick(*this, Client(20, 20), {});
+    tools.DoubleClick(*this, Client(20, 20), {});
     EXPECT_EQ(Selected(), (Widgets{a, b}));
-    CCanvasTools::Instance().DoubleClick(*this, Client(20, 20), {.shift = true});
+    tools.DoubleClick(*this, Client(20, 20), {.shift = true});
     EXPECT_EQ(Selected(), Widgets{b});
 }
 
@@ -114,7 +114,7 @@ TEST_F(CanvasToolsTest, LockKeepsEveryRectangleAndTheUndoStep)
 TEST_F(CanvasToolsTest, PlacingToolCreatesAWidgetOverTheDraggedRectangle)
 {
     CHmiWidget::CurWidgetClass = &CHmiWidgetRect::classCHmiWidgetRect;
-    CCanvasTools::Instance().SetCurrentTool(CanvasTool::Place);
+    tools.SetCurrentTool(CanvasTool::Place);
     const std::size_t before = document.Widgets().size();
 
     Drag(60, 40, 20, 10);
@@ -125,11 +125,11 @@ TEST_F(CanvasToolsTest, PlacingToolCreatesAWidgetOverTheDraggedRectangle)
     EXPECT_EQ(Selected(), Widgets{placed});
     ASSERT_EQ(document.UndoStep().size(), 1u);
     EXPECT_EQ(document.UndoStep()[0].operation, UndoOperation::Added);
-    EXPECT_EQ(CCanvasTools::Instance().CurrentTool(), CanvasTool::Place) << "the next drag places another";
+    EXPECT_EQ(tools.CurrentTool(), CanvasTool::Place) << "the next drag places another";
 
     Click(200, 200);
     EXPECT_EQ(document.Widgets().size(), before + 1) << "a click has no default size";
-    EXPECT_EQ(CCanvasTools::Instance().CurrentTool(), CanvasTool::Select);
+    EXPECT_EQ(tools.CurrentTool(), CanvasTool::Select);
 
     document.Undo();
     EXPECT_EQ(document.Widgets().size(), before);
