@@ -16,3 +16,9 @@ void HistoryDatabaseChoice::ReadHistoryName(const std::string& name, std::string
     m_nHistoryName = m_historyNames.Keep(name);
     m_historyNames.ReportKept(widgetKind, widgetName);
 }
+
+std::vector<ProjectNameUse> HistoryDatabaseChoice::ProjectNamesUsed() const
+{
+    return {{ProjectNameUse::Kind::HistoryDatabase, "historyname", HistoryName(),
+             !m_historyNames.IsKept(m_nHistoryName)}};
+}

@@ -2,6 +2,7 @@
 
 #include "projectnamechoice.h"
 #include "propertytable.h"
+#include "widgets/projectnameuse.h"
 
 #include <string>
 #include <string_view>
@@ -9,7 +10,7 @@
 // The history database that a history widget (curve or list) shows, chosen among the project's
 // databases. The file gets the database's name; a name the project does not list is kept as it
 // is (see ProjectNameChoice).
-class HistoryDatabaseChoice {
+class HistoryDatabaseChoice : public CProjectNameUser {
 public:
     HistoryDatabaseChoice();
 
@@ -19,6 +20,7 @@ public:
     std::string HistoryName() const { return m_historyNames.NameAt(m_nHistoryName); }
     // Chooses the database a file names; one the project does not list is kept and reported.
     void ReadHistoryName(const std::string& name, std::string_view widgetKind, std::string_view widgetName);
+    std::vector<ProjectNameUse> ProjectNamesUsed() const override;
 
     std::int32_t m_nHistoryName = 0; // index into HistoryNames()
 

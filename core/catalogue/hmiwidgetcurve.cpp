@@ -111,6 +111,12 @@ std::int32_t CHmiWidgetCurve::LogIndex() const
     return m_logNames.IsKept(m_nLogNameNum) ? m_nKeptLogIndex : m_nLogNameNum;
 }
 
+std::vector<ProjectNameUse> CHmiWidgetCurve::ProjectNamesUsed() const
+{
+    return {{ProjectNameUse::Kind::DataLog, "lognamenum", m_logNames.NameAt(m_nLogNameNum),
+             !m_logNames.IsKept(m_nLogNameNum)}};
+}
+
 // The file names the data log twice, by its index (lognamenum) and by its name (logname), and a
 // load and save must hand the panel both as they were. So the pair is kept as the file has it
 // unless the project lists that very name at that very index: when datalog.xml lost, renamed or

@@ -3,12 +3,13 @@
 #include "curvesettings.h"
 #include "projectnamechoice.h"
 #include "propertytable.h"
+#include "widgets/projectnameuse.h"
 
 #include <optional>
 
 // The realtime trend: up to 16 curves of live values, or of a data log in memory or in a
 // file, drawn by the panel. The editor holds the settings and previews random samples.
-class CHmiWidgetCurve : public CHmiTableWidget<CHmiWidgetCurve>, public CurveSettings {
+class CHmiWidgetCurve : public CHmiTableWidget<CHmiWidgetCurve>, public CurveSettings, public CProjectNameUser {
     HMI_DECLARE_WIDGET_CLASS(CHmiWidgetCurve)
 public:
     static constexpr const char* kClassKey = "curve";
@@ -27,6 +28,8 @@ public:
     const ProjectNameChoice& LogNames() const { return m_logNames; }
     // The data log's index as the file has it.
     std::int32_t LogIndex() const;
+    // The data log, when the project does not list the one the file names.
+    std::vector<ProjectNameUse> ProjectNamesUsed() const override;
 
     std::int32_t m_nXMaxPoints = 50;
     std::int32_t m_nHMaxLines = 5;

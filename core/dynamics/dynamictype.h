@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class XmlElement;
 
@@ -27,6 +28,10 @@ public:
     virtual bool ReadInnerElement(const XmlElement& element) = 0;
 
     virtual std::unique_ptr<CHmiDynamicType> Clone() const = 0;
+
+    // The texts the user entered that may name variables: the raw expression, and whatever else
+    // a type composes into the runtime expression. Renaming a variable edits them in place.
+    virtual std::vector<std::string*> ExpressionTexts() { return {&expression}; }
 
     // The user's raw expression; for a script binding, the script code.
     std::string expression;

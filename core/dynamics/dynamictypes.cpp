@@ -145,6 +145,14 @@ std::unique_ptr<CHmiDynamicType> CHmiDynColorAnalog::Clone() const
     return std::make_unique<CHmiDynColorAnalog>(*this);
 }
 
+std::vector<std::string*> CHmiDynColorAnalog::ExpressionTexts()
+{
+    std::vector<std::string*> texts = {&expression};
+    for (std::int32_t i = 0; i < LevelCount(); ++i)
+        texts.push_back(&limits[std::size_t(i)]);
+    return texts;
+}
+
 // ---------------------------------------------------------------------------------------------
 // text_int, text_float, text_double
 

@@ -39,6 +39,8 @@ public:
     void WriteInnerElement(std::string& archive) const override;
     bool ReadInnerElement(const XmlElement& element) override;
     std::unique_ptr<CHmiDynamicType> Clone() const override;
+    // The raw expression and the limits in use.
+    std::vector<std::string*> ExpressionTexts() override;
 
     // The levels in use: count held to 0..kMaxLevels, so that a bad count never reaches
     // past the arrays. A negative count, kept as a file gives it, means no levels.

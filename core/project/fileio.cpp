@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <climits>
+#include <memory>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
@@ -153,6 +154,57 @@ private:
     std::string m_prefix;
 };
 
+// A file's new content, written in full and flushed beside it, that replaces the file when it
+// is committed and is removed otherwise. The temporary stays open, and locked, until then, so
+// that no other save takes it for a stale one; its bytes are on disk by then.
+class StagedFile {
+public:
+    StagedFile() = default;
+    StagedFile(const StagedFile&) = delete;
+    StagedFile& operator=(const StagedFile&) = delete;
+    ~StagedFile()
+    {
+        if (m_fd < 0)
+            return;
+        ::close(m_fd);
+        if (!m_committed)
+            ::unlink(m_temporary.c_str());
+    }
+
+    FileResult Stage(const std::string& path, std::string_view bytes)
+    {
+        mode_t mode = kNewFileMode;
+        if (FileResult found = FindSaveTarget(path, m_target, mode); !found)
+            return found;
+        const SaveTemporaries temporaries(m_target);
+        temporaries.RemoveStale();
+        m_fd = temporaries.CreateLocked(m_temporary);
+        if (m_fd < 0)
+            return Fail("Cannot create a file beside", m_target, errno);
+        if (::fchmod(m_fd, mode) != 0)
+            return Fail("Cannot set the permissions of", m_target, errno);
+        if (!WriteAll(m_fd, bytes))
+            return Fail("Cannot write", m_target, errno);
+        if (::fsync(m_fd) != 0)
+            return Fail("Cannot flush", m_target, errno);
+        return FileResult::Success();
+    }
+
+    FileResult Commit()
+    {
+        if (::rename(m_temporary.c_str(), m_target.c_str()) != 0)
+            return Fail("Cannot replace", m_target, errno);
+        m_committed = true;
+        return FileResult::Success();
+    }
+
+private:
+    std::string m_target;
+    std::string m_temporary;
+    int m_fd = -1;
+    bool m_committed = false;
+};
+
 } // namespace
 
 std::string MaxFileSizeText()
@@ -196,30 +248,25 @@ FileResult ReadWholeFile(const std::string& path, std::string& bytes)
 
 FileResult WriteFileAtomically(const std::string& path, std::string_view bytes)
 {
-    std::string target;
-    mode_t mode = kNewFileMode;
-    if (FileResult found = FindSaveTarget(path, target, mode); !found)
-        return found;
-    const SaveTemporaries temporaries(target);
-    temporaries.RemoveStale();
-    std::string temporary;
-    // The temporary closes, and its lock goes, only after the rename, so that no other save
-    // takes it for a stale one; its bytes are on disk by then.
-    const OpenFile file(temporaries.CreateLocked(temporary));
-    if (!file)
-        return Fail("Cannot create a file beside", target, errno);
-    const char* failedStep = nullptr;
-    if (::fchmod(file.Fd(), mode) != 0)
-        failedStep = "Cannot set the permissions of";
-    else if (!WriteAll(file.Fd(), bytes))
-        failedStep = "Cannot write";
-    else if (::fsync(file.Fd()) != 0)
-        failedStep = "Cannot flush";
-    else if (::rename(temporary.c_str(), target.c_str()) != 0)
-        failedStep = "Cannot replace";
-    if (!failedStep)
-        return FileResult::Success();
-    const int error = errno;
-    ::unlink(temporary.c_str());
-    return Fail(failedStep, target, error);
+    StagedFile file;
+    if (FileResult staged = file.Stage(path, bytes); !staged)
+        return staged;
+    return file.Commit();
+}
+
+FileResult WriteFilesAtomically(std::span<const FileContent> files, std::size_t& replaced)
+{
+    replaced = 0;
+    std::vector<std::unique_ptr<StagedFile>> staged;
+    for (const FileContent& file : files) {
+        staged.push_back(std::make_unique<StagedFile>());
+        if (FileResult result = staged.back()->Stage(file.path, file.bytes); !result)
+            return result;
+    }
+    for (const std::unique_ptr<StagedFile>& file : staged) {
+        if (FileResult result = file->Commit(); !result)
+            return result;
+        ++replaced;
+    }
+    return FileResult::Success();
 }

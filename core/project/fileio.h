@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,3 +42,16 @@ FileResult ReadWholeFile(const std::string& path, std::string& bytes);
 // (flock) while it is written. A save killed before it finished leaves such a file unlocked, and
 // the next save of the same target removes it.
 FileResult WriteFileAtomically(const std::string& path, std::string_view bytes);
+
+// A file and the content it is to have.
+struct FileContent {
+    std::string path;
+    std::string bytes;
+};
+
+// Replaces several files together, each as WriteFileAtomically does: all new files are written
+// and flushed first, and only then renamed over the old ones, in order. So a file that cannot
+// be written (read-only, a full disk) leaves every file as it was. `replaced` tells how many of
+// the files, from the first, were replaced: all of them on success, and on the rare failure of
+// a rename, those before it.
+FileResult WriteFilesAtomically(std::span<const FileContent> files, std::size_t& replaced);

@@ -2,7 +2,7 @@
 
 #include "recentfilelist.h"
 
-#include "editor/dynamicdialogs/scriptfunctions.h"
+#include "project/scriptfunctions.h"
 #include "libraries/widgetlibraryloader.h"
 
 #include <QKeySequence>

@@ -9,7 +9,7 @@
 #include "recoveryoffer.h"
 
 #include "editor/canvascontrols/controlkinds.h"
-#include "editor/dynamicdialogs/scriptfunctions.h"
+#include "project/scriptfunctions.h"
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/recovery/recoverystore.h"
 #include "editor/recovery/terminationsignals.h"

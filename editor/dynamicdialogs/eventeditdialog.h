@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scriptfunctions.h"
+#include "project/scriptfunctions.h"
 
 #include <QDialog>
 

@@ -6,7 +6,7 @@
 #include "editor/dynamicdialogs/dyntextdialog.h"
 #include "editor/dynamicdialogs/eventedit.h"
 #include "editor/dynamicdialogs/eventeditdialog.h"
-#include "editor/dynamicdialogs/scriptfunctions.h"
+#include "project/scriptfunctions.h"
 #include "dynamics/dynamictypes.h"
 #include "tests/support/memoryoptiontree.h"
 #include "tests/support/tempdir.h"

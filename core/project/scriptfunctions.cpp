@@ -1,6 +1,6 @@
 #include "scriptfunctions.h"
 
-#include "project/xmldocument.h"
+#include "xmldocument.h"
 
 #include <filesystem>
 #include <system_error>
