@@ -14,7 +14,7 @@ set(kLayers
     "widgets:base project dynamics"
     "catalogue:base project dynamics widgets"
     "libraries:base project dynamics widgets catalogue"
-    "workspace:base project dynamics widgets"
+    "workspace:base project dynamics widgets catalogue"
 )
 
 if(NOT IS_DIRECTORY "${CORE_DIR}")

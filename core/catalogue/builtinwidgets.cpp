@@ -20,6 +20,9 @@
 #include "hmiwidgettimer.h"
 #include "widgets/hmiwidgetwindow.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 // The table's order is the registration order; a class without a toolbox label is offered
@@ -54,6 +57,9 @@ constexpr std::string_view kToolboxOrder[] = {
     "checkbox",  "combobox",     "alarmwnd", "curve",     "hiscurve", "bmptext",
 };
 
+// Kinds of the panel that the reader leaves to the custom widget.
+constexpr std::string_view kUnregisteredBuiltinKeys[] = {CHmiWidgetEdit::kClassKey, "valve"};
+
 } // namespace
 
 void RegisterBuiltinWidgetClasses()
@@ -65,4 +71,12 @@ void RegisterBuiltinWidgetClasses()
 std::span<const std::string_view> BuiltinToolboxOrder()
 {
     return kToolboxOrder;
+}
+
+bool IsBuiltinWidgetClass(std::string_view key)
+{
+    const auto registered = [&](const CWidgetRunTimeClass& entry) { return key == entry.m_strClassKey; };
+    return std::any_of(std::begin(kBuiltinWidgetClasses), std::end(kBuiltinWidgetClasses), registered) ||
+           std::find(std::begin(kUnregisteredBuiltinKeys), std::end(kUnregisteredBuiltinKeys), key) !=
+               std::end(kUnregisteredBuiltinKeys);
 }

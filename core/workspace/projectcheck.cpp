@@ -3,6 +3,7 @@
 #include "projectwindows.h"
 
 #include "base/textcodec.h"
+#include "catalogue/builtinwidgets.h"
 #include "dynamics/dynamictype.h"
 #include "dynamics/expressiontext.h"
 #include "project/projectpath.h"
@@ -115,7 +116,7 @@ private:
     {
         const std::string& name = m_widget->GetWidgetName();
         const std::string classKey = m_widget->GetWidgetClassName();
-        if (!CHmiWidget::FindWidgetClassEntry(classKey))
+        if (!IsBuiltinWidgetClass(classKey) && !CHmiWidget::FindWidgetClassEntry(classKey))
             Add(kUnknownClass, {}, "the class " + Quoted(classKey) + " is neither built in nor from a loaded widget library");
         if (IsBlank(name))
             Add(kBlankWidgetName, {}, "the " + Quoted(classKey) + " widget has no name");

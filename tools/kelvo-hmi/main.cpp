@@ -1,5 +1,7 @@
 // kelvo-hmi: the editor's core on the command line, for people and scripts without a display.
 
+#include "commands.h"
+
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 #include "catalogue/builtinwidgets.h"
@@ -20,10 +22,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
-
-using Arguments = std::span<char* const>;
 
 struct Command {
     std::string_view name;
@@ -138,6 +139,12 @@ const Command kCommands[] = {
     {"vars", "vars PROJECT", "every variable reference the project offers, one per line", 1, 1, false, Vars},
     {"render", "render IN.xml OUT.png [--project DIR]",
      "draw the window as the canvas does (pictures from DIR, else beside IN.xml)", 2, 4, true, Render},
+    {"check", "check PROJECT [--format text|json|sarif] [--strict]",
+     "check every window of the project; exit status 1 on errors (or warnings with --strict)", 1, 4, false,
+     CheckCommand},
+    {"rename-var", "rename-var PROJECT OLD NEW [--dry-run]",
+     "rename a variable reference in every window of the project and print each change", 3, 4, false,
+     RenameVarCommand},
 };
 
 void PrintUsage(std::FILE* out)
@@ -171,16 +178,19 @@ void RegisterWidgetClasses(const char* modules)
 
 int main(int argc, char* argv[])
 {
-    Arguments args(argv + 1, argv + argc);
+    // --modules DIR may stand anywhere.
+    std::vector<char*> arguments(argv + 1, argv + argc);
     const char* modules = nullptr;
-    if (!args.empty() && std::string_view(args[0]) == "--modules") {
-        if (args.size() < 2) {
+    if (const auto option = std::find(arguments.begin(), arguments.end(), std::string_view("--modules"));
+        option != arguments.end()) {
+        if (option + 1 == arguments.end()) {
             PrintUsage(stderr);
             return 2;
         }
-        modules = args[1];
-        args = args.subspan(2);
+        modules = *(option + 1);
+        arguments.erase(option, option + 2);
     }
+    const Arguments args(arguments);
     if (args.empty()) {
         PrintUsage(stderr);
         return 2;
