@@ -8,12 +8,14 @@
 #include <libxml/tree.h>
 #include <libxml/xmlreader.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstring>
 
 namespace {
 
-constexpr int kParseOptions = XML_PARSE_NOBLANKS | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+constexpr int kEditOptions = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+constexpr int kParseOptions = kEditOptions | XML_PARSE_NOBLANKS;
 
 const std::string kEntitiesRefused =
     "The file declares XML entities. Window and project files never do, and such a file is refused: "
@@ -160,6 +162,13 @@ std::string XmlElement::Text() const
     return FromParser(reinterpret_cast<const xmlChar*>(utf8.c_str()));
 }
 
+void XmlElement::SetAttribute(const char* name, std::string_view value) const
+{
+    if (m_node)
+        xmlSetProp(m_node, reinterpret_cast<const xmlChar*>(name),
+                   reinterpret_cast<const xmlChar*>(Gb2312ToUtf8OrKeep(value).c_str()));
+}
+
 XmlElement XmlElement::FirstChild() const
 {
     return XmlElement(m_node ? SkipToElement(m_node->children) : nullptr);
@@ -179,14 +188,29 @@ XmlDocument::XmlDocument(_xmlDoc* doc, std::string error) : m_doc(doc), m_error(
 
 XmlDocument XmlDocument::Load(const std::string& path)
 {
+    return Load(path, kParseOptions);
+}
+
+XmlDocument XmlDocument::LoadForEditing(const std::string& path)
+{
+    return Load(path, kEditOptions);
+}
+
+XmlDocument XmlDocument::Load(const std::string& path, int options)
+{
     // Reading the bytes ourselves keeps libxml2 from printing its own I/O errors.
     std::string bytes;
     if (const FileResult read = ReadWholeFile(path, bytes); !read)
         return XmlDocument(nullptr, read.error);
-    return Parse(bytes);
+    return Parse(bytes, options);
 }
 
 XmlDocument XmlDocument::Parse(std::string_view text)
+{
+    return Parse(text, kParseOptions);
+}
+
+XmlDocument XmlDocument::Parse(std::string_view text, int options)
 {
     LIBXML_TEST_VERSION
     if (!FitsTheParser(text))
@@ -201,7 +225,7 @@ XmlDocument XmlDocument::Parse(std::string_view text)
     xmlDoc* doc = nullptr;
     {
         const ThreadErrorRoute route(KeepFirstParseError, &firstError);
-        doc = xmlCtxtReadMemory(context, text.data(), int(text.size()), nullptr, nullptr, kParseOptions);
+        doc = xmlCtxtReadMemory(context, text.data(), int(text.size()), nullptr, nullptr, options);
     }
     std::string error;
     if (declaresEntities) {
@@ -214,6 +238,21 @@ XmlDocument XmlDocument::Parse(std::string_view text)
     }
     xmlFreeParserCtxt(context);
     return XmlDocument(doc, std::move(error));
+}
+
+std::string XmlDocument::Text() const
+{
+    if (!m_doc)
+        return {};
+    xmlChar* bytes = nullptr;
+    int size = 0;
+    const char* encoding = m_doc->encoding ? AsChars(m_doc->encoding) : "UTF-8";
+    xmlDocDumpMemoryEnc(m_doc.get(), &bytes, &size, encoding);
+    if (!bytes)
+        return {};
+    std::string text(AsChars(bytes), std::size_t(std::max(size, 0)));
+    xmlFree(bytes);
+    return text;
 }
 
 XmlElement XmlDocument::Root() const

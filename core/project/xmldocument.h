@@ -28,6 +28,8 @@ public:
     std::string Attribute(const char* name) const;
     // All text inside the element (CDATA included).
     std::string Text() const;
+    // Sets an attribute to a value in the editor's text form.
+    void SetAttribute(const char* name, std::string_view value) const;
 
     // The first child element, and the element after this one; a false element at the end.
     XmlElement FirstChild() const;
@@ -45,6 +47,12 @@ public:
     static XmlDocument Load(const std::string& path);
     // Parses text held in memory (for the fuzzers and for tests).
     static XmlDocument Parse(std::string_view text);
+    // Parses a file in order to change it: the blank text between elements is kept, so that
+    // Text gives the file back with its layout, only what was changed and the spelling of the
+    // markup (quotes, the XML declaration) differing.
+    static XmlDocument LoadForEditing(const std::string& path);
+    // The document as a file in its declared encoding (UTF-8 when it declares none).
+    std::string Text() const;
 
     bool IsValid() const { return m_doc != nullptr; }
     // Why the file is not valid, in words for the user.
@@ -57,6 +65,8 @@ private:
         void operator()(_xmlDoc* doc) const;
     };
     XmlDocument(_xmlDoc* doc, std::string error);
+    static XmlDocument Load(const std::string& path, int options);
+    static XmlDocument Parse(std::string_view text, int options);
 
     std::unique_ptr<_xmlDoc, Free> m_doc;
     std::string m_error;

@@ -1,5 +1,6 @@
 #include "variablerename.h"
 
+#include "dictionaryrename.h"
 #include "projectwindows.h"
 
 #include "dynamics/expressiontext.h"
@@ -84,11 +85,12 @@ std::vector<ReferenceChange> RenameReference(CTamloDoc& document, const std::str
 }
 
 FileResult PlanProjectRename(const std::string& folder, std::string_view from, std::string_view to,
-                             ProjectRename& plan, const std::function<bool(const std::string& path)>& isOpen)
+                             bool declarations, ProjectRename& plan,
+                             const std::function<bool(const std::string& path)>& isOpen)
 {
     plan = {};
     ProjectRename planned;
-    const FileResult result = ForEachProjectWindow(folder, [&](CTamloDoc& document, const ProjectWindowFile& window) {
+    FileResult result = ForEachProjectWindow(folder, [&](CTamloDoc& document, const ProjectWindowFile& window) {
         std::vector<ReferenceChange> changes = RenameReference(document, window.file, from, to);
         if (changes.empty())
             return FileResult::Success();
@@ -100,6 +102,13 @@ FileResult PlanProjectRename(const std::string& folder, std::string_view from, s
         planned.names.push_back(window.file);
         return FileResult::Success();
     }, isOpen);
+    if (result && declarations) {
+        std::vector<FileContent> files;
+        std::vector<std::string> names;
+        result = RenameDeclaredVariable(GetProjectPath(), from, to, files, names);
+        std::move(files.begin(), files.end(), std::back_inserter(planned.files));
+        std::move(names.begin(), names.end(), std::back_inserter(planned.names));
+    }
     if (result)
         plan = std::move(planned);
     return result;

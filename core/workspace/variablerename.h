@@ -47,11 +47,14 @@ struct ProjectRename {
 };
 
 // Works out the rename in every window file of the project folder (projectwindows.h) but those
-// `isOpen` claims, which the caller renames in memory. Fails, planning nothing, when a window
-// file cannot be read or its renamed content would not read back as it stands. Sets the project
-// path to the folder, as the widgets read the project's names when they are made.
+// `isOpen` claims, which the caller renames in memory, and with `declarations` in rtdb.xml and
+// hmidb.xml too (dictionaryrename.h). Fails, planning nothing, when a file cannot be read, when
+// the declarations cannot be renamed, or when a window's renamed content would not read back as
+// it stands. Sets the project path to the folder, as widgets read the project's names when they
+// are made.
 FileResult PlanProjectRename(const std::string& folder, std::string_view from, std::string_view to,
-                             ProjectRename& plan, const std::function<bool(const std::string& path)>& isOpen = {});
+                             bool declarations, ProjectRename& plan,
+                             const std::function<bool(const std::string& path)>& isOpen = {});
 
 // Every use of the reference in the project's window files; fails as PlanProjectRename does.
 FileResult FindProjectReferences(const std::string& folder, std::string_view reference,

@@ -8,5 +8,5 @@ using Arguments = std::span<char* const>;
 
 // check PROJECT [--format text|json|sarif] [--strict]
 int CheckCommand(Arguments args);
-// rename-var PROJECT OLD NEW [--dry-run]
+// rename-var PROJECT OLD NEW [--dry-run] [--declarations]
 int RenameVarCommand(Arguments args);

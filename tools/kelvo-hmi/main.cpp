@@ -142,8 +142,9 @@ const Command kCommands[] = {
     {"check", "check PROJECT [--format text|json|sarif] [--strict]",
      "check every window of the project; exit status 1 on errors (or warnings with --strict)", 1, 4, false,
      CheckCommand},
-    {"rename-var", "rename-var PROJECT OLD NEW [--dry-run]",
-     "rename a variable reference in every window of the project and print each change", 3, 4, false,
+    {"rename-var", "rename-var PROJECT OLD NEW [--dry-run] [--declarations]",
+     "rename a variable in every window of the project (and in rtdb.xml / hmidb.xml), printing each change", 3, 5,
+     false,
      RenameVarCommand},
 };
 

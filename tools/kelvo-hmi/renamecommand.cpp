@@ -16,7 +16,7 @@ namespace {
 
 int Usage()
 {
-    std::fprintf(stderr, "Usage: kelvo-hmi rename-var PROJECT OLD NEW [--dry-run]\n");
+    std::fprintf(stderr, "Usage: kelvo-hmi rename-var PROJECT OLD NEW [--dry-run] [--declarations]\n");
     return 2;
 }
 
@@ -48,9 +48,15 @@ void PrintChange(const ReferenceChange& change)
 
 int RenameVarCommand(Arguments args)
 {
-    if (args.size() == 4 && std::string_view(args[3]) != "--dry-run")
-        return Usage();
-    const bool dryRun = args.size() == 4;
+    bool dryRun = false, declarations = false;
+    for (const std::string_view option : args.subspan(3)) {
+        if (option == "--dry-run")
+            dryRun = true;
+        else if (option == "--declarations")
+            declarations = true;
+        else
+            return Usage();
+    }
     const std::string from = Utf8ToGb2312OrKeep(args[1]);
     const std::string to = Utf8ToGb2312OrKeep(args[2]);
     if (!IsReference(from) || !IsReference(to)) {
@@ -63,14 +69,15 @@ int RenameVarCommand(Arguments args)
         return 2;
     }
     ProjectRename plan;
-    if (const FileResult planned = PlanProjectRename(args[0], from, to, plan); !planned) {
+    if (const FileResult planned = PlanProjectRename(args[0], from, to, declarations, plan); !planned) {
         std::fprintf(stderr, "kelvo-hmi: nothing renamed: %s\n", planned.error.c_str());
         return 1;
     }
     for (const ReferenceChange& change : plan.changes)
         PrintChange(change);
     if (dryRun) {
-        std::printf("%zu changes in %zu window files; nothing written (dry run)\n", plan.changes.size(), plan.files.size());
+        for (const std::string& file : plan.names)
+            std::printf("would write: %s\n", Gb2312ToUtf8OrKeep(file).c_str());
         return 0;
     }
     std::vector<std::string> written;
