@@ -6,6 +6,9 @@
 
 #include <QCryptographicHash>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <gtest/gtest.h>
 
@@ -169,6 +172,71 @@ TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)
                                "bytes 0xFF 0xFE 0x22 0x2F).\n");
     std::filesystem::copy_file(badByte, dir.Path("rtdb.xml"));
     EXPECT_EQ(RunTool("vars '" + dir.Path("") + "'").errors, "");
+}
+
+// The defect project holds one fault of each kind: thirteen findings, ten of them errors.
+TEST(CommandLine, ChecksAProjectForPeopleScriptsAndCodeScanning)
+{
+    const std::string defects = "check '" + std::string(KELVO_DEFECT_PROJECT_DIR) + "'";
+    const ToolRun text = RunTool(defects);
+    EXPECT_EQ(text.status, 1);
+    EXPECT_EQ(std::count(text.output.begin(), text.output.end(), '\n'), 13);
+    EXPECT_NE(text.output.find("main.xml:speed:varname: error [unknown-variable]: \"$plc.speed\" is not a variable "
+                               "of the project\n"), std::string::npos) << text.output;
+    EXPECT_EQ(RunTool("check '" + std::string(KELVO_DEMO_DIR) + "'").status, 0);
+
+    const QJsonArray findings = QJsonDocument::fromJson(QByteArray::fromStdString(
+        RunTool(defects + " --format json").output))["findings"].toArray();
+    ASSERT_EQ(findings.size(), 13);
+    const auto speed = std::find_if(findings.begin(), findings.end(), [](const QJsonValue& f) { return f["widget"] == "speed"; });
+    ASSERT_NE(speed, findings.end());
+    EXPECT_EQ(speed->toObject()["place"].toObject(), (QJsonObject{{"kind", "property"}, {"name", "varname"}}));
+
+    const QJsonObject sarif = QJsonDocument::fromJson(QByteArray::fromStdString(
+        RunTool(defects + " --format sarif").output)).object();
+    EXPECT_EQ(sarif["version"], "2.1.0");
+    const QJsonObject run = sarif["runs"][0].toObject();
+    const QJsonArray rules = run["tool"]["driver"]["rules"].toArray();
+    EXPECT_EQ(rules.size(), 13);
+    EXPECT_TRUE(run["originalUriBaseIds"]["PROJECTROOT"]["uri"].toString().endsWith("/tests/defect-project/"));
+    ASSERT_EQ(run["results"].toArray().size(), 13);
+    for (const QJsonValue result : run["results"].toArray()) {
+        EXPECT_EQ(rules[result["ruleIndex"].toInt()]["id"], result["ruleId"]);
+        EXPECT_TRUE(result["level"] == "error" || result["level"] == "warning");
+        EXPECT_FALSE(result["message"]["text"].toString().isEmpty());
+        EXPECT_EQ(result["locations"][0]["physicalLocation"]["artifactLocation"]["uriBaseId"], "PROJECTROOT");
+    }
+
+    // Warnings alone fail only a strict check; the options may follow the project.
+    TempDir dir;
+    dir.Write("hmiwindow.xml", "<hmiwindow/>");
+    dir.Write("w.xml", WindowFile());
+    EXPECT_EQ(RunTool("check '" + dir.Path("") + "'").status, 0);
+    EXPECT_EQ(RunTool("check '" + dir.Path("") + "' --strict").status, 1);
+    EXPECT_EQ(RunTool("check '" + dir.Path("") + "' --format xml").status, 2);
+    EXPECT_EQ(RunTool("check '" + dir.Path("none") + "'").status, 2);
+    std::filesystem::create_directory(dir.Path("modules"));
+    std::filesystem::create_symlink(KELVO_DIAL_LIBRARY, dir.Path("modules/dialwidgets.so"));
+    const ToolRun withDial = RunTool(defects + " --modules '" + dir.Path("modules") + "'");
+    EXPECT_EQ(withDial.output.find("unknown-class"), std::string::npos);
+    EXPECT_EQ(std::count(withDial.output.begin(), withDial.output.end(), '\n'), 12);
+}
+
+TEST(CommandLine, RenamesAVariableOrShowsWhatARenameWouldChange)
+{
+    TempDir dir;
+    std::filesystem::copy(KELVO_DEMO_DIR, dir.Path("demo"));
+    const std::string demo = "'" + dir.Path("demo") + "' ";
+    const std::string pumps = dir.Read("demo/pumps.xml");
+    const ToolRun dryRun = RunTool("rename-var " + demo + "'$plc.pump1_run' '$plc.pump1_on' --dry-run");
+    EXPECT_EQ(dryRun.status, 0);
+    EXPECT_EQ(dryRun.output, "pumps.xml:run1:variable: 1 reference\n  - $plc.pump1_run\n  + $plc.pump1_on\n"
+                             "would write: pumps.xml\n");
+    EXPECT_EQ(dir.Read("demo/pumps.xml"), pumps);
+
+    EXPECT_EQ(RunTool("rename-var " + demo + "'$plc.pump1_run' '$plc.pump1_on' --declarations").status, 0);
+    EXPECT_EQ(RunTool("check " + demo).status, 0) << "the windows and the declaration were renamed together";
+    EXPECT_EQ(RunTool("rename-var " + demo + "plc.x '$y'").status, 2);
 }
 
 TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)
