@@ -2,18 +2,16 @@
 // 100 windows of 500 widgets, next to loading the same window files alone in the same run. The
 // check reads each window as loading does and should cost little more than the load.
 
+#include "bench/benchtiming.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/tamlodoc.h"
 #include "workspace/projectcheck.h"
 #include "workspace/projectwindows.h"
 #include "workspace/variablerename.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,18 +20,6 @@ namespace {
 constexpr int kWindows = 100;
 constexpr int kWidgetsPerWindow = 500;
 constexpr int kRepetitions = 3;
-
-double MedianMilliseconds(const std::function<void()>& work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < kRepetitions; ++i) {
-        const auto start = std::chrono::steady_clock::now();
-        work();
-        times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 void WriteFile(const std::filesystem::path& path, const std::string& text)
 {
@@ -106,19 +92,19 @@ int main()
     std::printf("project: %d windows of %d widgets\n", kWindows, kWidgetsPerWindow);
 
     std::size_t findings = 0, uses = 0, changes = 0;
-    const double load = MedianMilliseconds([&] {
+    const double load = MedianMilliseconds(kRepetitions, [&] {
         for (const ProjectWindowFile& window : FindProjectWindows(project).files) {
             CTamloDoc document;
             document.Load(window.path);
         }
     });
-    const double check = MedianMilliseconds([&] { findings = CheckProject(project).size(); });
-    const double find = MedianMilliseconds([&] {
+    const double check = MedianMilliseconds(kRepetitions, [&] { findings = CheckProject(project).size(); });
+    const double find = MedianMilliseconds(kRepetitions, [&] {
         std::vector<ReferenceUse> found;
         FindProjectReferences(project, "$plc.v4", found);
         uses = found.size();
     });
-    const double rename = MedianMilliseconds([&] {
+    const double rename = MedianMilliseconds(kRepetitions, [&] {
         ProjectRename plan;
         PlanProjectRename(project, "$plc.v4", "$plc.four", false, plan);
         changes = plan.changes.size();

@@ -1,6 +1,7 @@
 #include "fuzzentries.h"
 
 #include "base/numberparsers.h"
+#include "dynamics/expressiontext.h"
 #include "catalogue/builtinwidgets.h"
 #include "project/namelists.h"
 #include "project/projectpath.h"
@@ -126,5 +127,31 @@ void FuzzDataLogNames(const std::uint8_t* data, std::size_t size)
     int count = 0;
     GetHmiLognameDesp(names, count);
     if (count < 0 || count > kMaxDataLogNames)
+        std::abort();
+}
+
+void FuzzExpressionText(const std::uint8_t* data, std::size_t size)
+{
+    const std::string original = Text(data, size);
+    FindFunctionCalls(original);
+    const std::vector<TextToken> references = FindVariableReferences(original);
+    if (references.empty())
+        return;
+    const TextToken& first = references.front();
+    if (first.offset + first.length > original.size() || original[first.offset] != '$')
+        std::abort();
+    // Renaming a reference keeps every other token as it was: the new name stands exactly where
+    // the old one did.
+    const auto count = [](const std::string& text, const std::string& reference) {
+        std::size_t n = 0;
+        for (const TextToken& token : FindVariableReferences(text))
+            n += text.compare(token.offset, token.length, reference) == 0;
+        return n;
+    };
+    const std::string from = original.substr(first.offset, first.length);
+    const std::string to = "$kelvo_fuzz_name";
+    std::string text = original;
+    if (ReplaceVariableReference(text, from, to) != count(original, from) ||
+        count(text, to) != count(original, from) + count(original, to))
         std::abort();
 }

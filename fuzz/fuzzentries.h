@@ -22,10 +22,13 @@ void FuzzRealtimeDatabase(const std::uint8_t* data, std::size_t size);
 void FuzzHmiDatabase(const std::uint8_t* data, std::size_t size);
 void FuzzHistoryNames(const std::uint8_t* data, std::size_t size);
 void FuzzDataLogNames(const std::uint8_t* data, std::size_t size);
+// Variable references and calls in binding expressions and scripts, and renaming one.
+void FuzzExpressionText(const std::uint8_t* data, std::size_t size);
 
 inline constexpr FuzzEntry kFuzzEntries[] = {
     {"windowfile", FuzzWindowFile},       {"numberparsers", FuzzNumberParsers},
     {"projectargument", FuzzProjectArgument}, {"windowlist", FuzzWindowList},
     {"rtdb", FuzzRealtimeDatabase},       {"hmidb", FuzzHmiDatabase},
     {"history", FuzzHistoryNames},        {"datalog", FuzzDataLogNames},
+    {"expression", FuzzExpressionText},
 };

@@ -41,7 +41,7 @@ struct Finding {
 class CProjectIndex {
 public:
     // Reads the variables as the variable picker offers them and the functions of the folder's
-    // hmifuncs.xml. The project path must be the folder (projectpath.h).
+    // hmifuncs.xml; `folder` ends in "/".
     explicit CProjectIndex(const std::string& folder);
 
     bool HasVariable(std::string_view reference) const;

@@ -143,9 +143,8 @@ const Command kCommands[] = {
      "check every window of the project; exit status 1 on errors (or warnings with --strict)", 1, 4, false,
      CheckCommand},
     {"rename-var", "rename-var PROJECT OLD NEW [--dry-run] [--declarations]",
-     "rename a variable in every window of the project (and in rtdb.xml / hmidb.xml), printing each change", 3, 5,
-     false,
-     RenameVarCommand},
+     "rename a variable in every window (and where rtdb.xml / hmidb.xml declare it), printing each change", 3,
+     5, false, RenameVarCommand},
 };
 
 void PrintUsage(std::FILE* out)
