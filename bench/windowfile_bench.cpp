@@ -2,7 +2,6 @@
 // Prints figures; the targets are load within 1.5 and save within 0.5 times the bare parse. A
 // save includes the check that its text reads back as it stands, whose cost has a line of its own.
 
-#include "bench/benchtiming.h"
 #include "dynamics/dynamictype.h"
 #include "tests/support/childcost.h"
 #include "tests/support/hostilefiles.h"
@@ -22,6 +21,19 @@
 namespace {
 
 constexpr int kRepetitions = 7;
+
+// The median wall time of a few runs, in milliseconds.
+double MedianMilliseconds(const std::function<void()>& work)
+{
+    std::vector<double> times;
+    for (int i = 0; i < kRepetitions; ++i) {
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
 
 // A document of widgetCount widgets cycling through every registered kind and one unknown
 // kind, with bindings and event scripts on some of them.
@@ -63,16 +75,16 @@ void Measure(const std::filesystem::path& folder, int widgetCount)
     const auto size = std::filesystem::file_size(path);
 
     // libxml2 on its own, with the options the window reader uses.
-    const double parse = MedianMilliseconds(kRepetitions, [&] {
+    const double parse = MedianMilliseconds([&] {
         xmlFreeDoc(xmlReadFile(path.c_str(), nullptr, XML_PARSE_NOBLANKS | XML_PARSE_NONET));
     });
     CTamloDoc loaded;
-    const double load = MedianMilliseconds(kRepetitions, [&] { loaded.Load(path); });
-    const double serialize = MedianMilliseconds(kRepetitions, [&] { loaded.Serialize(); });
+    const double load = MedianMilliseconds([&] { loaded.Load(path); });
+    const double serialize = MedianMilliseconds([&] { loaded.Serialize(); });
     std::string checkedText;
-    const double checked = MedianMilliseconds(kRepetitions, [&] { loaded.SerializeChecked(checkedText); });
+    const double checked = MedianMilliseconds([&] { loaded.SerializeChecked(checkedText); });
     const std::string savedPath = path + ".saved";
-    const double save = MedianMilliseconds(kRepetitions, [&] { loaded.Save(savedPath); });
+    const double save = MedianMilliseconds([&] { loaded.Save(savedPath); });
 
     std::printf("%6d widgets  %8.1f KiB  parse %7.2f ms  load %7.2f ms (%.2fx)  "
                 "save %7.2f ms (%.2fx; text alone %.2f ms, %.2fx)\n",
