@@ -135,6 +135,14 @@ void Measure(const CGeneratedWindows& windows, const std::filesystem::path& fold
     }
     ratio("load", MedianMilliseconds<std::unique_ptr<CTamloDoc>>(runs, NewDocument, [&](auto& doc) { doc->Load(path); }),
           "1.3x");
+    const auto loadedDocument = [&] {
+        auto doc = NewDocument();
+        doc->Load(path);
+        return doc;
+    };
+    ratio("saved text, first after load", MedianMilliseconds<std::unique_ptr<CTamloDoc>>(runs, loadedDocument, [&](auto& doc) {
+        doc->Serialize();
+    }), "-");
     std::FILE* nowhere = std::fopen("/dev/null", "w");
     ratio("list", MedianMilliseconds<std::unique_ptr<CTamloDoc>>(runs, NewDocument, [&](auto& doc) {
         doc->Load(path);
@@ -176,6 +184,7 @@ void MeasureEntityExpansion(const std::filesystem::path& folder)
 
 } // namespace
 
+// windowfile-bench [WIDGET-COUNT...]
 int main(int argc, char* argv[])
 {
     if (argc == 3 && std::strcmp(argv[1], kLoadPeakOption) == 0)
@@ -193,8 +202,14 @@ int main(int argc, char* argv[])
     std::filesystem::create_directories(folder);
     std::printf("Window files: median CPU time of a few runs; ratios against libxml2's bare parse of the same file\n");
     MeasureEntityExpansion(folder);
-    for (const auto& [count, runs] : {std::pair{1000, 7}, {10000, 5}, {100000, 3}})
-        Measure(windows, folder, count, runs);
+    // The widget counts may be given as arguments, for profiling one of them.
+    std::vector<int> counts;
+    for (int i = 1; i < argc; ++i)
+        counts.push_back(std::atoi(argv[i]));
+    if (counts.empty())
+        counts = {1000, 10000, 100000};
+    for (const int count : counts)
+        Measure(windows, folder, count, count >= 100000 ? 3 : count >= 10000 ? 5 : 7);
     std::filesystem::remove_all(folder);
     return 0;
 }
