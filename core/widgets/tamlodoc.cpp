@@ -5,6 +5,7 @@
 #include "windowfilecheck.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 // Collects the changes of one operation, such as a load or an Undo, and tells them as one.
@@ -308,12 +309,16 @@ FileResult CTamloDoc::Load(const std::string& path)
     if (!GetWindowWidget())
         AddWindowWidget(false);
     m_bModified = false;
+    std::error_code noSize;
+    m_nLastTextSize = result ? std::size_t(std::filesystem::file_size(path, noSize)) : 0;
+    if (noSize)
+        m_nLastTextSize = 0;
     return result;
 }
 
 CWindowFileWriter CTamloDoc::WriteWidgets() const
 {
-    CWindowFileWriter writer;
+    CWindowFileWriter writer(m_nLastTextSize);
     for (const HmiWidgetPtr& widget : m_widgets) {
         if (!IsWidgetDeleted(widget.get()))
             writer.Write(*widget);
@@ -323,13 +328,16 @@ CWindowFileWriter CTamloDoc::WriteWidgets() const
 
 std::string CTamloDoc::Serialize() const
 {
-    return WriteWidgets().Finish();
+    std::string text = WriteWidgets().Finish();
+    m_nLastTextSize = text.size();
+    return text;
 }
 
 FileResult CTamloDoc::SerializeChecked(std::string& text) const
 {
     CWindowFileWriter writer = WriteWidgets();
     text = writer.Finish();
+    m_nLastTextSize = text.size();
     return CheckWindowFileReadsBack(text, writer.Written(), writer.WidgetsEnd());
 }
 

@@ -141,4 +141,5 @@ private:
     int m_nBatchDepth = 0;
     CDocumentChange m_change;                  // collected, not told yet
     std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed once told
+    mutable std::size_t m_nLastTextSize = 0;    // of the window file last read or written
 };
