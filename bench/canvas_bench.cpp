@@ -311,8 +311,9 @@ void MeasureCanvas(int widgetCount)
                 bandPaints);
     PrintRow(widgetCount, "one widget dragged", widgetDrag, baseline);
     const qint64 canvasPixels = qint64(view.width()) * view.height();
-    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area)\n", "", paints.count / drags,
-                double(paints.pixels) / drags / double(canvasPixels));
+    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area; %.3f ms per mouse event)\n",
+                "", paints.count / drags, double(paints.pixels) / drags / double(canvasPixels),
+                widgetDrag.median / (kBandMoves + 2));
 }
 
 
@@ -455,7 +456,7 @@ int main(int argc, char* argv[])
     std::printf("Canvas of a %d x %d window; median and min of %d runs (rubber band: %d runs of %d moves)\n",
                 kWindowWidth, kWindowHeight, kRepaintRepetitions, kBandRepetitions, kBandMoves);
     std::printf("%7s  %-26s %9s %9s %10s\n", "widgets", "case", "median ms", "min ms", "/ plain");
-    for (int count : {1000, 5000})
+    for (int count : {1000, 5000, kEditorWidgetCount})
         MeasureCanvas(count);
     MeasureHugeWidgets();
     std::printf("\nEditor cases (ratio to the first row of each group)\n");
