@@ -1,23 +1,36 @@
 // Measures the canvas on a crowded window: a full repaint, a rubber-band selection and a drag of
 // one widget with the repaints that follow them, against plain rectangles drawn through the same
-// painter; and a full repaint of a window whose widgets are as large, and whose counts as high, as
-// a window file can make them. Prints figures only; nothing here is a pass or a fail.
+// painter; a band over every widget and a drag of them all, against one full repaint; opening a
+// window file of 10,000 widgets in the editor to its first paint, against loading the file; the
+// editor's start to its first paint, against a bare main window started the same way; and a full
+// repaint of a window whose widgets are as large, and whose counts as high, as a window file can
+// make them. Prints figures only; nothing here is a pass or a fail.
 
+#include "editor/app/childframe.h"
+#include "editor/app/editorprompts.h"
+#include "editor/app/mainframe.h"
 #include "editor/app/tamloview.h"
+#include "editor/model/editorsession.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/tamlodoc.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <functional>
 #include <random>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -37,12 +50,15 @@ constexpr int kPressInset = 2;
 constexpr int kBandEndDivisor = 20;
 constexpr auto kImageFormat = QImage::Format_ARGB32_Premultiplied;
 
-// One kind of the mix: its class key, its usual size on a panel and how often it occurs.
+// One kind of the mix: its class key, its usual size on a panel, how often it occurs, and the
+// codes of its gradient directions (none: no gradient).
 struct WidgetKind {
     const char* key;
     int width;
     int height;
     int weight;
+    int firstDirection = 0;
+    int directionCount = 0;
 };
 
 // A panel mix: many simple shapes and texts, fewer controls, a few large curves and alarm lists.
@@ -51,18 +67,29 @@ constexpr WidgetKind kMix[] = {
     {"line", 80, 2, 5},
     {"ellipse", 40, 40, 3},
     {"text", 90, 20, 6},
-    {"gradrectangle", 80, 50, 2},
-    {"gradellipse", 50, 50, 1},
-    {"gradtriangle", 50, 40, 1},
+    {"gradrectangle", 80, 50, 2, 32, 8},
+    {"gradellipse", 50, 50, 1, 0, 3},
+    {"gradtriangle", 50, 40, 1, 1, 4},
     {"button", 90, 30, 4},
+    {"checkbox", 90, 20, 1},
+    {"combobox", 100, 24, 1},
     {"numinput", 80, 24, 3},
     {"textinput", 100, 24, 2},
     {"timer", 30, 30, 1},
     {"curve", 240, 140, 1},
+    {"hiscurve", 240, 140, 1},
     {"alarmwnd", 320, 160, 1},
+    {"hislist", 320, 160, 1},
     {"bmptext", 100, 24, 2},
     {"picture", 100, 60, 2},
 };
+
+// The window of the editor's cases, as large as a window file of a crowded panel.
+constexpr int kEditorWidgetCount = 10000;
+constexpr int kOpenRepetitions = 3;
+constexpr int kStartRepetitions = 5;
+// Makes the editor and the bare window end after their first paint (firstpaintexit.h).
+constexpr const char* kExitAfterFirstPaint = "KELVO_EXIT_AFTER_FIRST_PAINT";
 
 // A coordinate far outside any window, and a count as high as a file can hold.
 constexpr int kHugeCoordinate = 1000000000;
@@ -106,6 +133,10 @@ void FillDocument(CTamloDoc& document, int widgetCount)
         widget->SetWidgetRect({x, y, x + kind.width, y + kind.height});
         if (std::string_view(kind.key) == "picture")
             widget->SetWidgetProperty("filename", "string", "logo.png", "32");
+        if (kind.directionCount > 0) {
+            const int direction = kind.firstDirection + i / int(std::size(kMix)) % kind.directionCount;
+            widget->SetWidgetProperty("direction", "ulong", std::to_string(direction), "");
+        }
         document.AddWidget(std::move(widget), true);
     }
 }
@@ -280,8 +311,138 @@ void MeasureCanvas(int widgetCount)
                 bandPaints);
     PrintRow(widgetCount, "one widget dragged", widgetDrag, baseline);
     const qint64 canvasPixels = qint64(view.width()) * view.height();
-    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area)\n", "", paints.count / drags,
-                double(paints.pixels) / drags / double(canvasPixels));
+    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area; %.3f ms per mouse event)\n",
+                "", paints.count / drags, double(paints.pixels) / drags / double(canvasPixels),
+                widgetDrag.median / (kBandMoves + 2));
+}
+
+
+// Milliseconds one piece of work takes, once.
+double TimeOnce(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+// A drag of the selection tool between two points, letting the event loop repaint after every event.
+void Drag(CTamloView& view, QPoint from, QPoint to, int moves)
+{
+    SendMouse(view, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    for (int step = 1; step <= moves; ++step) {
+        SendMouse(view, QEvent::MouseMove, from + (to - from) * step / moves, Qt::NoButton, Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+    SendMouse(view, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    QCoreApplication::processEvents();
+}
+
+// A band over the whole window, which selects every widget, and a drag of them all by one
+// step, each against one full repaint of the canvas. Both start from the window widget alone
+// selected, as after a click on the empty canvas.
+void MeasureBulkEdits(int widgetCount)
+{
+    CTamloDoc document;
+    FillDocument(document, widgetCount);
+    CCanvasTools tools;
+    CTamloView view(document, tools);
+    view.show();
+    QCoreApplication::processEvents();
+    QImage image(view.size(), kImageFormat);
+    const Timing repaint = Measure(kRepaintRepetitions, [&] { view.render(&image); });
+
+    const QPoint margin(view.width() - kPressInset, view.height() - kPressInset);
+    std::vector<double> bands;
+    std::vector<double> drags;
+    std::size_t banded = 0;
+    for (int i = 0; i < kBandRepetitions; ++i) {
+        view.Selection().Select(nullptr, false);
+        QCoreApplication::processEvents();
+        bands.push_back(TimeOnce([&] { Drag(view, margin, QPoint(0, 0), 1); }));
+        banded = view.Selection().Widgets().size();
+        // A press on the widget selected last drags the whole selection, back and forth in turns.
+        const HmiRect& rect = view.Selection().Widgets().back()->GetWidgetRect();
+        const QPoint from((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+        const QPoint step = i % 2 == 0 ? QPoint(1, 1) : QPoint(-1, -1);
+        drags.push_back(TimeOnce([&] { Drag(view, from, from + step, 1); }));
+    }
+    std::sort(bands.begin(), bands.end());
+    std::sort(drags.begin(), drags.end());
+    const Timing band{bands[bands.size() / 2], bands.front()};
+    const Timing drag{drags[drags.size() / 2], drags.front()};
+    PrintRow(widgetCount, "full canvas repaint", repaint, repaint);
+    PrintRow(widgetCount, "band over all, repaints", band, repaint);
+    std::printf("%7s  (the band selects %zu of %d widgets)\n", "", banded, widgetCount);
+    PrintRow(widgetCount, "drag of all by one step", drag, repaint);
+}
+
+// Opening a window file in the editor's main frame until its canvas has painted, against
+// reading the same file into a document.
+void MeasureOpening(int widgetCount)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("crowded.xml"));
+    {
+        CTamloDoc document;
+        FillDocument(document, widgetCount);
+        if (!document.Save(path.toStdString())) {
+            std::printf("%7d  cannot write %s\n", widgetCount, qPrintable(path));
+            return;
+        }
+    }
+    const Timing load = Measure(kOpenRepetitions, [&] {
+        CTamloDoc document;
+        document.Load(path.toStdString());
+    });
+
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    CEditorPrompts prompts;
+    CEditorSession session;
+    CMainFrame frame(prompts, settings, session);
+    frame.show();
+    QCoreApplication::processEvents();
+    const Timing open = Measure(kOpenRepetitions, [&] {
+        PaintCounter paints;
+        CChildFrame* child = frame.OpenDocument(path);
+        child->View().installEventFilter(&paints);
+        while (paints.count == 0)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        child->View().removeEventFilter(&paints);
+        delete child;
+    });
+    PrintRow(widgetCount, "load of the window file", load, load);
+    PrintRow(widgetCount, "opened in the editor", open, load);
+}
+
+// Wall time of a program from its start until it ends after its first paint.
+Timing MeasureStart(const QString& program, const QStringList& arguments)
+{
+    return Measure(kStartRepetitions, [&] {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QString::fromLatin1(kExitAfterFirstPaint), QStringLiteral("1"));
+        process.setProcessEnvironment(environment);
+        process.start(program, arguments);
+        process.waitForFinished(-1);
+    });
+}
+
+// The editor's start with the demo window to its first paint, against a bare main window. Both
+// run in a home and a current folder of their own, so that no settings and no library count.
+void MeasureStartUp()
+{
+    QTemporaryDir home;
+    const QString programs = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_STATE_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
+    QDir::setCurrent(home.path());
+    const Timing bare = MeasureStart(programs + QStringLiteral("bare-window"), {});
+    const Timing editor = MeasureStart(programs + QStringLiteral("kelvo-hmi-editor"), {});
+    PrintRow(0, "start: bare main window", bare, bare);
+    PrintRow(0, "start: editor", editor, bare);
 }
 
 } // namespace
@@ -295,8 +456,12 @@ int main(int argc, char* argv[])
     std::printf("Canvas of a %d x %d window; median and min of %d runs (rubber band: %d runs of %d moves)\n",
                 kWindowWidth, kWindowHeight, kRepaintRepetitions, kBandRepetitions, kBandMoves);
     std::printf("%7s  %-26s %9s %9s %10s\n", "widgets", "case", "median ms", "min ms", "/ plain");
-    for (int count : {1000, 5000})
+    for (int count : {1000, 5000, kEditorWidgetCount})
         MeasureCanvas(count);
     MeasureHugeWidgets();
+    std::printf("\nEditor cases (ratio to the first row of each group)\n");
+    MeasureBulkEdits(kEditorWidgetCount);
+    MeasureOpening(kEditorWidgetCount);
+    MeasureStartUp();
     return 0;
 }

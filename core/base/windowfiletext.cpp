@@ -13,10 +13,39 @@ void AppendCharacterReference(std::string& archive, char32_t codePoint)
     archive += reference;
 }
 
-// Writes an attribute value, with entities for the characters that `escaped` names.
-void AppendAttribute(std::string& archive, std::string_view text, std::string_view escaped)
+// Which characters of an attribute value become entities: all five, or only those that would
+// end the value or break the file.
+enum class Escaping { AllFive, Breaking };
+
+// Whether a character is written other than as itself.
+bool NeedsWriting(char c, Escaping escaping)
+{
+    switch (c) {
+    case kForeignMark:
+    case '\t':
+    case '\n':
+    case '\r':
+    case '&':
+    case '"':
+    case '<': return true;
+    case '>':
+    case '\'': return escaping == Escaping::AllFive;
+    default: return false;
+    }
+}
+
+// Writes an attribute value: the runs of characters that stand for themselves in one piece, the
+// others as entities or character references.
+void AppendAttribute(std::string& archive, std::string_view text, Escaping escaping)
 {
     for (std::size_t i = 0; i < text.size();) {
+        std::size_t run = i;
+        while (run < text.size() && !NeedsWriting(text[run], escaping))
+            ++run;
+        archive.append(text.data() + i, run - i);
+        if (run == text.size())
+            break;
+        i = run;
         const char c = text[i];
         if (c == kForeignMark) {
             const ForeignCharacter foreign = ReadForeignCharacter(text, i);
@@ -25,20 +54,13 @@ void AppendAttribute(std::string& archive, std::string_view text, std::string_vi
             continue;
         }
         ++i;
-        if (c == '\t' || c == '\n' || c == '\r') {
-            AppendCharacterReference(archive, char32_t(c));
-            continue;
-        }
-        if (escaped.find(c) == std::string_view::npos) {
-            archive += c;
-            continue;
-        }
         switch (c) {
         case '&': archive += "&amp;"; break;
         case '"': archive += "&quot;"; break;
         case '<': archive += "&lt;"; break;
         case '>': archive += "&gt;"; break;
         case '\'': archive += "&apos;"; break;
+        default: AppendCharacterReference(archive, char32_t(c)); break; // TAB, LF, CR
         }
     }
 }
@@ -47,7 +69,7 @@ void AppendAttribute(std::string& archive, std::string_view text, std::string_vi
 
 void AppendEscapedAttribute(std::string& archive, std::string_view text)
 {
-    AppendAttribute(archive, text, "&\"<>'");
+    AppendAttribute(archive, text, Escaping::AllFive);
 }
 
 std::string EscapedAttribute(std::string_view text)
@@ -60,7 +82,7 @@ std::string EscapedAttribute(std::string_view text)
 
 void AppendPlainAttribute(std::string& archive, std::string_view text)
 {
-    AppendAttribute(archive, text, "&\"<");
+    AppendAttribute(archive, text, Escaping::Breaking);
 }
 
 void AppendCDataSection(std::string& archive, std::string_view code)

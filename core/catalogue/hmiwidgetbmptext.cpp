@@ -6,7 +6,6 @@
 #include "widgets/optiontree.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 
 HMI_IMPLEMENT_WIDGET_CLASS(CHmiWidgetBmpText, CHmiWidget)
@@ -46,6 +45,7 @@ HmiWidgetPtr CHmiWidgetBmpText::Clone() const
     copy->m_strText = m_strText;
     copy->m_nAlign = m_nAlign;
     copy->m_strBitmap = m_strBitmap;
+    copy->m_renderedFrom = m_renderedFrom;
     CopyTo(*copy);
     return HmiWidgetPtr(copy.release());
 }
@@ -98,8 +98,10 @@ int CHmiWidgetBmpText::SetWidgetProperty(std::string_view name, std::string_view
         m_strText = value;
     else if (name == "align")
         m_nAlign = HmiParseLong(value);
-    else if (name == "bitmap")
+    else if (name == "bitmap") {
         m_strBitmap = value;
+        m_renderedFrom.reset(); // read, not rendered here
+    }
     else
         return 0;
     return 1;
@@ -138,6 +140,12 @@ void CHmiWidgetBmpText::UpdateWidgetPropByTree(COptionTreeItem* item)
         m_nAlign = item->GetCurSel() + 1;
 }
 
+CHmiWidgetBmpText::RenderInputs CHmiWidgetBmpText::CurrentRenderInputs() const
+{
+    const HmiRect r = m_rect.Normalized();
+    return {m_font, m_textColor, m_strText, m_nAlign, r.Width(), r.Height()};
+}
+
 std::string CHmiWidgetBmpText::RenderBitmap() const
 {
     const HmiRect r = m_rect.Normalized();
@@ -149,8 +157,13 @@ std::string CHmiWidgetBmpText::RenderBitmap() const
 void CHmiWidgetBmpText::SaveWidgetProperties(std::string& archive) const
 {
     CHmiWidget::SaveWidgetProperties(archive);
-    if (CHmiImageDC::CanDrawText())
-        m_strBitmap = RenderBitmap();
+    if (CHmiImageDC::CanDrawText()) {
+        RenderInputs inputs = CurrentRenderInputs();
+        if (inputs != m_renderedFrom) {
+            m_strBitmap = RenderBitmap();
+            m_renderedFrom = std::move(inputs);
+        }
+    }
     SaveWidgetProperty(archive, "fontname", "string", nullptr, m_font.face);
     SaveWidgetProperty(archive, "fontheight", "long", nullptr, m_font.height);
     SaveWidgetProperty(archive, "fontweight", "long", nullptr, m_font.weight);
@@ -167,18 +180,28 @@ void CHmiWidgetBmpText::SaveWidgetProperties(std::string& archive) const
 
 std::string EncodeBitmapPoints(const CHmiImageDC& image)
 {
+    static constexpr char kHexDigits[] = "0123456789ABCDEF";
+    // Appends a value in upper-case hexadecimal with at least `digits` digits, as "%0<digits>X"
+    // does (a coloured point's x beyond 0x7FF takes four).
+    const auto appendHex = [](char*& out, std::uint32_t value, int digits) {
+        while (digits < 8 && (value >> (4 * digits)) != 0)
+            ++digits;
+        for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
+            *out++ = kHexDigits[(value >> shift) & 0xF];
+    };
     std::string points;
-    char record[32];
+    char record[16];
     for (int x = 0; x < image.Width(); ++x) {
         for (int y = 0; y < image.Height(); ++y) {
             const HmiColor color = image.GetPixel(x, y);
             if (color == kBackground)
                 continue;
-            if (color == 0)
-                std::snprintf(record, sizeof record, "%03X%03X", x, y);
-            else
-                std::snprintf(record, sizeof record, "%03X%03X%06X", x + kColouredPoint, y, color);
-            points += record;
+            char* end = record;
+            appendHex(end, std::uint32_t(color == 0 ? x : x + kColouredPoint), 3);
+            appendHex(end, std::uint32_t(y), 3);
+            if (color != 0)
+                appendHex(end, color, 6);
+            points.append(record, end);
         }
     }
     return points;

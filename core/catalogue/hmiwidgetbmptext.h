@@ -3,6 +3,7 @@
 #include "widgets/hmidc.h"
 #include "widgets/hmiwidget.h"
 
+#include <optional>
 #include <string>
 
 // A text in any installed font. The panel has no such fonts, so when the window is saved the
@@ -21,8 +22,9 @@ public:
     int GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text) const override;
     void CreateWidgetRootItems(COptionTree& tree) override;
     void UpdateWidgetPropByTree(COptionTreeItem* item) override;
-    // Renders the text afresh for the "bitmap" property when fonts are at hand (a running
-    // application); otherwise the point list last read or rendered is written again.
+    // Renders the text for the "bitmap" property when fonts are at hand (a running application)
+    // and anything it is drawn from changed since the last rendering, or the point list was read
+    // since; otherwise the point list last read or rendered is written again.
     void SaveWidgetProperties(std::string& archive) const override;
 
     // The point list of the text drawn at the origin over white: column by column, each black
@@ -38,7 +40,22 @@ public:
     mutable std::string m_strBitmap;
 
 private:
+    // Everything the rendering depends on.
+    struct RenderInputs {
+        HmiFont font;
+        HmiColor textColor;
+        std::string text;
+        std::int32_t align;
+        std::int32_t width;
+        std::int32_t height;
+        friend bool operator==(const RenderInputs&, const RenderInputs&) = default;
+    };
+
     void DrawAt(CHmiDC& dc, const HmiRect& rect) const;
+    RenderInputs CurrentRenderInputs() const;
+
+    // What m_strBitmap was rendered from; empty when it was read or never rendered.
+    mutable std::optional<RenderInputs> m_renderedFrom;
 };
 
 class CHmiImageDC;

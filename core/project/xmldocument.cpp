@@ -121,6 +121,14 @@ std::string XmlElement::Attribute(const char* name) const
 {
     if (!m_node)
         return {};
+    // A value is nearly always one piece of text in the element, read where it lies; libxml2
+    // joins the others and finds the defaults that a DTD declares.
+    const xmlAttr* attribute = xmlHasProp(m_node, reinterpret_cast<const xmlChar*>(name));
+    if (!attribute)
+        return {};
+    if (attribute->type == XML_ATTRIBUTE_NODE && attribute->children &&
+        !attribute->children->next && attribute->children->type == XML_TEXT_NODE)
+        return FromParser(attribute->children->content);
     xmlChar* value = xmlGetProp(m_node, reinterpret_cast<const xmlChar*>(name));
     std::string text = FromParser(value);
     xmlFree(value);

@@ -5,6 +5,7 @@
 #include "windowfilecheck.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 // Collects the changes of one operation, such as a load or an Undo, and tells them as one.
@@ -51,12 +52,11 @@ void CTamloDoc::Record(CHmiWidget& widget, DocChange what, const HmiRect& rectBe
     // A reloaded document has no widget changes to tell: every widget is new.
     if (!m_change.Has(DocChange::Reloaded)) {
         m_change.what |= what;
-        const auto known = std::find_if(m_change.widgets.begin(), m_change.widgets.end(),
-                                        [&widget](const HmiWidgetChange& entry) { return entry.widget == &widget; });
-        if (known == m_change.widgets.end())
+        const auto [known, added] = m_changeIndex.try_emplace(&widget, m_change.widgets.size());
+        if (added)
             m_change.widgets.push_back({&widget, what, rectBefore});
         else
-            known->what |= what; // the rectangle before stays the one before the first change
+            m_change.widgets[known->second].what |= what; // the rectangle before stays the first one
     }
     SendChange();
 }
@@ -76,6 +76,7 @@ void CTamloDoc::SendChange()
     }
     if (m_change.what != DocChange::None) {
         const CDocumentChange change = std::exchange(m_change, {});
+        m_changeIndex.clear();
         // An observer may go or come while another one is told.
         const std::vector<CDocumentObserver*> observers = m_observers;
         for (CDocumentObserver* observer : observers)
@@ -83,6 +84,18 @@ void CTamloDoc::SendChange()
                 observer->DocumentChanged(change);
     }
     m_removedWidgets.clear();
+}
+
+void CTamloDoc::ResetChange(DocChange what)
+{
+    m_change = {what, {}};
+    m_changeIndex.clear();
+}
+
+void CTamloDoc::ClearUndoStep()
+{
+    m_undoStep.clear();
+    m_deletedWidgets.clear();
 }
 
 void CTamloDoc::WidgetChanged(CHmiWidget& widget, DocChange what)
@@ -109,8 +122,8 @@ void CTamloDoc::SetModifiedFlag(bool modified)
 
 void CTamloDoc::DeleteContents()
 {
-    m_change = {DocChange::Reloaded, {}};
-    m_undoStep.clear();
+    ResetChange(DocChange::Reloaded);
+    ClearUndoStep();
     while (!m_widgets.empty())
         TakeOut(m_widgets.begin());
 }
@@ -119,6 +132,7 @@ void CTamloDoc::TakeOut(std::deque<HmiWidgetPtr>::iterator widget)
 {
     m_removedWidgets.push_back(std::move(*widget));
     m_widgets.erase(widget);
+    ForgetWindowWidget();
 }
 
 void CTamloDoc::AddWindowWidget(bool atTail)
@@ -146,6 +160,7 @@ bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
         m_widgets.push_back(std::move(widget));
     else
         m_widgets.push_front(std::move(widget));
+    ForgetWindowWidget();
     added.m_pDocument = this;
     if (added.GetWidgetName().empty()) {
         const std::string classKey = added.GetWidgetClassName();
@@ -168,6 +183,7 @@ void CTamloDoc::RemoveWidget(CHmiWidget* widget)
         return;
     CChangeBatch batch(*this);
     std::erase_if(m_undoStep, [widget](const HmiUndoEntry& entry) { return entry.widget == widget; });
+    m_deletedWidgets.erase(widget);
     TakeOut(found);
     Record(*widget, DocChange::Removed);
     SetModifiedFlag();
@@ -184,7 +200,7 @@ void CTamloDoc::DestroyDeletedWidgets()
         if (found != m_widgets.end())
             TakeOut(found);
     }
-    m_undoStep.clear();
+    ClearUndoStep();
     SendChange();
 }
 
@@ -199,8 +215,10 @@ void CTamloDoc::RecordUndo(UndoOperation operation, CHmiWidget* widget)
     if (!m_bUndoStepOpen || !widget)
         return;
     m_undoStep.push_back({operation, widget->GetWidgetRect(), widget});
-    if (operation == UndoOperation::Deleted)
+    if (operation == UndoOperation::Deleted) {
+        m_deletedWidgets.insert(widget);
         Record(*widget, DocChange::Removed);
+    }
 }
 
 void CTamloDoc::EndUndoStep()
@@ -217,16 +235,15 @@ void CTamloDoc::EndUndoStep()
 
 bool CTamloDoc::IsWidgetDeleted(const CHmiWidget* widget) const
 {
-    return std::any_of(m_undoStep.begin(), m_undoStep.end(), [widget](const HmiUndoEntry& entry) {
-        return entry.widget == widget && entry.operation == UndoOperation::Deleted;
-    });
+    return m_deletedWidgets.contains(widget);
 }
 
 void CTamloDoc::Undo()
 {
     CChangeBatch batch(*this);
     m_bUndoStepOpen = false;
-    const std::vector<HmiUndoEntry> step = std::exchange(m_undoStep, {});
+    const std::vector<HmiUndoEntry> step = m_undoStep;
+    ClearUndoStep();
     if (step.empty())
         return;
     for (auto entry = step.rbegin(); entry != step.rend(); ++entry) {
@@ -275,6 +292,7 @@ bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
     HmiWidgetPtr moved = std::move(*found);
     m_widgets.erase(found);
     m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
+    ForgetWindowWidget();
     Record(*widget, DocChange::Order);
     SetModifiedFlag();
     return true;
@@ -288,11 +306,13 @@ bool CTamloDoc::HasWidgetName(std::string_view name) const
 
 CHmiWidget* CTamloDoc::GetWindowWidget() const
 {
-    for (const HmiWidgetPtr& widget : m_widgets) {
-        if (IsWindowWidget(*widget))
-            return widget.get();
+    if (!m_windowKnown) {
+        const auto window = std::find_if(m_widgets.begin(), m_widgets.end(),
+                                         [](const HmiWidgetPtr& widget) { return IsWindowWidget(*widget); });
+        m_windowWidget = window == m_widgets.end() ? nullptr : window->get();
+        m_windowKnown = true;
     }
-    return nullptr;
+    return m_windowWidget;
 }
 
 FileResult CTamloDoc::Load(const std::string& path)
@@ -308,12 +328,16 @@ FileResult CTamloDoc::Load(const std::string& path)
     if (!GetWindowWidget())
         AddWindowWidget(false);
     m_bModified = false;
+    std::error_code noSize;
+    m_nLastTextSize = result ? std::size_t(std::filesystem::file_size(path, noSize)) : 0;
+    if (noSize)
+        m_nLastTextSize = 0;
     return result;
 }
 
 CWindowFileWriter CTamloDoc::WriteWidgets() const
 {
-    CWindowFileWriter writer;
+    CWindowFileWriter writer(m_nLastTextSize);
     for (const HmiWidgetPtr& widget : m_widgets) {
         if (!IsWidgetDeleted(widget.get()))
             writer.Write(*widget);
@@ -323,13 +347,16 @@ CWindowFileWriter CTamloDoc::WriteWidgets() const
 
 std::string CTamloDoc::Serialize() const
 {
-    return WriteWidgets().Finish();
+    std::string text = WriteWidgets().Finish();
+    m_nLastTextSize = text.size();
+    return text;
 }
 
 FileResult CTamloDoc::SerializeChecked(std::string& text) const
 {
     CWindowFileWriter writer = WriteWidgets();
     text = writer.Finish();
+    m_nLastTextSize = text.size();
     return CheckWindowFileReadsBack(text, writer.Written(), writer.WidgetsEnd());
 }
 

@@ -11,6 +11,8 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 class CHmiView;
@@ -127,6 +129,12 @@ private:
     bool IsCollecting() const { return m_bUndoStepOpen || m_nBatchDepth > 0; }
     // Tells the observers the change collected so far, unless an undo step or a batch is open.
     void SendChange();
+    // Starts collecting the next change.
+    void ResetChange(DocChange what);
+    // Empties the undo step, forgetting which widgets it deleted.
+    void ClearUndoStep();
+    // The list changed its members or their order: the window widget is looked for anew.
+    void ForgetWindowWidget() { m_windowKnown = false; }
 
     std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
@@ -140,5 +148,10 @@ private:
     bool m_bUndoStepOpen = false;
     int m_nBatchDepth = 0;
     CDocumentChange m_change;                  // collected, not told yet
+    std::unordered_map<const CHmiWidget*, std::size_t> m_changeIndex; // each widget's entry in m_change
+    std::unordered_set<const CHmiWidget*> m_deletedWidgets;           // deleted in the undo step
+    mutable CHmiWidget* m_windowWidget = nullptr; // GetWindowWidget's answer while m_windowKnown
+    mutable bool m_windowKnown = false;
     std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed once told
+    mutable std::size_t m_nLastTextSize = 0;    // of the window file last read or written
 };

@@ -1,7 +1,10 @@
 #include "widgetfilewriter.h"
 
-CWindowFileWriter::CWindowFileWriter() : m_text("<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n")
+CWindowFileWriter::CWindowFileWriter(std::size_t expectedSize)
 {
+    // A little more than expected, for a window that grew a little since.
+    m_text.reserve(expectedSize + expectedSize / 16);
+    m_text = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n";
     m_widgetsEnd = m_text.size();
 }
 

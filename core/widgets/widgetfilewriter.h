@@ -17,7 +17,9 @@ struct WrittenWidget {
 // around one element per widget (CHmiWidget::Serialize), in the order the widgets are written.
 class CWindowFileWriter {
 public:
-    CWindowFileWriter();
+    // The expected size of the text, when known (the size of the window's last file), saves
+    // growing the text again and again.
+    explicit CWindowFileWriter(std::size_t expectedSize = 0);
 
     void Write(const CHmiWidget& widget);
     // Where each widget's element begins, and where the last one ends.

@@ -1,4 +1,5 @@
 #include "editorprompts.h"
+#include "firstpaintexit.h"
 #include "tamloapp.h"
 
 #include <QApplication>
@@ -7,6 +8,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kelvo HMI Editor"));
+    CFirstPaintExit::InstallWhenAsked(application);
     CEditorPrompts prompts;
     CTamloApp editor(prompts);
     switch (editor.Start(QApplication::arguments())) {

@@ -196,6 +196,9 @@ void CMainFrame::CreateActions()
                                     QKeySequence::Paste, &CMainFrame::EditPaste);
     m_deleteAction = AddCanvasAction(QStringLiteral("&Delete"), QStringLiteral("Delete the selection"),
                                      QKeySequence::Delete, &CMainFrame::EditDelete);
+    m_selectAllAction = AddCanvasAction(QStringLiteral("Select &All"),
+                                        QStringLiteral("Select every widget of the window"),
+                                        QKeySequence::SelectAll, &CMainFrame::EditSelectAll);
     // Escape also works while the toolbox, where the placing tool was chosen, has the focus.
     QAction* cancel = AddCanvasAction(QStringLiteral("Cancel"), QStringLiteral("Stop placing widgets"),
                                       QKeySequence::Cancel, &CMainFrame::CancelTool);
@@ -238,6 +241,8 @@ void CMainFrame::CreateMenus()
     edit->addAction(m_copyAction);
     edit->addAction(m_pasteAction);
     edit->addAction(m_deleteAction);
+    edit->addSeparator();
+    edit->addAction(m_selectAllAction);
 
     QToolBar* standard = addToolBar(QStringLiteral("Standard"));
     standard->setObjectName(QStringLiteral("standardToolBar"));
@@ -475,6 +480,7 @@ void CMainFrame::UpdateEditActions()
     m_deleteAction->setEnabled(hasWidgets);
     const QMimeData* clipboard = QApplication::clipboard()->mimeData();
     m_pasteAction->setEnabled(view && clipboard && clipboard->hasFormat(kWidgetsMimeType));
+    m_selectAllAction->setEnabled(view != nullptr);
     m_saveAction->setEnabled(view != nullptr);
     m_saveAsAction->setEnabled(view != nullptr);
 }
@@ -588,9 +594,17 @@ void CMainFrame::EditPaste()
         return;
     const std::vector<CHmiWidget*> pasted =
         PasteWidgets(view->Document(), clipboard->data(kWidgetsMimeType).toStdString());
-    for (std::size_t i = 0; i < pasted.size(); ++i)
-        view->Selection().Select(pasted[i], i > 0);
+    if (!pasted.empty())
+        view->Selection().SelectWidgets(pasted, false);
     UpdateEditActions();
+}
+
+void CMainFrame::EditSelectAll()
+{
+    if (CTamloView* view = ActiveView()) {
+        view->Selection().SelectAll();
+        UpdateEditActions();
+    }
 }
 
 void CMainFrame::EditDelete()

@@ -109,6 +109,7 @@ private:
     void EditCopy();
     void EditPaste();
     void EditDelete();
+    void EditSelectAll();
     void HelpWidgetLibraries();
     // Returns from the placing tool to the selection tool.
     void CancelTool();
@@ -142,4 +143,5 @@ private:
     QAction* m_copyAction = nullptr;
     QAction* m_pasteAction = nullptr;
     QAction* m_deleteAction = nullptr;
+    QAction* m_selectAllAction = nullptr;
 };

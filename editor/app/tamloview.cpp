@@ -121,18 +121,14 @@ void CTamloView::FitToWindow()
 
 void CTamloView::InvalidateDocRect(const HmiRect& area)
 {
-    if (m_painting)
-        return;
-    m_dragBackdrop = QImage();
-    update(ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin));
+    if (!m_painting)
+        update(ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin));
 }
 
 void CTamloView::InvalidateView()
 {
-    if (m_painting)
-        return;
-    m_dragBackdrop = QImage();
-    update();
+    if (!m_painting)
+        update();
 }
 
 void CTamloView::DocumentChanged(const CDocumentChange& change)
@@ -144,6 +140,8 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
         return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
     };
     const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
+    if (change.Has(kDrawn | DocChange::Reloaded))
+        m_backdrop = QImage();
     if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne) {
         FitToWindow();
         return InvalidateView();
@@ -173,8 +171,6 @@ void CTamloView::ShowDragFeedback(std::vector<HmiRect> clientRects)
 {
     update(FeedbackArea());
     m_feedback = std::move(clientRects);
-    if (m_feedback.empty())
-        m_dragBackdrop = QImage();
     update(FeedbackArea());
 }
 
@@ -190,59 +186,73 @@ void CTamloView::paintEvent(QPaintEvent* event)
 {
     const QScopedValueRollback painting(m_painting, true);
     QPainter painter(this);
-    // While a drag shows its rectangles the document stands still. When they cover much of the
-    // canvas, as a band over thousands of widgets does, the canvas is drawn once and then copied,
-    // so that the band follows the mouse.
+    // When a drag shows rectangles over much of the canvas, as a band over thousands of widgets
+    // does, the document is drawn once and then copied, so that the rectangles follow the mouse;
+    // the copy serves every repaint until the document changes, so that the selection the drag
+    // ends with shows at the cost of its handles alone.
     const QRect area = event->rect();
     const bool large =
         std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
-    if (!m_feedback.empty() && (large || !m_dragBackdrop.isNull())) {
-        if (m_dragBackdrop.isNull()) {
-            m_dragBackdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
-            m_dragBackdrop.setDevicePixelRatio(devicePixelRatio());
-            QPainter backdrop(&m_dragBackdrop);
-            PaintCanvas(backdrop, rect());
-        }
-        painter.drawImage(area, m_dragBackdrop, area);
-    } else {
-        PaintCanvas(painter, event->region());
+    if (m_backdrop.size() != size() * devicePixelRatio())
+        m_backdrop = QImage();
+    if (!m_feedback.empty() && large && m_backdrop.isNull()) {
+        m_backdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
+        m_backdrop.setDevicePixelRatio(devicePixelRatio());
+        QPainter backdrop(&m_backdrop);
+        PaintDocument(backdrop, rect());
     }
+    painter.save();
+    ClipTo(painter, event->region());
+    if (m_backdrop.isNull())
+        PaintDocument(painter, event->region());
+    else
+        painter.drawImage(area, m_backdrop, area);
+    DrawTrackers(painter);
+    painter.restore();
     DrawDragFeedback(painter);
 }
 
-void CTamloView::PaintCanvas(QPainter& painter, const QRegion& region) const
+void CTamloView::ClipTo(QPainter& painter, const QRegion& region)
 {
-    // Only the region to repaint is drawn: the drawing target takes the clip as what it shows,
-    // and leaves out the widgets whose room lies wholly outside it.
-    painter.save();
     if (region.rectCount() == 1)
         painter.setClipRect(region.boundingRect()); // the painter's fast way
     else
         painter.setClipRegion(region);
+}
+
+void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
+{
+    // Only the region to repaint is drawn: the drawing target takes the clip as what it shows,
+    // and leaves out the widgets whose room lies wholly outside it.
+    painter.save();
+    ClipTo(painter, region);
     painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
     std::vector<HmiRect> areas;
     for (const QRect& rect : region) {
         const QRect room = rect.adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
         areas.push_back({room.left(), room.top(), room.right() + 1, room.bottom() + 1});
     }
-    {
-        CHmiPainterDC dc(painter);
-        DrawWindow(m_document, dc, areas);
-    }
-    DrawTrackers(painter);
+    CHmiPainterDC dc(painter);
+    DrawWindow(m_document, dc, areas);
     painter.restore();
 }
 
 void CTamloView::DrawTrackers(QPainter& painter) const
 {
     const std::vector<CHmiWidget*>& widgets = m_selection.Widgets();
+    CHmiPainterDC canvasDC(painter); // one for the many widgets that draw where they stand
     for (CHmiWidget* widget : widgets) {
+        const TrackerState state = widget == widgets.back() ? TrackerState::active : TrackerState::selected;
         // The window widget draws at the canvas origin, wherever it stands on the panel.
         const HmiPoint origin = CanvasOrigin(*widget);
+        if (origin == HmiPoint{}) {
+            widget->DrawTracker(canvasDC, state);
+            continue;
+        }
         painter.save();
         painter.translate(-double(origin.x), -double(origin.y));
         CHmiPainterDC dc(painter);
-        widget->DrawTracker(dc, widget == widgets.back() ? TrackerState::active : TrackerState::selected);
+        widget->DrawTracker(dc, state);
         painter.restore();
     }
 }

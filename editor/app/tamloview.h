@@ -71,7 +71,9 @@ protected:
 private:
     // Grows or shrinks the canvas to the window widget's size.
     void FitToWindow();
-    void PaintCanvas(QPainter& painter, const QRegion& region) const;
+    static void ClipTo(QPainter& painter, const QRegion& region);
+    // The window's widgets in the region, without the selection's handles.
+    void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
     void DrawDragFeedback(QPainter& painter) const;
     QRect FeedbackArea() const;
@@ -81,7 +83,7 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
-    QImage m_dragBackdrop; // the canvas drawn once for a drag whose rectangles cover much of it
+    QImage m_backdrop; // the document drawn once for a large drag, kept until the document changes
     QMenu* m_contextMenu = nullptr;
     bool m_painting = false;
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes

@@ -82,8 +82,14 @@ void CWidgetNameCombo::SelectWidget(const CHmiWidget* widget)
 
 void CWidgetNameCombo::DocumentChanged(const CDocumentChange& change)
 {
+    // Moving or resizing widgets leaves their names as they are.
+    constexpr DocChange kListed = DocChange::Added | DocChange::Removed | DocChange::Order | DocChange::Properties;
+    if (!change.Has(kListed | DocChange::Reloaded))
+        return;
     const QSignalBlocker quiet(this);
-    if (change.Has(DocChange::Reloaded) || change.widgets.size() > kNamesPlacedOneByOne)
+    const auto listed = [](const HmiWidgetChange& entry) { return HasAny(entry.what, kListed); };
+    if (change.Has(DocChange::Reloaded) ||
+        std::size_t(std::count_if(change.widgets.begin(), change.widgets.end(), listed)) > kNamesPlacedOneByOne)
         ListWidgets();
     else
         Follow(change.widgets);

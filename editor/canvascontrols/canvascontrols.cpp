@@ -9,6 +9,12 @@
 
 #include <QWidget>
 
+namespace {
+
+constexpr std::size_t kControlsRepaintedOneByOne = 64;
+
+} // namespace
+
 CCanvasControls::CCanvasControls(QWidget& canvas, const CHmiView& view, CTamloDoc& document)
     : m_canvas(canvas), m_view(view), m_document(document), m_forwarder(new CControlMouseForwarder(canvas))
 {
@@ -36,9 +42,16 @@ void CCanvasControls::DocumentChanged(const CDocumentChange& change)
 {
     if (change.Has(DocChange::Reloaded))
         return Sync();
+    // Each control that moves repaints the canvas where it stood and stands; many of them
+    // repaint it once, as gathering so many areas would cost more than painting it.
+    const bool many = change.widgets.size() > kControlsRepaintedOneByOne;
+    if (many)
+        m_canvas.setUpdatesEnabled(false);
     for (const HmiWidgetChange& entry : change.widgets)
         if (auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(entry.widget))
             Update(*controlWidget, entry.what);
+    if (many)
+        m_canvas.setUpdatesEnabled(true);
 }
 
 void CCanvasControls::Sync()

@@ -27,11 +27,6 @@ CCanvasSelection::~CCanvasSelection()
     m_document.RemoveObserver(this);
 }
 
-bool CCanvasSelection::IsSelected(const CHmiWidget* widget) const
-{
-    return std::find(m_widgets.begin(), m_widgets.end(), widget) != m_widgets.end();
-}
-
 void CCanvasSelection::InvalidateTrackers(const std::vector<CHmiWidget*>& widgets) const
 {
     if (widgets.size() > kTrackersRepaintedOneByOne)
@@ -55,19 +50,66 @@ void CCanvasSelection::Select(CHmiWidget* widget, bool add)
         if (CHmiWidget* window = m_document.FindWindowWidget(); window && window != widget)
             Remove(window);
     } else {
-        InvalidateTrackers(m_widgets);
-        m_widgets.clear();
+        Clear();
     }
     if (widget && IsSelected(widget))
         return;
     if (!widget)
         widget = m_document.FindWindowWidget();
     if (widget) {
-        m_widgets.push_back(widget);
+        Append(widget);
         InvalidateTrackers({widget});
     }
     if (m_onChanged)
         m_onChanged();
+}
+
+void CCanvasSelection::Append(CHmiWidget* widget)
+{
+    m_widgets.push_back(widget);
+    m_members.insert(widget);
+}
+
+void CCanvasSelection::Clear()
+{
+    InvalidateTrackers(m_widgets);
+    m_widgets.clear();
+    m_members.clear();
+}
+
+void CCanvasSelection::SelectWidgets(const std::vector<CHmiWidget*>& widgets, bool add)
+{
+    if (!add)
+        Clear();
+    std::vector<CHmiWidget*> joining;
+    for (CHmiWidget* widget : widgets)
+        if (m_members.insert(widget).second)
+            joining.push_back(widget);
+    if (add && joining.empty())
+        return;
+    if (!joining.empty())
+        Remove(m_document.FindWindowWidget());
+    m_widgets.insert(m_widgets.end(), joining.begin(), joining.end());
+    InvalidateTrackers(joining);
+    if (m_widgets.empty())
+        return Select(nullptr, false);
+    if (m_onChanged)
+        m_onChanged();
+}
+
+std::vector<CHmiWidget*> CCanvasSelection::Selectable(const std::function<bool(const CHmiWidget&)>& wanted) const
+{
+    const CHmiWidget* window = m_document.FindWindowWidget();
+    std::vector<CHmiWidget*> widgets;
+    for (const HmiWidgetPtr& widget : m_document.Widgets())
+        if (widget.get() != window && !m_document.IsWidgetDeleted(widget.get()) && wanted(*widget))
+            widgets.push_back(widget.get());
+    return widgets;
+}
+
+void CCanvasSelection::SelectAll()
+{
+    SelectWidgets(Selectable([](const CHmiWidget&) { return true; }), false);
 }
 
 void CCanvasSelection::Deselect(CHmiWidget* widget)
@@ -78,36 +120,20 @@ void CCanvasSelection::Deselect(CHmiWidget* widget)
 
 bool CCanvasSelection::Remove(CHmiWidget* widget)
 {
-    const auto found = std::find(m_widgets.begin(), m_widgets.end(), widget);
-    if (found == m_widgets.end())
+    if (!m_members.erase(widget))
         return false;
     InvalidateTrackers({widget});
-    m_widgets.erase(found);
+    std::erase(m_widgets, widget);
     return true;
 }
 
 void CCanvasSelection::SelectInRect(const HmiRect& clientRect, bool add)
 {
-    if (!add)
-        Select(nullptr, false);
     const HmiPoint topLeft = m_view.ClientToDoc({clientRect.left, clientRect.top});
     const HmiPoint bottomRight = m_view.ClientToDoc({clientRect.right, clientRect.bottom});
     const HmiRect band = HmiRect{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y}.Normalized();
     // The window widget is the background: a band around everything selects what stands on it.
-    CHmiWidget* window = m_document.FindWindowWidget();
-    std::vector<CHmiWidget*> inside;
-    for (const HmiWidgetPtr& widget : m_document.Widgets()) {
-        if (widget.get() != window && !m_document.IsWidgetDeleted(widget.get()) && widget->Intersects(band) &&
-            !IsSelected(widget.get()))
-            inside.push_back(widget.get());
-    }
-    if (inside.empty())
-        return;
-    Remove(window);
-    m_widgets.insert(m_widgets.end(), inside.begin(), inside.end());
-    InvalidateTrackers(inside);
-    if (m_onChanged)
-        m_onChanged();
+    SelectWidgets(Selectable([&band](const CHmiWidget& widget) { return widget.Intersects(band); }), add);
 }
 
 void CCanvasSelection::DocumentChanged(const CDocumentChange& change)
@@ -115,10 +141,13 @@ void CCanvasSelection::DocumentChanged(const CDocumentChange& change)
     std::size_t forgotten = 0;
     if (change.Has(DocChange::Reloaded)) {
         forgotten = std::exchange(m_widgets, {}).size();
+        m_members.clear();
     } else if (change.Has(DocChange::Removed)) {
+        std::unordered_set<const CHmiWidget*> removed;
         for (const HmiWidgetChange& entry : change.widgets)
-            if (HasAny(entry.what, DocChange::Removed))
-                forgotten += std::erase(m_widgets, entry.widget);
+            if (HasAny(entry.what, DocChange::Removed) && m_members.erase(entry.widget))
+                removed.insert(entry.widget);
+        forgotten = std::erase_if(m_widgets, [&removed](const CHmiWidget* widget) { return removed.contains(widget); });
     }
     if (forgotten == 0)
         return;

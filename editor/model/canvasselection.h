@@ -4,6 +4,7 @@
 #include "base/hmitypes.h"
 
 #include <functional>
+#include <unordered_set>
 #include <vector>
 
 class CHmiView;
@@ -30,7 +31,12 @@ public:
     void Deselect(CHmiWidget* widget);
     // Selects every widget that lies wholly inside a rectangle given in client coordinates.
     void SelectInRect(const HmiRect& clientRect, bool add);
-    bool IsSelected(const CHmiWidget* widget) const;
+    // Selects widgets other than the window widget in their order (without add: instead of the
+    // selection), and tells of the change once, however many they are.
+    void SelectWidgets(const std::vector<CHmiWidget*>& widgets, bool add);
+    // Selects every widget of the window but the window widget, in drawing order.
+    void SelectAll();
+    bool IsSelected(const CHmiWidget* widget) const { return m_members.contains(widget); }
 
     // CDocumentObserver: a selection that loses its last widget selects the window widget.
     void DocumentChanged(const CDocumentChange& change) override;
@@ -43,10 +49,15 @@ public:
 private:
     // Repaints the widgets' selection handles.
     void InvalidateTrackers(const std::vector<CHmiWidget*>& widgets) const;
+    void Append(CHmiWidget* widget);
+    void Clear();
     bool Remove(CHmiWidget* widget);
+    // The widgets of the document that are neither deleted nor the window widget, in drawing order.
+    std::vector<CHmiWidget*> Selectable(const std::function<bool(const CHmiWidget&)>& wanted) const;
 
     CTamloDoc& m_document;
     CHmiView& m_view;
     std::vector<CHmiWidget*> m_widgets;
+    std::unordered_set<const CHmiWidget*> m_members; // m_widgets, for tests of membership
     std::function<void()> m_onChanged;
 };

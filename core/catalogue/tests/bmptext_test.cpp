@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <functional>
 
 TEST(BmpText, EncodesBlackPointsShortAndColouredPointsWithTheirColour)
 {
@@ -19,6 +20,10 @@ TEST(BmpText, EncodesBlackPointsShortAndColouredPointsWithTheirColour)
     columns.FillSolidRect({2, 17, 3, 18}, 0x123456);
     columns.FillSolidRect({0, 19, 1, 20}, 0);
     EXPECT_EQ(EncodeBitmapPoints(columns), "000013" "802011123456") << "column by column, in hexadecimal";
+
+    CHmiImageDC wide(0x901, 1);
+    wide.FillSolidRect({0x900, 0, 0x901, 1}, 0x0000FF);
+    EXPECT_EQ(EncodeBitmapPoints(wide), "1100" "000" "0000FF") << "a flagged x beyond three digits takes four";
 }
 
 // What the default widget renders, and the bitmap line's length, are pinned down by the
@@ -39,12 +44,39 @@ TEST(BmpText, RendersItsTextInItsColourWhenSavedAndNoPointsWithoutText)
         << "an all-white picture";
 }
 
-// How it reads its font and colour is in the file-value table.
-TEST(BmpText, ACloneKeepsThePointsItRead)
+// A save renders the text again after any edit of what it is drawn from, and only then. How it
+// reads its font and colour is in the file-value table.
+TEST(BmpText, ASaveRendersAgainAfterEveryEditOnlyAndACloneKeepsThePoints)
 {
     CHmiWidgetBmpText widget;
+    widget.SetWidgetRect({0, 0, 60, 30});
+    widget.m_font = {"DejaVu Sans", -16, 700};
+    const std::function<void()> edits[] = {
+        [&] { widget.m_strText = "Pump"; },
+        [&] { widget.m_textColor = 0x0000FF; },
+        [&] { widget.m_font.height = -20; },
+        [&] { widget.m_font.italic = 1; },
+        [&] { widget.m_nAlign = 3; },
+        [&] { widget.SetWidgetRect({5, 5, 45, 35}); }, // narrower, so the centred text moves
+        [&] { widget.SetWidgetProperty("text", "string", "Valve", ""); },
+    };
+    OwnPropertyLines(widget);
+    for (std::size_t i = 0; i < std::size(edits); ++i) {
+        const std::string before = widget.m_strBitmap;
+        edits[i]();
+        OwnPropertyLines(widget);
+        EXPECT_NE(widget.m_strBitmap, before) << "edit " << i;
+        EXPECT_EQ(widget.m_strBitmap, widget.RenderBitmap()) << "edit " << i;
+    }
+    const std::string rendered = widget.m_strBitmap;
+    widget.m_strBitmap = "kept";
+    OwnPropertyLines(widget);
+    EXPECT_EQ(widget.m_strBitmap, "kept") << "nothing changed, nothing rendered";
+
     ASSERT_EQ(widget.SetWidgetProperty("bitmap", "string", "000000", ""), 1);
     EXPECT_EQ(dynamic_cast<const CHmiWidgetBmpText&>(*widget.Clone()).m_strBitmap, "000000");
+    OwnPropertyLines(widget);
+    EXPECT_EQ(widget.m_strBitmap, rendered) << "points that were read are rendered over";
 }
 
 TEST(BmpText, AHugeWidgetRendersOnlyWhatThePointListCanHold)

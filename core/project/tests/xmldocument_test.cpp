@@ -25,14 +25,15 @@ TEST(XmlDocument, Gb2312FilesGiveTheirValuesBackInGb2312)
 {
     // Encoding names are case-insensitive: a lower-case declaration is the same code page.
     for (const char* encoding : {"GB2312", "gb2312"}) {
-        const std::string text = std::string("<?xml version=\"1.0\" encoding=\"") + encoding + "\"?>\n<root a=\"" +
+        const std::string text = std::string("<?xml version=\"1.0\" encoding=\"") + encoding +
+                                 "\"?>\n<!DOCTYPE root [<!ATTLIST root d CDATA \"declared\">]><root a=\"" +
                                  kTemperatureGb + "\" b=\"x &amp; y\"><c a=\"" + kTemperatureGb + "\"/></root>";
         const XmlDocument doc = XmlDocument::Parse(text);
         ASSERT_TRUE(doc.IsValid());
         const XmlElement root = doc.Root();
         EXPECT_EQ(std::tuple(root.Is("root"), root.Is("Root")), std::tuple(true, false));
-        EXPECT_EQ(std::tuple(root.Attribute("a"), root.Attribute("b"), root.Attribute("missing")),
-                  std::tuple(kTemperatureGb, "x & y", "")) << encoding;
+        EXPECT_EQ(std::tuple(root.Attribute("a"), root.Attribute("b"), root.Attribute("missing"), root.Attribute("d")),
+                  std::tuple(kTemperatureGb, "x & y", "", "declared")) << encoding;
         XmlChildStream stream(text);
         EXPECT_EQ(stream.Next().Attribute("a"), kTemperatureGb) << encoding;
     }

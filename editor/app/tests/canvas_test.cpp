@@ -8,6 +8,7 @@
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
 #include "editor/model/canvastools.h"
+#include "editor/model/editcommands.h"
 #include "editor/canvascontrols/controlkinds.h"
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "tests/support/registryscope.h"
@@ -20,6 +21,7 @@
 #include <QPaintEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QStatusBar>
 
 #include <functional>
@@ -244,6 +246,48 @@ private slots:
         view->update();
         LetTheCanvasPaint();
         QCOMPARE(repaints.paints, 1);
+    }
+
+    // Select All, a band and a paste select many widgets at once: the pane and the name list
+    // follow the widget selected last, told once; dragging them all is one undo step that moves each.
+    void bulkSelectionsAreToldOnce()
+    {
+        std::vector<CHmiWidget*> rects;
+        for (int i = 0; i < 100; ++i)
+            rects.push_back(AddRect(*document, {10 + i % 10 * 30, 10 + i / 10 * 30, 30 + i % 10 * 30, 30 + i / 10 * 30}));
+        DeleteWidgets(*document, {rects.front()});
+        const std::vector<CHmiWidget*> kept(rects.begin() + 1, rects.end());
+        CWidgetNameCombo& names = editor->frame.NameCombo();
+        QSignalSpy told(view, &CTamloView::selectionChanged);
+        const struct {
+            const char* name;
+            std::function<void()> select;
+            int changes;
+        } selections[] = {
+            {"select all", [&] { Press(Qt::Key_A, Qt::ControlModifier); }, 1},
+            {"band", [&] { view->Selection().SelectInRect({500, 500, 0, 0}, false); }, 1},
+        };
+        for (const auto& [name, select, changes] : selections) {
+            view->Selection().Select(nullptr, false);
+            told.clear();
+            select();
+            QVERIFY2(Selected() == kept, name);
+            QVERIFY2(told.count() == changes, name);
+            QVERIFY2(editor->frame.PropertyPane().CurrentWidget() == kept.back(), name);
+            QVERIFY2(names.currentText().toStdString() == kept.back()->GetWidgetName(), name);
+        }
+
+        Drag(view, QPoint(45, 15), QPoint(46, 17));
+        QCOMPARE(document->UndoStep().size(), kept.size());
+        QCOMPARE(RectOf(kept.back()), (HmiRect{281, 282, 301, 302}));
+
+        Press(Qt::Key_C, Qt::ControlModifier);
+        told.clear();
+        Press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(Selected().size(), kept.size());
+        QCOMPARE(Selected().back(), document->Widgets().back().get());
+        QCOMPARE(names.currentText().toStdString(), Selected().back()->GetWidgetName());
     }
 
     // The canvas's own menu shows its status texts in the main window, as the menu bar does.
