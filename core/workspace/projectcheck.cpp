@@ -67,6 +67,12 @@ bool IsBlank(std::string_view name)
     return name.find_first_not_of(" \t") == std::string_view::npos;
 }
 
+// Colours, choices and check boxes hold numbers, so no text of theirs needs a look.
+bool HoldsNumber(PropItemType itemType)
+{
+    return itemType == PROP_COLOR || itemType == PROP_COMBO || itemType == PROP_CHECKBOX;
+}
+
 bool HoldsForeignCharacters(std::string_view text)
 {
     return text.find(kForeignMark) != std::string_view::npos;
@@ -84,7 +90,7 @@ public:
         ForEachVariableText(widget, [&](const WidgetPlace& place, const std::string& text) { CheckText(place, text); });
         for (const std::unique_ptr<CHmiWidgetProp>& prop : widget.GetProperties()) {
             std::string value;
-            if (!widget.GetWidgetPropValue(*prop, value))
+            if (HoldsNumber(prop->m_nItemType) || !widget.GetWidgetPropValue(*prop, value))
                 continue;
             const WidgetPlace place{WidgetPlace::Kind::Property, prop->m_strName};
             if (prop->m_nItemType == PROP_FILE && !value.empty() && !m_index.HasFile(pictureFolder + value))
