@@ -70,9 +70,9 @@ ProjectWindows FindProjectWindows(const std::string& folder)
         if (std::find(listed.begin(), listed.end(), name) != listed.end())
             return; // two windows of one file: the file is checked and renamed once
         listed.push_back(name);
-        windows.files.push_back({entry.filename, folder + name, true});
+        windows.files.push_back({entry.filename, folder + name, true, entry.name});
     });
     for (const std::string& name : UnlistedWindowFiles(folder, listed))
-        windows.files.push_back({Utf8ToGb2312OrKeep(name), folder + name, false});
+        windows.files.push_back({Utf8ToGb2312OrKeep(name), folder + name, false, {}});
     return windows;
 }

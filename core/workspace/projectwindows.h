@@ -11,6 +11,7 @@ struct ProjectWindowFile {
     std::string file; // relative to the project folder
     std::string path; // where it is, for the file system
     bool listed;
+    std::string name; // the window's name in the list; empty for a file it does not list
 };
 
 struct ListedWindowWithoutFile {

@@ -10,3 +10,5 @@ using Arguments = std::span<char* const>;
 int CheckCommand(Arguments args);
 // rename-var PROJECT OLD NEW [--dry-run] [--declarations]
 int RenameVarCommand(Arguments args);
+// render-all PROJECT OUTDIR
+int RenderAllCommand(Arguments args);

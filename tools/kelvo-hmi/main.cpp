@@ -1,22 +1,19 @@
 // kelvo-hmi: the editor's core on the command line, for people and scripts without a display.
 
 #include "commands.h"
+#include "drawing.h"
 
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 #include "catalogue/builtinwidgets.h"
 #include "libraries/widgetlibraryloader.h"
-#include "widgets/hmiimagedc.h"
 #include "widgets/tamlodoc.h"
-#include "widgets/windowpainter.h"
 
 #include <QGuiApplication>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -119,16 +116,11 @@ int Render(Arguments args)
         return 1;
     if (args.size() == 4)
         document.SetPictureFolder(args[3]);
-    const HmiRect window = document.GetWindowWidget()->GetWidgetRect().Normalized();
-    const std::int32_t width = std::min(window.Width(), kMaxDrawnWindowExtent);
-    const std::int32_t height = std::min(window.Height(), kMaxDrawnWindowExtent);
-    if (width < window.Width() || height < window.Height())
-        std::fprintf(stderr, "kelvo-hmi: the window is %d x %d pixels; drawn clipped to its top-left %d x %d\n",
-                     window.Width(), window.Height(), width, height);
-    CHmiImageDC image(width, height);
-    DrawWindow(document, image);
-    if (const FileResult saved = image.SavePng(args[1]); !saved)
+    const FileResult saved = DrawWindowToPng(document, args[1]);
+    if (!saved)
         return Fail(saved.error);
+    for (const std::string& notice : saved.notices)
+        std::fprintf(stderr, "kelvo-hmi: %s\n", notice.c_str());
     return 0;
 }
 
@@ -145,6 +137,8 @@ const Command kCommands[] = {
     {"rename-var", "rename-var PROJECT OLD NEW [--dry-run] [--declarations]",
      "rename a variable in every window (and where rtdb.xml / hmidb.xml declare it), printing each change", 3,
      5, false, RenameVarCommand},
+    {"render-all", "render-all PROJECT OUTDIR", "draw every window of the project into OUTDIR/WINDOW.png, in parallel",
+     2, 2, false, RenderAllCommand},
 };
 
 void PrintUsage(std::FILE* out)
@@ -216,14 +210,7 @@ int main(int argc, char* argv[])
         if (!command.draws)
             return command.run(args.subspan(1));
         // Drawing needs fonts, hence an application object; no display is needed.
-        if (!std::getenv("QT_QPA_PLATFORM"))
-            setenv("QT_QPA_PLATFORM", "offscreen", 0);
-        if (!std::getenv("XDG_RUNTIME_DIR")) {
-            // The folder Qt would fall back to, made private as it wants, so that it says nothing.
-            const std::string runtime = "/tmp/runtime-" + std::to_string(::getuid());
-            ::mkdir(runtime.c_str(), 0700);
-            setenv("XDG_RUNTIME_DIR", runtime.c_str(), 0);
-        }
+        PrepareOffscreenDrawing();
         QGuiApplication application(argc, argv);
         return command.run(args.subspan(1));
     }

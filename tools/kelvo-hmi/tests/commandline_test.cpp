@@ -239,6 +239,25 @@ TEST(CommandLine, RenamesAVariableOrShowsWhatARenameWouldChange)
     EXPECT_EQ(RunTool("rename-var " + demo + "plc.x '$y'").status, 2);
 }
 
+// Each window as render draws it, named after the window; a window that cannot be drawn fails
+// the run, and the others are drawn all the same.
+TEST(CommandLine, RendersEveryWindowOfAProjectInParallel)
+{
+    TempDir dir;
+    EXPECT_EQ(RunTool("render-all '" + std::string(KELVO_DEMO_DIR) + "' '" + dir.Path("demo") + "'").status, 0);
+    EXPECT_EQ(RunTool("render '" + std::string(KELVO_DEMO_DIR) + "/pumps.xml' '" + dir.Path("pumps.png") + "'").status, 0);
+    EXPECT_EQ(dir.Read("demo/pumps.png"), dir.Read("pumps.png"));
+    EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"demo", "pumps.png"}));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path("demo")), {}), 3);
+
+    const ToolRun defects = RunTool("render-all '" + std::string(KELVO_DEFECT_PROJECT_DIR) + "' '" + dir.Path("d") + "'");
+    EXPECT_EQ(defects.status, 1);
+    EXPECT_TRUE(std::filesystem::exists(dir.Path("d/main.png")));
+    EXPECT_NE(defects.errors.find("window gone: its file \"gone.xml\" does not exist"), std::string::npos);
+    EXPECT_NE(defects.errors.find("broken.xml: The file is not well-formed XML"), std::string::npos) << defects.errors;
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path("d")), {}), 1);
+}
+
 TEST(CommandLine, RoundTripsTheSameBytesUnderACommaLocale)
 {
     std::string why;
