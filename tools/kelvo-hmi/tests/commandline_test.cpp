@@ -163,7 +163,11 @@ TEST(CommandLine, RoundTripsEveryExampleAndSeedToTheRecordedBytes)
 TEST(CommandLine, RenderDrawsGeneratedWindowsToTheRecordedPixels)
 {
     const CRegistryScope registry;
-    const auto savedLabelTime = std::exchange(CurveSettings::LabelTime(), [] { return std::tm{.tm_sec = 56, .tm_min = 34, .tm_hour = 12}; });
+    const auto savedLabelTime = std::exchange(CurveSettings::LabelTime(), [] {
+        std::tm noon{};
+        noon.tm_hour = 12;
+        return noon;
+    });
     const auto savedSample = CurveSettings::RandomSample();
     std::ifstream manifest(KELVO_RENDER_MANIFEST);
     int entries = 0;
