@@ -370,9 +370,13 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
 {
     if (lines.empty())
         return;
-    // Pixels are set in a layer of their own, which is then laid over the target: that takes
-    // whole pixels, which the painter's transformation must keep.
-    if (!PaintsWholeDevicePixels()) {
+    // Rows and columns are filled runs each. Other lines set their pixels in a layer of their
+    // own, which is then laid over the target: that takes whole pixels, which the painter's
+    // transformation must keep.
+    const bool straight = std::all_of(lines.begin(), lines.end(), [](const HmiThinLine& line) {
+        return line.from.x == line.to.x || line.from.y == line.to.y;
+    });
+    if (straight || !PaintsWholeDevicePixels()) {
         CHmiDC::ThinLines(lines);
         return;
     }
@@ -390,11 +394,13 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
         const HmiRect band{area.left, top, area.right, std::min(area.bottom, top + bandHeight)};
         QImage layer(width, band.bottom - band.top, QImage::Format_ARGB32_Premultiplied);
         layer.fill(Qt::transparent);
+        QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
+        const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
         for (const HmiThinLine& line : lines) {
             const LinePixels pixels(line.from.ForDrawing(), line.to.ForDrawing());
             const QRgb color = ToQColor(line.color).rgb();
             pixels.Walk(pixels.Within(band), [&](std::int64_t, int x, int y) {
-                reinterpret_cast<QRgb*>(layer.scanLine(y - band.top))[x - band.left] = color;
+                bits[(y - band.top) * stride + (x - band.left)] = color;
             });
         }
         m_painter.drawImage(QPoint(band.left, band.top), layer);
