@@ -393,6 +393,8 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
     for (int top = area.top; width > 0 && top < area.bottom; top += bandHeight) {
         const HmiRect band{area.left, top, area.right, std::min(area.bottom, top + bandHeight)};
         QImage layer(width, band.bottom - band.top, QImage::Format_ARGB32_Premultiplied);
+        if (layer.isNull())
+            break; // out of memory: the lines are left out rather than the program
         layer.fill(Qt::transparent);
         QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
         const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
