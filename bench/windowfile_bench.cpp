@@ -4,7 +4,7 @@
 // parse, the peak memory of a load within 4 times the file size. A save includes the check that
 // its text reads back as it stands, whose cost has a line of its own. Times are CPU times.
 
-#include "bench/generatedwindow.h"
+#include "tests/support/demowindows.h"
 #include "tests/support/childcost.h"
 #include "tests/support/hostilefiles.h"
 #include "catalogue/builtinwidgets.h"
