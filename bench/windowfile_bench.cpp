@@ -5,7 +5,7 @@
 // its text reads back as it stands, whose cost has a line of its own. Times are CPU times.
 
 #include "bench/benchtiming.h"
-#include "bench/generatedwindow.h"
+#include "tests/support/demowindows.h"
 #include "tests/support/childcost.h"
 #include "tests/support/hostilefiles.h"
 #include "catalogue/builtinwidgets.h"

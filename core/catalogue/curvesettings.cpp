@@ -43,6 +43,17 @@ std::function<int()>& CurveSettings::RandomSample()
     return sample;
 }
 
+std::function<std::tm()>& CurveSettings::LabelTime()
+{
+    static std::function<std::tm()> now = [] {
+        const std::time_t time = std::time(nullptr);
+        std::tm local{};
+        localtime_r(&time, &local);
+        return local;
+    };
+    return now;
+}
+
 void CurveSettings::DrawPreview(CHmiDC& dc, const HmiRect& rect) const
 {
     const std::int32_t left = std::int16_t(rect.left);
@@ -123,9 +134,7 @@ void CurveSettings::DrawPreview(CHmiDC& dc, const HmiRect& rect) const
         // The time labels stand under the left edge and each vertical line, all showing now.
         if (c == 0 && m_nHLines > 0 && m_nXPoints / m_nHLines > 0) {
             const std::int64_t labels = std::int64_t(std::min(m_nHLines, m_nXPoints / (m_nXPoints / m_nHLines))) + 1;
-            const std::time_t now = std::time(nullptr);
-            std::tm local{};
-            localtime_r(&now, &local);
+            const std::tm local = LabelTime()();
             std::snprintf(text, sizeof text, "%d:%d:%d", local.tm_hour, local.tm_min, local.tm_sec);
             // A time label stands from x to x + 100.
             const auto labelX = [&](std::int64_t t) { return plotLeft + width * t / columns; };

@@ -3,6 +3,7 @@
 #include "propertytable.h"
 
 #include <array>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -40,6 +41,8 @@ struct CurveSettings {
 
     // Where the preview's samples come from: numbers from 0 to 32767. Tests replace it.
     static std::function<int()>& RandomSample();
+    // The local time that the time labels show: now. Tests replace it.
+    static std::function<std::tm()>& LabelTime();
 
 private:
     static std::array<HmiColor, kSeriesCount> FilledWith(HmiColor color)

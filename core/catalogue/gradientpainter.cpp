@@ -21,13 +21,22 @@ HmiColor FromChannels(const std::int32_t (&channels)[3])
     return HmiRgb(std::uint8_t(channels[0]), std::uint8_t(channels[1]), std::uint8_t(channels[2]));
 }
 
-// One line of a gradient, in its own solid one-pixel pen.
-void DrawLine(CHmiDC& dc, HmiColor color, HmiPoint from, HmiPoint to)
-{
-    HmiSelectedPen pen(dc, {HmiPenStyle::Solid, 1, color});
-    dc.MoveTo(from);
-    dc.LineTo(to);
-}
+// The lines of one gradient, each in its own solid one-pixel pen, handed to the target all
+// together once the gradient is complete.
+class GradientLines {
+public:
+    explicit GradientLines(CHmiDC& dc) : m_dc(dc) {}
+    ~GradientLines() { m_dc.ThinLines(m_lines); }
+    GradientLines(const GradientLines&) = delete;
+    GradientLines& operator=(const GradientLines&) = delete;
+
+    void Add(HmiColor color, HmiPoint from, HmiPoint to) { m_lines.push_back({from, to, color}); }
+    HmiRect ClipBox() const { return m_dc.GetClipBox(); }
+
+private:
+    CHmiDC& m_dc;
+    std::vector<HmiThinLine> m_lines;
+};
 
 // Calls paint(i, colour of step i) for those of the steps 0 to count that are visible, in
 // order; nothing when count < 0. Every other step paints nothing that can be seen.
@@ -144,18 +153,18 @@ private:
 };
 
 // Diagonal lines from the named corner to the opposite one.
-void PaintCornerToCorner(CHmiDC& dc, const DiagonalLines& lines, HmiColor start, HmiColor end)
+void PaintCornerToCorner(GradientLines& painted, const DiagonalLines& lines, HmiColor start, HmiColor end)
 {
-    const HmiSteps visible = lines.StepsReaching(dc.GetClipBox());
+    const HmiSteps visible = lines.StepsReaching(painted.ClipBox());
     ForEachStep(start, end, 2 * lines.Extent(), visible, [&](std::int32_t i, HmiColor color) {
         const Segment s = lines.At(i);
-        DrawLine(dc, color, s.from, s.to);
+        painted.Add(color, s.from, s.to);
     });
 }
 
 // Pairs of diagonal lines symmetric about the centre, between the centre diagonal and the
 // two corners it does not touch.
-void PaintCentreToCorners(CHmiDC& dc, const DiagonalLines& lines, HmiColor start, HmiColor end, bool startAtCentre)
+void PaintCentreToCorners(GradientLines& painted, const DiagonalLines& lines, HmiColor start, HmiColor end, bool startAtCentre)
 {
     const std::int32_t extent = lines.Extent();
     if (2 * extent < 0)
@@ -163,7 +172,7 @@ void PaintCentreToCorners(CHmiDC& dc, const DiagonalLines& lines, HmiColor start
     // Step j paints the lines fromCorner(j) and 2 * extent - fromCorner(j).
     const std::int32_t origin = startAtCentre ? extent : 0;
     const std::int32_t direction = startAtCentre ? -1 : 1;
-    const HmiSteps reaching = lines.StepsReaching(dc.GetClipBox());
+    const HmiSteps reaching = lines.StepsReaching(painted.ClipBox());
     const HmiSteps visible =
         HmiStepsSpanning(StepsAt(origin, direction, extent, reaching.first, reaching.end),
                          StepsAt(2 * extent - origin, -direction, extent, reaching.first, reaching.end));
@@ -171,7 +180,7 @@ void PaintCentreToCorners(CHmiDC& dc, const DiagonalLines& lines, HmiColor start
         const std::int32_t fromCorner = origin + direction * j;
         for (const std::int32_t i : {fromCorner, 2 * extent - fromCorner}) {
             const Segment s = lines.At(i);
-            DrawLine(dc, color, s.from, s.to);
+            painted.Add(color, s.from, s.to);
         }
     });
 }
@@ -226,14 +235,14 @@ std::vector<std::int32_t> EllipseHalfWidths(std::int32_t radiusX, std::int32_t r
 
 // The scanned ellipse modes: lines across the ellipse at each distance from a centre line,
 // the colour moving by a whole-number step per line.
-void PaintScannedEllipse(CHmiDC& dc, const HmiRect& r, HmiColor start, HmiColor end, bool horizontalLines)
+void PaintScannedEllipse(GradientLines& painted, const HmiRect& r, HmiColor start, HmiColor end, bool horizontalLines)
 {
     const std::int32_t a = r.Width() / 2;
     const std::int32_t b = r.Height() / 2;
     const HmiPoint centre{(r.left + r.right) / 2, (r.top + r.bottom) / 2};
     const std::int32_t lines = horizontalLines ? b : a;
     // The lines j stand at the centre line plus and minus j.
-    const HmiRect box = dc.GetClipBox();
+    const HmiRect box = painted.ClipBox();
     const std::int32_t centreLine = horizontalLines ? centre.y : centre.x;
     const std::int32_t low = horizontalLines ? box.top : box.left;
     const std::int32_t high = horizontalLines ? box.bottom : box.right;
@@ -252,9 +261,9 @@ void PaintScannedEllipse(CHmiDC& dc, const HmiRect& r, HmiColor start, HmiColor 
         const std::int32_t half = reach[std::size_t(j - visible.first)];
         for (const std::int32_t offset : {j, -j}) {
             if (horizontalLines)
-                DrawLine(dc, color, {centre.x - half, centre.y + offset}, {centre.x + half, centre.y + offset});
+                painted.Add(color, {centre.x - half, centre.y + offset}, {centre.x + half, centre.y + offset});
             else
-                DrawLine(dc, color, {centre.x + offset, centre.y - half}, {centre.x + offset, centre.y + half});
+                painted.Add(color, {centre.x + offset, centre.y - half}, {centre.x + offset, centre.y + half});
             if (j == 0)
                 break; // the centre line once
         }
@@ -383,8 +392,10 @@ void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor
     const std::int32_t h = r.Height();
     const std::int32_t cx = (r.left + r.right) / 2;
     const std::int32_t cy = (r.top + r.bottom) / 2;
-    auto column = [&](HmiColor color, std::int32_t x) { DrawLine(dc, color, {x, r.top}, {x, r.bottom}); };
-    auto row = [&](HmiColor color, std::int32_t y) { DrawLine(dc, color, {r.left, y}, {r.right, y}); };
+    HmiSelectedPen black(dc, {HmiPenStyle::Solid, 1, 0x000000});
+    GradientLines painted(dc);
+    auto column = [&](HmiColor color, std::int32_t x) { painted.Add(color, {x, r.top}, {x, r.bottom}); };
+    auto row = [&](HmiColor color, std::int32_t y) { painted.Add(color, {r.left, y}, {r.right, y}); };
     // The steps whose column or row stands at origin + direction * step within the visible area.
     const HmiRect box = dc.GetClipBox();
     auto columns = [&](std::int32_t origin, std::int32_t direction, std::int32_t count) {
@@ -394,7 +405,6 @@ void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor
         return StepsAt(origin, direction, count, box.top, box.bottom);
     };
 
-    HmiSelectedPen black(dc, {HmiPenStyle::Solid, 1, 0x000000});
     switch (code) {
     case 32:
         return ForEachStep(start, end, w / 2, HmiStepsSpanning(columns(cx, 1, w / 2), columns(cx, -1, w / 2)),
@@ -433,21 +443,21 @@ void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor
         return ForEachStep(start, end, h, rows(r.bottom, -1, h),
                            [&](std::int32_t i, HmiColor c) { row(c, r.bottom - i); });
     case 40: // from the right bottom corner
-        return PaintCornerToCorner(dc, DiagonalLines(r, false, false), start, end);
+        return PaintCornerToCorner(painted, DiagonalLines(r, false, false), start, end);
     case 41: // from the left bottom corner
-        return PaintCornerToCorner(dc, DiagonalLines(r, true, false), start, end);
+        return PaintCornerToCorner(painted, DiagonalLines(r, true, false), start, end);
     case 42: // from the left top corner
-        return PaintCornerToCorner(dc, DiagonalLines(r, true, true), start, end);
+        return PaintCornerToCorner(painted, DiagonalLines(r, true, true), start, end);
     case 43: // from the right top corner
-        return PaintCornerToCorner(dc, DiagonalLines(r, false, true), start, end);
+        return PaintCornerToCorner(painted, DiagonalLines(r, false, true), start, end);
     case 44: // centre to the left top and right bottom corners
-        return PaintCentreToCorners(dc, DiagonalLines(r, false, false), start, end, true);
+        return PaintCentreToCorners(painted, DiagonalLines(r, false, false), start, end, true);
     case 45:
-        return PaintCentreToCorners(dc, DiagonalLines(r, false, false), start, end, false);
+        return PaintCentreToCorners(painted, DiagonalLines(r, false, false), start, end, false);
     case 46: // centre to the left bottom and right top corners
-        return PaintCentreToCorners(dc, DiagonalLines(r, true, false), start, end, true);
+        return PaintCentreToCorners(painted, DiagonalLines(r, true, false), start, end, true);
     case 47:
-        return PaintCentreToCorners(dc, DiagonalLines(r, true, false), start, end, false);
+        return PaintCentreToCorners(painted, DiagonalLines(r, true, false), start, end, false);
     }
 }
 
@@ -459,8 +469,10 @@ void PaintEllipseGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiCo
     // A flat or reversed ellipse has nothing to scan.
     if (a <= 0 || b <= 0 || code < 0 || code > 2)
         return;
-    if (code != 2)
-        return PaintScannedEllipse(dc, r, start, end, code == 1);
+    if (code != 2) {
+        GradientLines painted(dc);
+        return PaintScannedEllipse(painted, r, start, end, code == 1);
+    }
 
     // Nested filled ellipses from the edge (end colour) inwards to the start colour.
     const std::int32_t count = std::min(a, b);
@@ -513,8 +525,9 @@ void PaintTriangleGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiC
         return;
     }
     const HmiSteps reaching = FanStepsReaching(apex, base(0), code <= 2, count, dc.GetClipBox());
+    GradientLines painted(dc);
     ForEachStep(start, end, count, StepsOrMirrorsAmong(count, reaching), [&](std::int32_t i, HmiColor color) {
-        DrawLine(dc, color, apex, base(i));
-        DrawLine(dc, color, apex, base(-i));
+        painted.Add(color, apex, base(i));
+        painted.Add(color, apex, base(-i));
     });
 }

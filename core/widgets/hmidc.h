@@ -55,6 +55,13 @@ struct HmiFont {
     friend bool operator==(const HmiFont&, const HmiFont&) = default;
 };
 
+// A solid one-pixel line in a colour of its own, from one point up to, not including, the other.
+struct HmiThinLine {
+    HmiPoint from;
+    HmiPoint to;
+    HmiColor color = 0;
+};
+
 // Whether text, dotted and dashed lines paint their background (the gaps, the area behind the
 // glyphs) in the background colour.
 enum class HmiBkMode { Transparent = 1, Opaque = 2 };
@@ -86,6 +93,19 @@ public:
     // A line from the current position to the point with the current pen; the point becomes the
     // current position and is itself not painted.
     virtual void LineTo(HmiPoint point) = 0;
+
+    // Many lines at once, later ones over earlier ones, each as a solid pen of width 1 in its
+    // colour draws it from MoveTo to LineTo: the pen in effect stays, and the current position
+    // ends at the last line's end point. Gradients paint this way; a target may do it faster.
+    virtual void ThinLines(std::span<const HmiThinLine> lines)
+    {
+        for (const HmiThinLine& line : lines) {
+            const HmiPen previous = SelectPen({HmiPenStyle::Solid, 1, line.color});
+            MoveTo(line.from);
+            LineTo(line.to);
+            SelectPen(previous);
+        }
+    }
 
     // Outline with the current pen, interior with the current brush.
     virtual void Rectangle(const HmiRect& rect) = 0;

@@ -102,6 +102,90 @@ int RoundedQuotient(long long a, long long b)
     return int(a >= 0 ? (2 * a + b) / (2 * b) : -((-2 * a + b) / (2 * b)));
 }
 
+// The pixels of a one-pixel line: pixel i of the steps from one point towards the other, as many
+// as the longer side, lies at from + i * (to - from) / steps on each axis, rounded half away from
+// zero. The end point itself is not one of them.
+class LinePixels {
+public:
+    LinePixels(HmiPoint from, HmiPoint to)
+        : m_from(from), m_dx(to.x - from.x), m_dy(to.y - from.y), m_steps(std::max(std::abs(m_dx), std::abs(m_dy)))
+    {
+    }
+
+    std::int64_t Steps() const { return m_steps; }
+
+    QPoint At(std::int64_t i) const
+    {
+        return QPoint(m_from.x + RoundedQuotient(i * m_dx, m_steps), m_from.y + RoundedQuotient(i * m_dy, m_steps));
+    }
+
+    // The steps whose pixels lie in the box: along the line, x and y each move one way only.
+    HmiSteps Within(const HmiRect& box) const
+    {
+        const HmiSteps columns =
+            HmiStepsWithin(0, m_steps, box.left, box.right, [&](std::int64_t i) { return At(i).x(); });
+        return HmiStepsWithin(columns.first, columns.end, box.top, box.bottom,
+                              [&](std::int64_t i) { return At(i).y(); });
+    }
+
+    // Calls visit(i, x, y) for each of the steps in order, carrying the rounding from pixel to
+    // pixel instead of dividing for each.
+    template <class Visit>
+    void Walk(const HmiSteps& steps, Visit visit) const
+    {
+        if (steps.first >= steps.end)
+            return;
+        Axis x(m_from.x, m_dx, m_steps, steps.first);
+        Axis y(m_from.y, m_dy, m_steps, steps.first);
+        for (std::int64_t i = steps.first; i < steps.end; ++i) {
+            visit(i, x.Place(), y.Place());
+            x.Advance();
+            y.Advance();
+        }
+    }
+
+private:
+    // One coordinate of pixel i: origin + sign * floor((2i|d| + steps) / 2steps), with the
+    // quotient and remainder kept up to date as i grows.
+    class Axis {
+    public:
+        Axis(std::int32_t origin, std::int32_t delta, std::int64_t steps, std::int64_t first)
+            : m_origin(origin), m_sign(delta < 0 ? -1 : 1), m_twiceDelta(2 * std::int64_t(std::abs(delta))),
+              m_twiceSteps(2 * steps)
+        {
+            const std::int64_t numerator = first * m_twiceDelta + steps;
+            m_quotient = numerator / m_twiceSteps;
+            m_remainder = numerator % m_twiceSteps;
+        }
+        int Place() const { return int(m_origin + m_sign * m_quotient); }
+        void Advance()
+        {
+            // |d| <= steps, so the quotient grows by one at most.
+            m_remainder += m_twiceDelta;
+            if (m_remainder >= m_twiceSteps) {
+                m_remainder -= m_twiceSteps;
+                ++m_quotient;
+            }
+        }
+
+    private:
+        std::int64_t m_origin;
+        std::int64_t m_sign;
+        std::int64_t m_twiceDelta;
+        std::int64_t m_twiceSteps;
+        std::int64_t m_quotient = 0;
+        std::int64_t m_remainder = 0;
+    };
+
+    HmiPoint m_from;
+    std::int32_t m_dx;
+    std::int32_t m_dy;
+    std::int64_t m_steps;
+};
+
+// The most pixels of one layer of thin lines: a larger area is painted in bands of rows.
+constexpr qsizetype kMaxLayerPixels = qsizetype(1) << 20;
+
 QFont ToQFont(const HmiFont& font)
 {
     QFont qfont(QString::fromStdString(Gb2312ToUtf8OrKeep(font.face)));
@@ -243,34 +327,26 @@ void CHmiPainterDC::DrawPenLine(HmiPoint from, HmiPoint to)
 
 void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
 {
-    const int dx = to.x - from.x;
-    const int dy = to.y - from.y;
-    const int steps = std::max(std::abs(dx), std::abs(dy));
+    const LinePixels line(from, to);
     const DashPattern* pattern = PatternOf(m_pen.style);
-    if (!pattern && (dx == 0 || dy == 0)) {
+    if (!pattern && (from.x == to.x || from.y == to.y)) {
         // The common solid horizontal or vertical line: one filled run of pixels.
-        const QRect run = dx == 0 ? QRect(from.x, std::min(from.y, to.y + 1), 1, steps)
-                                  : QRect(std::min(from.x, to.x + 1), from.y, steps, 1);
+        const int steps = int(line.Steps());
+        const QRect run = from.x == to.x ? QRect(from.x, std::min(from.y, to.y + 1), 1, steps)
+                                         : QRect(std::min(from.x, to.x + 1), from.y, steps, 1);
         m_painter.fillRect(run, ToQColor(m_pen.color));
         return;
     }
-    const auto pixelAt = [&](std::int64_t i) {
-        return QPoint(from.x + RoundedQuotient(i * dx, steps), from.y + RoundedQuotient(i * dy, steps));
-    };
-    // Only the pixels that can be seen: along the line, x and y each move one way only.
-    const HmiSteps columns = HmiStepsWithin(0, steps, m_clipBox.left, m_clipBox.right,
-                                            [&](std::int64_t i) { return pixelAt(i).x(); });
-    const HmiSteps seen = HmiStepsWithin(columns.first, columns.end, m_clipBox.top, m_clipBox.bottom,
-                                         [&](std::int64_t i) { return pixelAt(i).y(); });
+    const HmiSteps seen = line.Within(m_clipBox);
     std::vector<QPoint> on;
     std::vector<QPoint> off;
     on.reserve(std::size_t(seen.end - seen.first));
-    for (std::int64_t i = seen.first; i < seen.end; ++i) {
+    line.Walk(seen, [&](std::int64_t i, int x, int y) {
         const bool isOn = !pattern || (m_patternPhase + i) % pattern->period < pattern->on;
-        (isOn ? on : off).push_back(pixelAt(i));
-    }
+        (isOn ? on : off).emplace_back(x, y);
+    });
     if (pattern)
-        m_patternPhase = (m_patternPhase + steps) % pattern->period;
+        m_patternPhase = int((m_patternPhase + line.Steps()) % pattern->period);
     QPen pen(ToQColor(m_pen.color), 1);
     pen.setCosmetic(true);
     m_painter.setPen(pen);
@@ -280,6 +356,59 @@ void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
         m_painter.setPen(pen);
         m_painter.drawPoints(off.data(), int(off.size()));
     }
+}
+
+bool CHmiPainterDC::PaintsWholeDevicePixels() const
+{
+    const QTransform transform = m_painter.combinedTransform();
+    return transform.type() <= QTransform::TxTranslate && transform.dx() == std::floor(transform.dx()) &&
+           transform.dy() == std::floor(transform.dy()) && m_painter.opacity() == 1.0 &&
+           m_painter.compositionMode() == QPainter::CompositionMode_SourceOver;
+}
+
+void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
+{
+    if (lines.empty())
+        return;
+    // Rows and columns are filled runs each. Other lines set their pixels in a layer of their
+    // own, which is then laid over the target: that takes whole pixels, which the painter's
+    // transformation must keep.
+    const bool straight = std::all_of(lines.begin(), lines.end(), [](const HmiThinLine& line) {
+        return line.from.x == line.to.x || line.from.y == line.to.y;
+    });
+    if (straight || !PaintsWholeDevicePixels()) {
+        CHmiDC::ThinLines(lines);
+        return;
+    }
+    HmiRect area{kHmiDrawingMax, kHmiDrawingMax, kHmiDrawingMin, kHmiDrawingMin};
+    for (const HmiThinLine& line : lines) {
+        const HmiRect box = HmiRect{line.from.x, line.from.y, line.to.x, line.to.y}.ForDrawing().Normalized();
+        area = {std::min(area.left, box.left), std::min(area.top, box.top), std::max(area.right, box.right + 1),
+                std::max(area.bottom, box.bottom + 1)};
+    }
+    area = {std::max(area.left, m_clipBox.left), std::max(area.top, m_clipBox.top),
+            std::min(area.right, m_clipBox.right), std::min(area.bottom, m_clipBox.bottom)};
+    const int width = area.right - area.left;
+    const int bandHeight = width > 0 ? int(std::max<qsizetype>(1, kMaxLayerPixels / width)) : 0;
+    for (int top = area.top; width > 0 && top < area.bottom; top += bandHeight) {
+        const HmiRect band{area.left, top, area.right, std::min(area.bottom, top + bandHeight)};
+        QImage layer(width, band.bottom - band.top, QImage::Format_ARGB32_Premultiplied);
+        if (layer.isNull())
+            break; // out of memory: the lines are left out rather than the program
+        layer.fill(Qt::transparent);
+        QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
+        const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
+        for (const HmiThinLine& line : lines) {
+            const LinePixels pixels(line.from.ForDrawing(), line.to.ForDrawing());
+            const QRgb color = ToQColor(line.color).rgb();
+            pixels.Walk(pixels.Within(band), [&](std::int64_t, int x, int y) {
+                bits[(y - band.top) * stride + (x - band.left)] = color;
+            });
+        }
+        m_painter.drawImage(QPoint(band.left, band.top), layer);
+    }
+    m_position = lines.back().to;
+    m_patternPhase = 0;
 }
 
 void CHmiPainterDC::ApplyPenAndBrush()

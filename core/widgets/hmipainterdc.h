@@ -21,6 +21,7 @@ public:
     HmiBkMode SetBkMode(HmiBkMode mode) override;
     HmiPoint MoveTo(HmiPoint point) override;
     void LineTo(HmiPoint point) override;
+    void ThinLines(std::span<const HmiThinLine> lines) override;
     void Rectangle(const HmiRect& rect) override;
     void Ellipse(const HmiRect& rect) override;
     void Polygon(std::span<const HmiPoint> points) override;
@@ -34,6 +35,8 @@ private:
     // A line from one point up to, not including, the other, in the current pen.
     void DrawPenLine(HmiPoint from, HmiPoint to);
     void DrawThinLine(HmiPoint from, HmiPoint to);
+    // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
+    bool PaintsWholeDevicePixels() const;
     void ApplyPenAndBrush();
 
     QPainter& m_painter;

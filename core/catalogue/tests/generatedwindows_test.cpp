@@ -3,7 +3,7 @@
 // paths may be reworked for speed, never change a byte. After a deliberate change of the saved
 // bytes, record the digests from this test's output again.
 
-#include "bench/generatedwindow.h"
+#include "tests/support/demowindows.h"
 #include "tests/support/registryscope.h"
 #include "tests/support/tempdir.h"
 

@@ -1,7 +1,6 @@
 // Gradient colours at exact pixels of images painted by the real painter target.
 
 #include "catalogue/gradientpainter.h"
-#include "catalogue/hmiwidgetgradrect.h"
 #include "tests/support/clippeddrawing.h"
 #include "tests/support/recordingdc.h"
 #include "widgets/hmiimagedc.h"
@@ -147,18 +146,6 @@ TEST(GradientPixels, UnknownCodesFlatEllipsesAndReversedTrianglesPaintNothing)
     for (int code = 1; code <= 2; ++code)
         PaintTriangleGradient(dc, {20, 0, 0, 10}, kBlack, kRed, code);
     EXPECT_TRUE(dc.shapes.empty());
-}
-
-TEST(GradientPixels, WidgetDrawsItsStoredDirection)
-{
-    CHmiWidgetGradRect widget;
-    widget.SetWidgetRect({0, 0, 10, 4});
-    widget.m_startColor = kRed;
-    widget.m_endColor = kBlue;
-    widget.m_nDirection = 35;
-    CHmiImageDC dc(12, 6);
-    widget.Draw(dc);
-    EXPECT_EQ(dc.GetPixel(7, 2), HmiRgb(178, 0, 76)) << "right to left: step 3 at right - 3";
 }
 
 // Square, wide, flat, tall, narrow and reversed rectangles around and across a small image

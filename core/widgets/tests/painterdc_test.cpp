@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cmath>
 #include <filesystem>
 #include <functional>
 #include <set>
@@ -93,30 +94,71 @@ TEST(PainterDC, RectangleAndEllipseCoverLeftToRightMinusOneOutlineIncluded)
     EXPECT_EQ(ExtentOf(ellipse, kBlack), (HmiRect{1, 1, 10, 10})) << "the outline reaches right - 1 and bottom - 1";
 }
 
-TEST(PainterDC, LinesLeaveOutTheirEndPointInEveryDirection)
+// Every short line in every direction, drawn alone or among others at once, paints pixel i of
+// its steps (as many as its longer side) at from + i * (to - from) / steps, rounded half away
+// from zero, up to but not including its end, also where the image cuts it off.
+TEST(PainterDC, ThinLinesPaintTheRoundedPixelsUpToTheirEndInEveryDirection)
 {
-    const struct {
-        HmiPoint from, to;
-        std::int32_t width;
-        std::set<std::string> pixels;
-    } lines[] = {
-        {{1, 1}, {6, 1}, 1, Span(1, 1, 5, 1)},
-        {{6, 1}, {1, 1}, 1, Span(2, 1, 6, 1)},
-        {{3, 8}, {3, 2}, 1, Span(3, 3, 3, 8)},
-        {{0, 0}, {4, 4}, 1, {"0,0", "1,1", "2,2", "3,3"}},
-        {{0, 5}, {10, 5}, 0, Span(0, 5, 9, 5)}, // a pen of width 0 paints one pixel wide
-    };
-    for (const auto& line : lines) {
-        CHmiImageDC dc(12, 12);
-        dc.SelectPen({HmiPenStyle::Solid, line.width, kBlack});
-        DrawLine(dc, line.from, line.to);
-        EXPECT_EQ(PixelsOf(dc, kBlack), line.pixels) << line.from.x << "," << line.from.y;
-    }
+    constexpr int kSize = 16;
+    const HmiPoint from{7, 7};
+    for (int x = from.x - 12; x <= from.x + 12; ++x)
+        for (int y = from.y - 12; y <= from.y + 12; ++y) {
+            const int dx = x - from.x, dy = y - from.y, steps = std::max(std::abs(dx), std::abs(dy));
+            const auto expected = PixelsWhere(kSize, kSize, [&](int px, int py) {
+                for (int i = 0; i < steps; ++i)
+                    if (px == from.x + std::lround(double(i) * dx / steps) && py == from.y + std::lround(double(i) * dy / steps))
+                        return true;
+                return false;
+            });
+            CHmiImageDC alone(kSize, kSize);
+            alone.SelectPen({HmiPenStyle::Solid, x % 2, kBlack}); // a pen of width 0 paints one pixel wide
+            DrawLine(alone, from, {x, y});
+            EXPECT_EQ(PixelsOf(alone, kBlack), expected) << "to " << x << "," << y;
+            CHmiImageDC together(kSize, kSize);
+            const HmiThinLine lines[] = {{{0, y}, {kSize, x}, kRed}, {from, {x, y}, kBlack}};
+            together.ThinLines(lines);
+            EXPECT_EQ(PixelsOf(together, kBlack), expected) << "among others, to " << x << "," << y;
+        }
     CHmiImageDC wide(12, 12);
     wide.SelectPen({HmiPenStyle::Solid, 3, kBlack});
     DrawLine(wide, {2, 6}, {9, 6});
     EXPECT_EQ(ExtentOf(wide, kBlack).top, 5);
     EXPECT_EQ(ExtentOf(wide, kBlack).bottom, 7);
+}
+
+// Lines handed over at once paint what they paint one by one, later ones over earlier ones,
+// also on a painter that is moved or scaled, and leave the pen and position as those would.
+TEST(PainterDC, ThinLinesAtOnceEqualThemDrawnOneByOne)
+{
+    std::vector<HmiThinLine> fan;
+    for (int i = 0; i < 40; ++i)
+        fan.push_back({{20, 15}, {i * 3 - 20, (i * 7) % 50 - 10}, HmiRgb(std::uint8_t(i * 6), 90, std::uint8_t(i))});
+    for (const QTransform& transform : {QTransform(), QTransform::fromTranslate(3, -2), QTransform::fromScale(2, 2)}) {
+        QImage oneByOne(50, 40, QImage::Format_RGB32);
+        oneByOne.fill(Qt::white);
+        QImage atOnce = oneByOne;
+        const HmiPen dotted{HmiPenStyle::Dot, 1, kBlue};
+        {
+            QPainter painter(&oneByOne);
+            painter.setTransform(transform);
+            CHmiPainterDC dc(painter);
+            for (const HmiThinLine& line : fan) {
+                dc.SelectPen({HmiPenStyle::Solid, 1, line.color});
+                DrawLine(dc, line.from, line.to);
+            }
+            dc.SelectPen(dotted);
+            dc.LineTo({0, 39});
+        }
+        {
+            QPainter painter(&atOnce);
+            painter.setTransform(transform);
+            CHmiPainterDC dc(painter);
+            dc.SelectPen(dotted);
+            dc.ThinLines(fan);
+            dc.LineTo({0, 39});
+        }
+        EXPECT_TRUE(atOnce == oneByOne) << transform.dx() << "," << transform.m11();
+    }
 }
 
 TEST(PainterDC, DottedPensRunThreeOnThreeOffAndFillGapsOnlyWhenOpaque)

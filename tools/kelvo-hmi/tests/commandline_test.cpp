@@ -1,8 +1,14 @@
 // The command-line tool as scripts use it: its output, its files and its exit status.
 
+#include "catalogue/curvesettings.h"
 #include "tests/support/commalocale.h"
 #include "tests/support/fulldiskscope.h"
+#include "tests/support/mixedwindow.h"
+#include "tests/support/registryscope.h"
 #include "tests/support/tempdir.h"
+#include "widgets/hmiimagedc.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/windowpainter.h"
 
 #include <QCryptographicHash>
 #include <QImage>
@@ -16,6 +22,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <sys/wait.h>
 
@@ -50,8 +57,10 @@ ToolRun RunTool(const std::string& arguments, const std::string& prefix = "")
 // Half a minute of processor time and a gigabyte of address space are far more than any of them
 // needs; address-sanitised programs reserve terabytes up front, so there only the time counts.
 #if defined(__SANITIZE_ADDRESS__)
+constexpr bool kSanitized = true;
 const char* const kRenderLimits = "ulimit -t 30; ";
 #else
+constexpr bool kSanitized = false;
 const char* const kRenderLimits = "ulimit -t 30; ulimit -v 1048576; ";
 #endif
 
@@ -148,6 +157,52 @@ TEST(CommandLine, RoundTripsEveryExampleAndSeedToTheRecordedBytes)
                   digest);
     }
     EXPECT_GE(entries, 30);
+}
+
+// Drawing is as much a contract as the bytes: generated windows of every widget kind, saved and
+// loaded again, draw as `render` draws them to the pixels recorded in render.sha256, one
+// "SHA-256  mixed-COUNT-seed-SEED" line each, the digest taken over the image's 32-bit pixels row
+// by row. They are drawn here rather than by the tool so that the curves' random preview and time
+// labels can be held still. After a deliberate change to what is drawn, record the digests again
+// from this test's output.
+TEST(CommandLine, RenderDrawsGeneratedWindowsToTheRecordedPixels)
+{
+    const CRegistryScope registry;
+    const auto savedLabelTime = std::exchange(CurveSettings::LabelTime(), [] {
+        std::tm noon{};
+        noon.tm_hour = 12;
+        return noon;
+    });
+    const auto savedSample = CurveSettings::RandomSample();
+    std::ifstream manifest(KELVO_RENDER_MANIFEST);
+    int entries = 0;
+    for (std::string digest, name; manifest >> digest >> name; ++entries) {
+        SCOPED_TRACE(name);
+        int count = 0;
+        unsigned seed = 0;
+        ASSERT_EQ(std::sscanf(name.c_str(), "mixed-%d-seed-%u", &count, &seed), 2);
+        if (kSanitized && count > 1000)
+            continue; // seconds of work there; the plain build checks it
+        TempDir dir;
+        CTamloDoc generated;
+        FillMixedWindow(generated, count, seed);
+        ASSERT_TRUE(generated.Save(dir.Path("in.xml")));
+        CTamloDoc loaded;
+        ASSERT_TRUE(loaded.Load(dir.Path("in.xml")));
+        loaded.SetPictureFolder(KELVO_DEMO_DIR);
+        CurveSettings::RandomSample() = [engine = std::minstd_rand()]() mutable { return int(engine() % 32768); };
+        CHmiImageDC image(kMixedWindowWidth, kMixedWindowHeight);
+        DrawWindow(loaded, image);
+        std::vector<std::uint32_t> pixels;
+        for (int y = 0; y < image.Height(); ++y)
+            for (int x = 0; x < image.Width(); ++x)
+                pixels.push_back(image.GetPixel(x, y));
+        const QByteArrayView bytes(reinterpret_cast<const char*>(pixels.data()), qsizetype(pixels.size() * 4));
+        EXPECT_EQ(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex().toStdString(), digest);
+    }
+    CurveSettings::LabelTime() = savedLabelTime;
+    CurveSettings::RandomSample() = savedSample;
+    EXPECT_GE(entries, 3);
 }
 
 TEST(CommandLine, ReportsBadInputWithStatusOneAndBadUsageWithTwo)

@@ -1,4 +1,4 @@
-#include "generatedwindow.h"
+#include "demowindows.h"
 
 #include "dynamics/dynamictype.h"
 
