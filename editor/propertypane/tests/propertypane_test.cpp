@@ -222,8 +222,7 @@ private slots:
             const char* caption;
             const char* typed;
             const char* geometry;
-        } edits[] = {{"Left", "30", "30,10,70,60,40,50"}, {"Height", "7", "10,10,50,17,40,7"},
-                     {"Right", "10", "10,10,50,60,40,50"}};
+        } edits[] = {{"Left", "30", "30,10,70,60,40,50"}, {"Right", "10", "10,10,50,60,40,50"}};
         for (const auto& edit : edits) {
             auto* rect = Show(Add<CHmiWidgetRect>("rectangle", {10, 10, 50, 60}));
             QSignalSpy changed(pane.get(), &CPropertyPane::itemChanged);
