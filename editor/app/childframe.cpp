@@ -9,8 +9,25 @@
 #include "widgets/tamlodoc.h"
 
 #include <QCloseEvent>
+#include <QCryptographicHash>
 #include <QFileInfo>
+#include <QLabel>
 #include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace {
+
+// What a file holds now, as a digest; none when it cannot be read (it is gone, say).
+std::optional<QByteArray> DiskDigest(const QString& path)
+{
+    std::string bytes;
+    if (path.isEmpty() || !ReadWholeFile(ToModelPath(path), bytes))
+        return std::nullopt;
+    return QCryptographicHash::hash(QByteArrayView(bytes.data(), qsizetype(bytes.size())),
+                                    QCryptographicHash::Sha256);
+}
+
+} // namespace
 
 CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, CEditorSession& session,
                          QWidget* parent)
@@ -18,6 +35,7 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
     , m_document(std::move(document))
     , m_prompts(prompts)
     , m_view(new CTamloView(*m_document, session.Tools()))
+    , m_diskNotice(new QLabel)
 {
     // New windows are called Tamlo1, Tamlo2 and so on until they are saved.
     if (m_document->GetPathName().empty())
@@ -26,7 +44,19 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
     scroller->setWidget(m_view);
     scroller->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     scroller->setBackgroundRole(QPalette::Dark);
-    setWidget(scroller);
+    m_diskNotice->setObjectName(QStringLiteral("diskChangeNotice"));
+    m_diskNotice->setWordWrap(true);
+    m_diskNotice->setMargin(6);
+    m_diskNotice->setStyleSheet(QStringLiteral("background: #fff3c4; color: black"));
+    m_diskNotice->hide();
+    auto* body = new QWidget;
+    auto* layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_diskNotice);
+    layout->addWidget(scroller, 1);
+    setWidget(body);
+    m_diskDigest = DiskDigest(FilePath());
     setAttribute(Qt::WA_DeleteOnClose);
     m_view->Selection().Select(nullptr, false);
     RefreshTitle();
@@ -74,17 +104,37 @@ bool CChildFrame::SaveAs()
     return !path.isEmpty() && SaveTo(path);
 }
 
+bool CChildFrame::DiskCopyIsOurs() const
+{
+    return DiskDigest(FilePath()) == m_diskDigest;
+}
+
+void CChildFrame::CheckDiskCopy()
+{
+    const bool ours = DiskCopyIsOurs();
+    if (!ours)
+        m_diskNotice->setText(QStringLiteral("%1 was changed on disk by another program. Saving this window "
+                                             "would overwrite that change.").arg(DisplayName()));
+    m_diskNotice->setVisible(!ours);
+}
+
 bool CChildFrame::SaveTo(const QString& path)
 {
     // Taking the focus away from the property pane commits an edit the user is still typing.
     // The canvas takes it, so that its keys go on working after the save.
     m_view->setFocus(Qt::OtherFocusReason);
+    // Asked at every save, not only after a notice: the notice may still be on its way.
+    const bool ownFile = QFileInfo(path).absoluteFilePath() == QFileInfo(FilePath()).absoluteFilePath();
+    if (ownFile && !DiskCopyIsOurs() && !m_prompts.AskOverwriteChangedFile(this, DisplayName()))
+        return false;
     const FileResult result = m_document->Save(ToModelPath(path));
     if (!result) {
         m_prompts.ShowError(this, QString::fromStdString(result.error));
         return false;
     }
     m_untitledName.clear();
+    m_diskDigest = DiskDigest(path);
+    m_diskNotice->hide();
     RefreshTitle();
     emit documentSaved(path);
     return true;

@@ -4,16 +4,21 @@
 
 #include <QMdiSubWindow>
 
+#include <QByteArray>
+
 #include <memory>
+#include <optional>
 
 class CEditorPrompts;
 class CEditorSession;
 class CTamloDoc;
 class CTamloView;
+class QLabel;
 
 // The child window of one open HMI window: owns the document and shows its canvas in a
 // scroll area, and its modified mark in the title. Closing it asks whether to keep unsaved
-// changes.
+// changes. When another program changes the window file, a bar above the canvas says so, and
+// a save asks before it overwrites that change.
 class CChildFrame : public QMdiSubWindow, public CDocumentObserver {
     Q_OBJECT
 public:
@@ -36,6 +41,10 @@ public:
 
     void DocumentChanged(const CDocumentChange& change) override;
 
+    // Compares the window file on disk with what this window read or wrote last, and shows or
+    // hides the bar that tells of a change by another program.
+    void CheckDiskCopy();
+
 signals:
     void documentSaved(const QString& path);
     // The user closed the window, and its changes were saved or discarded.
@@ -46,6 +55,8 @@ protected:
 
 private:
     bool SaveTo(const QString& path);
+    // Whether the window file now holds what this window read or wrote last.
+    bool DiskCopyIsOurs() const;
     // Shows the name and the modified mark in the title.
     void RefreshTitle();
 
@@ -53,4 +64,6 @@ private:
     CEditorPrompts& m_prompts;
     CTamloView* m_view;
     QString m_untitledName;
+    std::optional<QByteArray> m_diskDigest; // of the file as read or written last; none without one
+    QLabel* m_diskNotice;
 };

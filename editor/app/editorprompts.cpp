@@ -33,6 +33,15 @@ CEditorPrompts::SaveAnswer CEditorPrompts::AskSaveChanges(QWidget* parent, const
     return answer == QMessageBox::Discard ? SaveAnswer::Discard : SaveAnswer::Cancel;
 }
 
+bool CEditorPrompts::AskOverwriteChangedFile(QWidget* parent, const QString& documentName)
+{
+    const auto answer = QMessageBox::question(
+        parent, QStringLiteral("Kelvo HMI Editor"),
+        QStringLiteral("%1 was changed on disk by another program.\n\nOverwrite it?").arg(documentName),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    return answer == QMessageBox::Yes;
+}
+
 QString CEditorPrompts::AskSaveFileName(QWidget* parent, const QString& suggestedPath)
 {
     return QFileDialog::getSaveFileName(parent, QStringLiteral("Save As"), suggestedPath, kWindowFileFilter);

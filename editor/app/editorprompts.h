@@ -20,6 +20,8 @@ public:
     virtual ~CEditorPrompts() = default;
 
     virtual SaveAnswer AskSaveChanges(QWidget* parent, const QString& documentName);
+    // Whether a save may replace a window file that another program changed since it was read.
+    virtual bool AskOverwriteChangedFile(QWidget* parent, const QString& documentName);
     // Empty when the user cancels.
     virtual QString AskSaveFileName(QWidget* parent, const QString& suggestedPath);
     virtual QString AskOpenFileName(QWidget* parent, const QString& folder);

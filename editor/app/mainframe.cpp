@@ -11,6 +11,8 @@
 
 #include "editor/dynamicdialogs/dynpropertyedit.h"
 #include "editor/dynamicdialogs/eventedit.h"
+#include "editor/explorer/filewatch.h"
+#include "editor/explorer/projectexplorer.h"
 #include "editor/model/editcommands.h"
 #include "editor/model/editorsession.h"
 #include "editor/projectdialogs/projectwindowdialog.h"
@@ -70,6 +72,7 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     , m_recentFiles(settings)
     , m_mdiArea(new QMdiArea(this))
     , m_cursorPosition(new QLabel(this))
+    , m_windowFiles(new CFileWatch(this))
 {
     setWindowTitle(QStringLiteral("Kelvo HMI Editor"));
     setCentralWidget(m_mdiArea);
@@ -85,6 +88,11 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     statusBar()->addPermanentWidget(m_cursorPosition);
 
     connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &CMainFrame::ChildActivated);
+    connect(m_windowFiles, &CFileWatch::changed, this, [this](const QString& path) {
+        for (CChildFrame* child : Children())
+            if (child->FilePath() == path)
+                child->CheckDiskCopy();
+    });
     connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::UpdateEditActions);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
     if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray()))
@@ -106,6 +114,17 @@ CMainFrame::~CMainFrame()
 
 void CMainFrame::CreateDocks()
 {
+    m_explorer = new CProjectExplorer;
+    auto* explorerDock = new QDockWidget(QStringLiteral("Project"), this);
+    explorerDock->setObjectName(QStringLiteral("explorerDock"));
+    explorerDock->setWidget(m_explorer);
+    addDockWidget(Qt::LeftDockWidgetArea, explorerDock);
+    connect(m_explorer, &CProjectExplorer::windowOpenRequested, this,
+            qOverload<const QString&>(&CMainFrame::OpenDocument));
+    connect(m_explorer, &CProjectExplorer::findReferencesRequested, this, [this](const QString& reference) {
+        statusBar()->showMessage(QStringLiteral("Find References: %1").arg(reference));
+    });
+
     m_toolbox = new CToolbox(m_session.Tools());
     auto* toolboxDock = new QDockWidget(QStringLiteral("Toolbox"), this);
     toolboxDock->setObjectName(QStringLiteral("toolboxDock"));
@@ -214,6 +233,9 @@ void CMainFrame::CreateMenus()
     m_openAction = AddAction(file, QStringLiteral("&Open..."), QStringLiteral("Open an existing document"),
                              &CMainFrame::FileOpen);
     m_openAction->setShortcut(QKeySequence::Open);
+    AddAction(file, QStringLiteral("Open P&roject..."), QStringLiteral("Choose the project folder"),
+              &CMainFrame::FileOpenProject)
+        ->setObjectName(QStringLiteral("actionOpenProject"));
     QAction* openProject = AddAction(file, QStringLiteral("Open Project Window..."), QStringLiteral("Open Project"),
                                      &CMainFrame::FileOpenProjectWindow);
     openProject->setObjectName(QStringLiteral("actionOpenProjectWindow"));
@@ -381,6 +403,8 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
         return nullptr;
     const QString absolute = QFileInfo(path).absoluteFilePath();
     if (CChildFrame* open = FindChild(absolute)) {
+        if (open->isMinimized())
+            open->showNormal();
         m_mdiArea->setActiveSubWindow(open);
         return open;
     }
@@ -421,10 +445,12 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
     connect(child, &CChildFrame::documentSaved, this, [this](const QString& path) {
         m_recentFiles.Add(QFileInfo(path).absoluteFilePath());
         UpdateRecentFileActions();
+        WatchWindowFiles();
     });
     connect(child, &QObject::destroyed, this, [this, child] {
         if (m_shownChild == child)
             ChildActivated(nullptr);
+        WatchWindowFiles(child);
     });
     // A child opened while the active one is maximized is maximized too, as the others are. It
     // is not sized first: the area would keep that size under the maximized state.
@@ -436,7 +462,17 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
     else
         ShowAtCanvasSize(*child, *m_mdiArea);
     m_mdiArea->setActiveSubWindow(child);
+    WatchWindowFiles();
     return child;
+}
+
+void CMainFrame::WatchWindowFiles(const CChildFrame* leaving)
+{
+    QStringList paths;
+    for (const CChildFrame* child : Children())
+        if (child != leaving && !child->FilePath().isEmpty())
+            paths << child->FilePath();
+    m_windowFiles->Watch(paths);
 }
 
 void CMainFrame::ChildActivated(QMdiSubWindow* window)
@@ -532,10 +568,28 @@ void CMainFrame::FileOpen()
     OpenDocument(m_prompts.AskOpenFileName(this, ToQtPath(GetProjectPath())));
 }
 
+void CMainFrame::FileOpenProject()
+{
+    const std::string& project = GetProjectPath();
+    const QString folder = m_prompts.projectDialogs.chooseDirectory(
+        this, QStringLiteral("Please select project path!"), project.empty() ? QDir::currentPath() : ToQtPath(project));
+    if (folder.isEmpty())
+        return;
+    SetProjectPath(ToModelPath(QDir::fromNativeSeparators(folder)));
+    FollowProjectPath();
+}
+
 void CMainFrame::FileOpenProjectWindow()
 {
-    if (const std::optional<std::string> path = ChooseProjectWindow(this, m_prompts.projectDialogs))
+    const std::optional<std::string> path = ChooseProjectWindow(this, m_prompts.projectDialogs);
+    FollowProjectPath(); // the dialog's browse button may have chosen another project
+    if (path)
         OpenDocument(ToQtPath(*path));
+}
+
+void CMainFrame::FollowProjectPath()
+{
+    m_explorer->Refresh();
 }
 
 void CMainFrame::FileSave()

@@ -17,8 +17,10 @@ class CChildFrame;
 class COptionTreeItem;
 class CEditorPrompts;
 class CEditorSession;
+class CFileWatch;
 class CFormatActions;
 class CHmiWidget;
+class CProjectExplorer;
 class CPropertyPane;
 class CTamloDoc;
 class CTamloView;
@@ -31,9 +33,10 @@ class QMdiSubWindow;
 class QMenu;
 class QSettings;
 
-// The editor's main window: one child window per open window file in an MDI area, the toolbox
-// and the property pane in docks, the list of widget names, and the menus that act on the
-// active window.
+// The editor's main window: one child window per open window file in an MDI area, the project
+// explorer, the toolbox and the property pane in docks, the list of widget names, and the menus
+// that act on the active window. It watches the open window files, so that each window tells
+// when another program changes its file.
 class CMainFrame : public QMainWindow {
     Q_OBJECT
 public:
@@ -54,6 +57,7 @@ public:
     CTamloView* ActiveView() const;
     QList<CChildFrame*> Children() const;
 
+    CProjectExplorer& Explorer() const { return *m_explorer; }
     CPropertyPane& PropertyPane() const { return *m_propertyPane; }
     CToolbox& Toolbox() const { return *m_toolbox; }
     CWidgetNameCombo& NameCombo() const { return *m_nameCombo; }
@@ -66,6 +70,10 @@ public:
     // What became of the widget libraries at start-up, for "Help > Widget Libraries". When a
     // library failed, a notice in the status bar offers the report.
     void SetWidgetLibraries(WidgetLibraryLoadReport report);
+
+    // Shows the project at GetProjectPath(), after something else than the main frame's own
+    // commands has changed it.
+    void FollowProjectPath();
 
     // Brings the window to the front after another editor start handed a file over.
     void RaiseAndRestore();
@@ -97,10 +105,13 @@ private:
     void UpdateEditActions();
     void UpdateRecentFileActions();
     void UpdateWindowMenu();
+    // Watches the files of the open windows; leaving is a child that is going away.
+    void WatchWindowFiles(const CChildFrame* leaving = nullptr);
 
     // Commands.
     void FileNew();
     void FileOpen();
+    void FileOpenProject();
     void FileOpenProjectWindow();
     void FileSave();
     void FileSaveAs();
@@ -120,6 +131,8 @@ private:
     CRecentFileList m_recentFiles;
     QMdiArea* m_mdiArea;
     QLabel* m_cursorPosition; // where the mouse stands on the canvas, in window coordinates
+    CProjectExplorer* m_explorer = nullptr;
+    CFileWatch* m_windowFiles = nullptr;
     CToolbox* m_toolbox = nullptr;
     CPropertyPane* m_propertyPane = nullptr;
     CWidgetNameCombo* m_nameCombo = nullptr;

@@ -84,6 +84,7 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 
     const QString documentPath = ApplyProjectArgument(fileArgument);
+    m_mainFrame->FollowProjectPath();
     const std::string programFolder = ToModelPath(QCoreApplication::applicationDirPath());
     m_mainFrame->SetScriptFunctions(
         LoadScriptFunctions(FindScriptFunctionsFile({GetProjectPath(), programFolder})));
