@@ -26,6 +26,11 @@ struct ScriptedPrompts : CEditorPrompts {
         savedQuestions << name;
         return saveAnswer;
     }
+    bool AskOverwriteChangedFile(QWidget*, const QString& name) override
+    {
+        overwriteQuestions << name;
+        return overwriteAnswer;
+    }
     QString AskSaveFileName(QWidget*, const QString&) override { return saveFileName; }
     QString AskOpenFileName(QWidget*, const QString&) override { return {}; } // the tests open files directly
     std::optional<int> AskZoomPercent(QWidget*) override { return zoomPercent; }
@@ -38,10 +43,12 @@ struct ScriptedPrompts : CEditorPrompts {
     }
 
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
+    bool overwriteAnswer = false;
     QString saveFileName;
     std::optional<int> zoomPercent;
     RecoveryAnswer recoveryAnswer = RecoveryAnswer::Later;
     QStringList savedQuestions;
+    QStringList overwriteQuestions;
     QStringList errors;
     QStringList information;
     QList<QList<RecoveryCopy>> offeredCopies;
