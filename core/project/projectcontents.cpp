@@ -90,7 +90,8 @@ void CProjectContents::ReadWindows(const std::vector<std::string>& files)
     std::set<std::string> listed;
     ReadWindowList(m_folder + "hmiwindow.xml", [this, &listed](const HmiWindowEntry& entry) {
         listed.insert(entry.filename);
-        m_windows.push_back({entry.name, entry.caption, entry.filename, true, IsRegularFile(m_folder + entry.filename)});
+        const bool present = IsRegularFile(m_folder + entry.filename);
+        m_windows.push_back({entry.name, entry.caption, entry.filename, true, present});
     });
     for (const std::string& name : files)
         if (!listed.contains(name) && LowerCase(name).ends_with(".xml") && IsWindowFile(m_folder + name))

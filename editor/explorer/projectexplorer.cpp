@@ -8,6 +8,7 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSet>
@@ -99,7 +100,9 @@ void CProjectExplorer::Refresh()
     const CProjectContents contents;
     clear();
     const QString folder = FromFileName(contents.Folder());
-    setHeaderLabel(folder.isEmpty() ? QStringLiteral("No project") : QDir(folder).dirName());
+    // The folder's own name, also for a project given as "./".
+    const QString folderName = QFileInfo(QDir(folder).absolutePath()).fileName();
+    setHeaderLabel(folder.isEmpty() ? QStringLiteral("No project") : folderName);
     headerItem()->setToolTip(0, QDir::toNativeSeparators(folder));
     AddWindows(contents);
     AddVariables(contents.Variables().RealtimeRoot());
