@@ -469,6 +469,7 @@ void CMainFrame::CreateProjectDocks()
         above = dock;
         connect(list, &CPlaceList::placeActivated, this, &CMainFrame::ShowPlace);
     }
+    m_problems->parentWidget()->raise();
 }
 
 void CMainFrame::CreateToolsMenu()

@@ -35,8 +35,10 @@ public:
         m_timer.setSingleShot(true);
         m_timer.setInterval(kRecheckDelayMs);
         connect(&m_timer, &QTimer::timeout, this, [this, &pane] {
-            pane.ReplaceWindowFindings(*m_document);
-            pane.ShowFindings();
+            if (pane.HasChecked()) {
+                pane.ReplaceWindowFindings(*m_document);
+                pane.ShowFindings();
+            }
         });
         document.AddObserver(this);
     }
@@ -67,7 +69,7 @@ private:
 
 CProblemsPane::CProblemsPane(QWidget* parent)
     : CPlaceList({QStringLiteral("Severity"), QStringLiteral("File"), QStringLiteral("Widget"),
-                  QStringLiteral("Where"), QStringLiteral("Message"), QStringLiteral("Rule")},
+                  QStringLiteral("Where"), QStringLiteral("Rule"), QStringLiteral("Message")},
                  parent)
 {
     ClearPlaces(QStringLiteral("Tools > Check Project lists what the panel would not find or not show."));
@@ -93,7 +95,7 @@ void CProblemsPane::WatchWindow(CTamloDoc& document)
 
 void CProblemsPane::ReplaceWindowFindings(const CTamloDoc& document)
 {
-    if (!m_index || document.GetPathName().empty())
+    if (document.GetPathName().empty())
         return;
     const std::string file = ProjectFileName(m_folder, document.GetPathName());
     if (file.starts_with("..")) // a window from elsewhere
@@ -128,8 +130,8 @@ void CProblemsPane::ShowFindings()
             link.path = QFile::decodeName(QByteArray::fromStdString(m_folder + Gb2312ToUtf8OrKeep(finding.file)));
         QTreeWidgetItem* row = AddPlace({error ? QStringLiteral("error") : QStringLiteral("warning"),
                                          FromModel(finding.file), FromModel(finding.widget),
-                                         QString::fromStdString(finding.place.Text()), FromModel(finding.message),
-                                         QLatin1String(finding.rule->id)},
+                                         QString::fromStdString(finding.place.Text()),
+                                         QLatin1String(finding.rule->id), FromModel(finding.message)},
                                         std::move(link));
         row->setIcon(0, error ? errorIcon : warningIcon);
     }

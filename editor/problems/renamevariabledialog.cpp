@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int kTextColumnWidth = 260;
+
 // The first line where a text and its rename differ, so that a long script shows what changes.
 std::pair<QString, QString> DifferingLine(const std::string& before, const std::string& after)
 {
@@ -104,7 +106,9 @@ void CRenameVariableDialog::Preview()
         row->setToolTip(3, FromModel(change.before));
         row->setToolTip(4, FromModel(change.after));
     }
-    m_changes->header()->resizeSections(QHeaderView::ResizeToContents);
+    for (int column = 0; column < 3; ++column)
+        m_changes->resizeColumnToContents(column);
+    m_changes->header()->resizeSection(3, kTextColumnWidth); // long expressions share the rest
     const std::size_t files = m_run.FilesToWrite().size();
     m_status->setText(m_run.Changes().empty() && files == 0
                           ? QStringLiteral("No window uses %1.").arg(m_from->text().trimmed())

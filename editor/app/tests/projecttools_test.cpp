@@ -79,7 +79,7 @@ private slots:
         const QStringList speed = {QStringLiteral("error"), QStringLiteral("main.xml"), QStringLiteral("speed"),
                                    QStringLiteral("varname")};
         const QStringList go = {QString(), QStringLiteral("main.xml"), QStringLiteral("go"),
-                                QStringLiteral("event click"), QString(), QStringLiteral("unknown-function")};
+                                QStringLiteral("event click"), QStringLiteral("unknown-function")};
         QCOMPARE(Rows(list, speed).size(), 1);
         QCOMPARE(Rows(list, go).size(), 1);
         const int total = list.topLevelItemCount();
