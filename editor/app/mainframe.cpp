@@ -468,8 +468,8 @@ void CMainFrame::CreateProjectDocks()
             tabifyDockWidget(above, dock);
         above = dock;
         connect(list, &CPlaceList::placeActivated, this, &CMainFrame::ShowPlace);
+        dock->hide(); // until there is something to list
     }
-    m_problems->parentWidget()->raise();
 }
 
 void CMainFrame::CreateToolsMenu()
@@ -506,6 +506,7 @@ void CMainFrame::ToolsCheckProject()
 {
     if (const std::string folder = ProjectFolder(); !folder.empty()) {
         m_problems->CheckProject(folder);
+        m_problems->parentWidget()->show();
         m_problems->parentWidget()->raise();
     }
 }
