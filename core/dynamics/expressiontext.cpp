@@ -96,6 +96,12 @@ std::vector<TextToken> FindFunctionCalls(std::string_view text)
     return calls;
 }
 
+bool IsVariableReference(std::string_view text)
+{
+    const std::vector<TextToken> tokens = FindVariableReferences(text);
+    return tokens.size() == 1 && tokens[0].offset == 0 && tokens[0].length == text.size();
+}
+
 std::size_t ReplaceVariableReference(std::string& text, std::string_view from, std::string_view to)
 {
     std::vector<TextToken> matches;

@@ -24,5 +24,8 @@ std::vector<TextToken> FindVariableReferences(std::string_view text);
 // openwindow("main")), the statements of C that take parentheses aside.
 std::vector<TextToken> FindFunctionCalls(std::string_view text);
 
+// Whether the text is one whole reference and nothing else, as the variable picker writes it.
+bool IsVariableReference(std::string_view text);
+
 // Replaces every whole reference `from` by `to`; returns how many it replaced.
 std::size_t ReplaceVariableReference(std::string& text, std::string_view from, std::string_view to);

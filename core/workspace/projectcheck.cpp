@@ -30,6 +30,7 @@ enum RuleIndex {
     kDuplicateWidgetName,
     kWidgetOutsideWindow,
     kNotGb2312,
+    // The rules above concern what a window holds, those below the files.
     kMissingWindowFile,
     kUnlistedWindowFile,
     kUnreadableFile,
@@ -270,6 +271,11 @@ std::vector<Finding> CheckWindow(const CTamloDoc& document, const std::string& f
             check.CheckPosition(*widget, window->GetWidgetRect().Normalized());
     }
     return check.Take();
+}
+
+bool IsWindowContentFinding(const Finding& finding)
+{
+    return finding.rule < &kRules[kMissingWindowFile];
 }
 
 std::vector<Finding> CheckProject(const std::string& folder,

@@ -61,6 +61,10 @@ private:
 // positions and texts. `file` names the window in the findings.
 std::vector<Finding> CheckWindow(const CTamloDoc& document, const std::string& file, const CProjectIndex& index);
 
+// Whether the finding is about what a window holds, as CheckWindow finds it, rather than about
+// its file (missing, unlisted, unreadable) or the project's files.
+bool IsWindowContentFinding(const Finding& finding);
+
 // Checks the whole project in a folder: its project files, the windows of hmiwindow.xml and the
 // window files it does not list. Sets the project path to the folder, since widgets read the
 // project's names as they are made. `progress` hears after each window how many of how many

@@ -37,6 +37,29 @@ FileResult ForEachProjectWindow(const std::string& folder,
     return FileResult::Success();
 }
 
+// Whether a use continues the last one: a binding's type repeats its runtime expression, and
+// its references count with it.
+bool SamePlace(const ReferenceUse& last, const ReferenceUse& use)
+{
+    return last.widget == use.widget && last.place == use.place;
+}
+
+// Renames the reference in one text of the use's place and records the change; returns whether
+// the text changed.
+bool RenameText(std::vector<ReferenceChange>& changes, ReferenceUse use, std::string& text, std::string_view from,
+                std::string_view to)
+{
+    std::string before = text;
+    use.count = ReplaceVariableReference(text, from, to);
+    if (use.count == 0)
+        return false;
+    if (!changes.empty() && SamePlace(changes.back().use, use))
+        changes.back().use.count += use.count;
+    else
+        changes.push_back({std::move(use), std::move(before), text});
+    return true;
+}
+
 } // namespace
 
 std::vector<ReferenceUse> FindReferences(const CTamloDoc& document, const std::string& file,
@@ -47,13 +70,13 @@ std::vector<ReferenceUse> FindReferences(const CTamloDoc& document, const std::s
         if (document.IsWidgetDeleted(widget.get()))
             continue;
         ForEachVariableText(*widget, [&](const WidgetPlace& place, const std::string& text) {
-            const std::size_t count = CountReferences(text, reference);
-            if (count == 0)
+            const ReferenceUse use{file, widget->GetWidgetName(), place, CountReferences(text, reference)};
+            if (use.count == 0)
                 return;
-            if (!uses.empty() && uses.back().widget == widget->GetWidgetName() && uses.back().place == place)
-                uses.back().count += count; // a binding's type repeats its runtime expression
+            if (!uses.empty() && SamePlace(uses.back(), use))
+                uses.back().count += use.count;
             else
-                uses.push_back({file, widget->GetWidgetName(), place, count});
+                uses.push_back(use);
         });
     }
     return uses;
@@ -67,19 +90,25 @@ std::vector<ReferenceChange> RenameReference(CTamloDoc& document, const std::str
         if (document.IsWidgetDeleted(widget.get()))
             continue;
         const DocChange changed = EditVariableTexts(*widget, [&](const WidgetPlace& place, std::string& text) {
-            std::string before = text;
-            const std::size_t count = ReplaceVariableReference(text, from, to);
-            if (count == 0)
-                return false;
-            if (!changes.empty() && changes.back().use.widget == widget->GetWidgetName() &&
-                changes.back().use.place == place)
-                changes.back().use.count += count;
-            else
-                changes.push_back({{file, widget->GetWidgetName(), place, count}, std::move(before), text});
-            return true;
+            return RenameText(changes, {file, widget->GetWidgetName(), place, 0}, text, from, to);
         });
         if (changed != DocChange::None)
             document.WidgetChanged(*widget, changed);
+    }
+    return changes;
+}
+
+std::vector<ReferenceChange> PreviewRenameReference(const CTamloDoc& document, const std::string& file,
+                                                    std::string_view from, std::string_view to)
+{
+    std::vector<ReferenceChange> changes;
+    for (const HmiWidgetPtr& widget : document.Widgets()) {
+        if (document.IsWidgetDeleted(widget.get()))
+            continue;
+        ForEachVariableText(*widget, [&](const WidgetPlace& place, const std::string& text) {
+            std::string renamed = text;
+            RenameText(changes, {file, widget->GetWidgetName(), place, 0}, renamed, from, to);
+        });
     }
     return changes;
 }
@@ -115,14 +144,14 @@ FileResult PlanProjectRename(const std::string& folder, std::string_view from, s
 }
 
 FileResult FindProjectReferences(const std::string& folder, std::string_view reference,
-                                 std::vector<ReferenceUse>& uses)
+                                 std::vector<ReferenceUse>& uses, const std::function<bool(const std::string& path)>& isOpen)
 {
     uses.clear();
     return ForEachProjectWindow(folder, [&](CTamloDoc& document, const ProjectWindowFile& window) {
         std::vector<ReferenceUse> found = FindReferences(document, window.file, reference);
         std::move(found.begin(), found.end(), std::back_inserter(uses));
         return FileResult::Success();
-    });
+    }, isOpen);
 }
 
 FileResult ApplyProjectRename(const ProjectRename& plan, std::vector<std::string>& written)

@@ -39,6 +39,10 @@ std::vector<ReferenceUse> FindReferences(const CTamloDoc& document, const std::s
 std::vector<ReferenceChange> RenameReference(CTamloDoc& document, const std::string& file, std::string_view from,
                                              std::string_view to);
 
+// The changes RenameReference would make, leaving the document as it is.
+std::vector<ReferenceChange> PreviewRenameReference(const CTamloDoc& document, const std::string& file,
+                                                    std::string_view from, std::string_view to);
+
 // A rename over a project's window files, worked out before anything is written.
 struct ProjectRename {
     std::vector<ReferenceChange> changes;
@@ -56,9 +60,11 @@ FileResult PlanProjectRename(const std::string& folder, std::string_view from, s
                              bool declarations, ProjectRename& plan,
                              const std::function<bool(const std::string& path)>& isOpen = {});
 
-// Every use of the reference in the project's window files; fails as PlanProjectRename does.
+// Every use of the reference in the project's window files but those `isOpen` claims; fails as
+// PlanProjectRename does.
 FileResult FindProjectReferences(const std::string& folder, std::string_view reference,
-                                 std::vector<ReferenceUse>& uses);
+                                 std::vector<ReferenceUse>& uses,
+                                 const std::function<bool(const std::string& path)>& isOpen = {});
 
 // Writes the planned files together (WriteFilesAtomically): when one cannot be written, none
 // changes. `written` names the files that were replaced.

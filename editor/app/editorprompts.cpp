@@ -1,6 +1,9 @@
 #include "editorprompts.h"
 
+#include "editor/projectdialogs/modeltext.h"
 #include "editor/projectdialogs/variabledialog.h"
+#include "project/projectpath.h"
+#include "project/variabledatabase.h"
 
 #include <QFileDialog>
 #include <QInputDialog>
@@ -60,6 +63,20 @@ std::optional<int> CEditorPrompts::AskZoomPercent(QWidget* parent)
                                              QStringLiteral("Scale (%):"), 100, std::numeric_limits<int>::min(),
                                              std::numeric_limits<int>::max(), 1, &ok);
     return ok ? std::optional<int>(percent) : std::nullopt;
+}
+
+QString CEditorPrompts::AskVariableReference(QWidget* parent)
+{
+    // Any reference may be typed: one the project no longer declares is worth finding too.
+    CHmiVariableDatabase database;
+    database.LoadProject(GetProjectPath());
+    QStringList references;
+    for (const std::string& reference : database.AllReferenceTexts())
+        references << FromModel(reference);
+    bool ok = false;
+    const QString reference = QInputDialog::getItem(parent, QStringLiteral("Find References"),
+                                                    QStringLiteral("Variable reference:"), references, 0, true, &ok);
+    return ok ? reference.trimmed() : QString();
 }
 
 void CEditorPrompts::ShowError(QWidget* parent, const QString& text)

@@ -27,6 +27,8 @@ public:
     virtual QString AskOpenFileName(QWidget* parent, const QString& folder);
     // The scale of the zoom command in percent; nothing when the user cancels.
     virtual std::optional<int> AskZoomPercent(QWidget* parent);
+    // A variable reference to look for; empty when the user cancels.
+    virtual QString AskVariableReference(QWidget* parent);
     virtual void ShowError(QWidget* parent, const QString& text);
     // Tells the user something worth knowing that needs no answer.
     virtual void ShowInformation(QWidget* parent, const QString& text);

@@ -15,9 +15,14 @@
 #include "editor/explorer/projectexplorer.h"
 #include "editor/model/editcommands.h"
 #include "editor/model/editorsession.h"
+#include "editor/problems/problemspane.h"
+#include "editor/problems/renamevariabledialog.h"
+#include "editor/problems/searchresults.h"
+#include "editor/projectdialogs/modeltext.h"
 #include "editor/projectdialogs/projectwindowdialog.h"
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/propertypane/propertypane.h"
+#include "dynamics/expressiontext.h"
 #include "project/projectpath.h"
 #include "widgets/tamlodoc.h"
 
@@ -121,9 +126,7 @@ void CMainFrame::CreateDocks()
     addDockWidget(Qt::LeftDockWidgetArea, explorerDock);
     connect(m_explorer, &CProjectExplorer::windowOpenRequested, this,
             qOverload<const QString&>(&CMainFrame::OpenDocument));
-    connect(m_explorer, &CProjectExplorer::findReferencesRequested, this, [this](const QString& reference) {
-        statusBar()->showMessage(QStringLiteral("Find References: %1").arg(reference));
-    });
+    connect(m_explorer, &CProjectExplorer::findReferencesRequested, this, &CMainFrame::FindReferences);
 
     m_toolbox = new CToolbox(m_session.Tools());
     auto* toolboxDock = new QDockWidget(QStringLiteral("Toolbox"), this);
@@ -149,6 +152,7 @@ void CMainFrame::CreateDocks()
             view->Selection().Select(widget, false);
     });
     ConnectRowDialogs();
+    CreateProjectDocks();
 }
 
 void CMainFrame::ConnectRowDialogs()
@@ -265,6 +269,10 @@ void CMainFrame::CreateMenus()
     edit->addAction(m_deleteAction);
     edit->addSeparator();
     edit->addAction(m_selectAllAction);
+    edit->addSeparator();
+    AddAction(edit, QStringLiteral("Find &References..."),
+              QStringLiteral("List every use of a variable in the project's windows"), &CMainFrame::EditFindReferences)
+        ->setObjectName(QStringLiteral("actionFindReferences"));
 
     QToolBar* standard = addToolBar(QStringLiteral("Standard"));
     standard->setObjectName(QStringLiteral("standardToolBar"));
@@ -289,6 +297,7 @@ void CMainFrame::CreateMenus()
     connect(statusBarToggle, &QAction::toggled, statusBar(), &QStatusBar::setVisible);
 
     menuBar()->addMenu(m_formatActions->CreateFormatMenu(this));
+    CreateToolsMenu();
 
     m_windowMenu = menuBar()->addMenu(QStringLiteral("&Window"));
     connect(m_windowMenu, &QMenu::aboutToShow, this, &CMainFrame::UpdateWindowMenu);
@@ -429,6 +438,7 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
 CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
 {
     auto* child = new CChildFrame(std::move(document), m_prompts, m_session);
+    m_problems->WatchWindow(child->Document());
     CTamloView& view = child->View();
     view.SetContextMenu(m_canvasMenu);
     connect(&view, &CTamloView::selectionChanged, this, [this, child] {
@@ -473,6 +483,120 @@ void CMainFrame::WatchWindowFiles(const CChildFrame* leaving)
         if (child != leaving && !child->FilePath().isEmpty())
             paths << child->FilePath();
     m_windowFiles->Watch(paths);
+}
+
+void CMainFrame::CreateProjectDocks()
+{
+    m_problems = new CProblemsPane;
+    m_problems->setObjectName(QStringLiteral("problems"));
+    m_searchResults = new CSearchResults;
+    m_searchResults->setObjectName(QStringLiteral("searchResults"));
+    QDockWidget* above = nullptr;
+    for (CPlaceList* list : std::initializer_list<CPlaceList*>{m_problems, m_searchResults}) {
+        auto* dock = new QDockWidget(list == m_problems ? QStringLiteral("Problems") : QStringLiteral("Search Results"),
+                                     this);
+        dock->setObjectName(list->objectName() + QStringLiteral("Dock"));
+        dock->setWidget(list);
+        addDockWidget(Qt::BottomDockWidgetArea, dock);
+        if (above)
+            tabifyDockWidget(above, dock);
+        above = dock;
+        connect(list, &CPlaceList::placeActivated, this, &CMainFrame::ShowPlace);
+        dock->hide(); // until there is something to list
+    }
+}
+
+void CMainFrame::CreateToolsMenu()
+{
+    QMenu* tools = menuBar()->addMenu(QStringLiteral("&Tools"));
+    AddAction(tools, QStringLiteral("&Check Project"),
+              QStringLiteral("List what the panel would not find or not show in the project's windows"),
+              &CMainFrame::ToolsCheckProject)
+        ->setObjectName(QStringLiteral("actionCheckProject"));
+    AddAction(tools, QStringLiteral("&Rename Variable..."),
+              QStringLiteral("Rename a variable reference in every window of the project"),
+              &CMainFrame::ToolsRenameVariable)
+        ->setObjectName(QStringLiteral("actionRenameVariable"));
+}
+
+std::string CMainFrame::ProjectFolder()
+{
+    const std::string& folder = GetProjectPath();
+    if (folder.empty())
+        m_prompts.ShowError(this, QStringLiteral("There is no project folder: open a window of a project first."));
+    return folder;
+}
+
+std::vector<OpenWindow> CMainFrame::OpenWindows() const
+{
+    std::vector<OpenWindow> windows;
+    for (CChildFrame* child : Children())
+        if (!child->Document().GetPathName().empty())
+            windows.push_back({child->Document().GetPathName(), &child->Document()});
+    return windows;
+}
+
+void CMainFrame::ToolsCheckProject()
+{
+    if (const std::string folder = ProjectFolder(); !folder.empty()) {
+        m_problems->CheckProject(folder);
+        m_problems->parentWidget()->show();
+        m_problems->parentWidget()->raise();
+    }
+}
+
+void CMainFrame::EditFindReferences()
+{
+    if (const QString reference = m_prompts.AskVariableReference(this); !reference.isEmpty())
+        FindReferences(reference);
+}
+
+void CMainFrame::FindReferences(const QString& reference)
+{
+    const std::string text = ToModel(reference.trimmed());
+    if (!IsVariableReference(text))
+        return m_prompts.ShowError(
+            this, QStringLiteral("\"%1\" is not a variable reference such as $plc.level or $setpoint.").arg(reference));
+    if (const std::string folder = ProjectFolder(); !folder.empty()) {
+        m_searchResults->FindReferences(folder, text, OpenWindows());
+        m_searchResults->parentWidget()->show();
+        m_searchResults->parentWidget()->raise();
+    }
+}
+
+void CMainFrame::ToolsRenameVariable()
+{
+    const std::string folder = ProjectFolder();
+    if (folder.empty())
+        return;
+    CRenameVariableDialog dialog(folder, OpenWindows(), QString(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    statusBar()->showMessage(QStringLiteral("Renamed: %1 files written").arg(dialog.WrittenFiles().size()));
+    if (m_problems->HasChecked()) // the windows, and perhaps the declarations, changed
+        m_problems->CheckProject(folder);
+    UpdateEditActions();
+}
+
+void CMainFrame::ShowPlace(const PlaceLink& link)
+{
+    CChildFrame* child = OpenDocument(link.path);
+    if (!child)
+        return;
+    const CTamloDoc& document = child->Document();
+    const auto widget = std::find_if(document.Widgets().begin(), document.Widgets().end(), [&](const HmiWidgetPtr& w) {
+        return !document.IsWidgetDeleted(w.get()) && w->GetWidgetName() == link.widget;
+    });
+    if (widget == document.Widgets().end())
+        return statusBar()->showMessage(QStringLiteral("The window has no widget named \"%1\" any more.")
+                                            .arg(FromModel(link.widget)));
+    ChildActivated(child);
+    child->View().Selection().Select(widget->get(), false);
+    ShowSelection(child->View());
+    if (link.place.kind == WidgetPlace::Kind::Event)
+        m_propertyPane->ShowEventRow(link.place.name);
+    else if (link.place.kind != WidgetPlace::Kind::Widget)
+        m_propertyPane->ShowPropertyRow(link.place.name);
 }
 
 void CMainFrame::ChildActivated(QMdiSubWindow* window)

@@ -20,8 +20,10 @@ class CEditorSession;
 class CFileWatch;
 class CFormatActions;
 class CHmiWidget;
+class CProblemsPane;
 class CProjectExplorer;
 class CPropertyPane;
+class CSearchResults;
 class CTamloDoc;
 class CTamloView;
 class CToolbox;
@@ -32,6 +34,8 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 class QSettings;
+struct OpenWindow;
+struct PlaceLink;
 
 // The editor's main window: one child window per open window file in an MDI area, the project
 // explorer, the toolbox and the property pane in docks, the list of widget names, and the menus
@@ -78,6 +82,10 @@ public:
     // Brings the window to the front after another editor start handed a file over.
     void RaiseAndRestore();
 
+public slots:
+    // Lists every use of a variable reference in the project's windows under "Search Results".
+    void FindReferences(const QString& reference);
+
 signals:
     // The user closed the editor, and every window's changes were saved or discarded.
     void closedByUser();
@@ -96,6 +104,18 @@ private:
     QAction* AddCanvasAction(const QString& text, const QString& statusText, QKeySequence::StandardKey key,
                              void (CMainFrame::*slot)());
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
+
+    // The Problems and Search Results docks, the Tools menu and the commands behind them.
+    void CreateProjectDocks();
+    void CreateToolsMenu();
+    void ToolsCheckProject();
+    void ToolsRenameVariable();
+    void EditFindReferences();
+    // Opens the window and shows the widget and its property's or event's row.
+    void ShowPlace(const PlaceLink& link);
+    // The project folder; empty, after telling the user, when there is none.
+    std::string ProjectFolder();
+    std::vector<OpenWindow> OpenWindows() const;
 
     void ChildActivated(QMdiSubWindow* window);
     // Shows the widget selected last on the canvas in the property pane and the name list.
@@ -136,6 +156,8 @@ private:
     CToolbox* m_toolbox = nullptr;
     CPropertyPane* m_propertyPane = nullptr;
     CWidgetNameCombo* m_nameCombo = nullptr;
+    CProblemsPane* m_problems = nullptr;
+    CSearchResults* m_searchResults = nullptr;
     CFormatActions* m_formatActions = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
     QMenu* m_canvasMenu = nullptr;

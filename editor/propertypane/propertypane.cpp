@@ -175,6 +175,36 @@ CPropertyPaneItem* CPropertyPane::FindItem(const std::string& caption, const std
     return nullptr;
 }
 
+bool CPropertyPane::ShowPropertyRow(std::string_view key)
+{
+    const CHmiWidgetProp* prop = m_widget ? m_widget->FindProperty(key) : nullptr;
+    return prop && MakeCurrent(prop->m_pTreeItem);
+}
+
+bool CPropertyPane::ShowEventRow(std::string_view name)
+{
+    if (!m_widget)
+        return false;
+    const std::vector<CHmiWidgetEvent>& events = m_widget->GetEvents();
+    const auto event = std::find_if(events.begin(), events.end(), [&](const auto& e) { return e.name == name; });
+    if (event == events.end())
+        return false;
+    const auto row = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
+        return item->GetKind() == OptionItemKind::Event && item->GetLabelText() == event->label;
+    });
+    return row != m_items.end() && MakeCurrent(row->get());
+}
+
+bool CPropertyPane::MakeCurrent(const COptionTreeItem* item)
+{
+    const auto own = std::find_if(m_items.begin(), m_items.end(), [item](const auto& row) { return row.get() == item; });
+    if (!item || own == m_items.end())
+        return false;
+    m_tree->setCurrentItem((*own)->Row());
+    m_tree->scrollToItem((*own)->Row());
+    return true;
+}
+
 QString CPropertyPane::DescriptionText() const
 {
     return m_description->text();

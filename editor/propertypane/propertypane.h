@@ -49,6 +49,10 @@ public:
     // The first row with this caption, under a root of rootCaption when one is given.
     CPropertyPaneItem* FindItem(const std::string& caption, const std::string& rootCaption = {}) const;
     QString DescriptionText() const;
+    // Makes the row of the shown widget's property (by key) or event (by name) the current one
+    // and scrolls to it; false when the pane has no such row.
+    bool ShowPropertyRow(std::string_view key);
+    bool ShowEventRow(std::string_view name);
     // Says in the description area why an edit was refused.
     void ShowRefusal(const QString& reason);
 
@@ -76,6 +80,7 @@ private:
     CPropertyPaneItem* AddItem(OptionItemKind kind, CPropertyPaneItem* parent, const std::string& caption,
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);
+    bool MakeCurrent(const COptionTreeItem* item);
     // Gives the widget the row's value and tells its document.
     void ApplyToWidget(COptionTreeItem* item);
 

@@ -20,13 +20,6 @@ int Usage()
     return 2;
 }
 
-// A whole reference as the variable picker writes it: "$name" or "$database.data".
-bool IsReference(const std::string& text)
-{
-    const std::vector<TextToken> tokens = FindVariableReferences(text);
-    return tokens.size() == 1 && tokens[0].offset == 0 && tokens[0].length == text.size();
-}
-
 // The change as the lines that differ, "-" before and "+" after; a rename keeps the line count.
 void PrintChange(const ReferenceChange& change)
 {
@@ -59,7 +52,7 @@ int RenameVarCommand(Arguments args)
     }
     const std::string from = Utf8ToGb2312OrKeep(args[1]);
     const std::string to = Utf8ToGb2312OrKeep(args[2]);
-    if (!IsReference(from) || !IsReference(to)) {
+    if (!IsVariableReference(from) || !IsVariableReference(to)) {
         std::fprintf(stderr, "kelvo-hmi: OLD and NEW must be variable references such as $plc.level or $setpoint\n");
         return 2;
     }

@@ -1,0 +1,138 @@
+#include "problemspane.h"
+
+#include "projectwork.h"
+
+#include "editor/projectdialogs/modeltext.h"
+#include "project/projectpath.h"
+#include "widgets/tamlodoc.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStyle>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+// Edits come in bursts (typing, dragging): the window is checked once they pause.
+constexpr int kRecheckDelayMs = 300;
+
+QString CountText(std::size_t count, const char* what)
+{
+    return QStringLiteral("%1 %2%3").arg(count).arg(QLatin1String(what)).arg(count == 1 ? "" : "s");
+}
+
+} // namespace
+
+// Checks a window again after its document changed, once the changes pause.
+class CWindowRecheck : public QObject, public CDocumentObserver {
+public:
+    CWindowRecheck(CTamloDoc& document, CProblemsPane& pane) : QObject(&pane), m_document(&document)
+    {
+        m_timer.setSingleShot(true);
+        m_timer.setInterval(kRecheckDelayMs);
+        connect(&m_timer, &QTimer::timeout, this, [this, &pane] {
+            if (pane.HasChecked()) {
+                pane.ReplaceWindowFindings(*m_document);
+                pane.ShowFindings();
+            }
+        });
+        document.AddObserver(this);
+    }
+    ~CWindowRecheck() override
+    {
+        if (m_document)
+            m_document->RemoveObserver(this);
+    }
+
+    void DocumentChanged(const CDocumentChange& change) override
+    {
+        if (change.what != DocChange::Modified) // saving changes no content
+            m_timer.start();
+    }
+    void DocumentDestroyed() override
+    {
+        auto& pane = static_cast<CProblemsPane&>(*parent());
+        std::erase(pane.m_watched, m_document);
+        m_document = nullptr;
+        m_timer.stop();
+        deleteLater();
+    }
+
+private:
+    CTamloDoc* m_document;
+    QTimer m_timer;
+};
+
+CProblemsPane::CProblemsPane(QWidget* parent)
+    : CPlaceList({QStringLiteral("Severity"), QStringLiteral("File"), QStringLiteral("Widget"),
+                  QStringLiteral("Where"), QStringLiteral("Rule"), QStringLiteral("Message")},
+                 parent)
+{
+    ClearPlaces(QStringLiteral("Tools > Check Project lists what the panel would not find or not show."));
+}
+
+void CProblemsPane::CheckProject(const std::string& folder)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_findings = ::CheckProject(folder);
+    m_folder = GetProjectPath();
+    m_index.emplace(m_folder);
+    for (const CTamloDoc* document : m_watched)
+        ReplaceWindowFindings(*document);
+    ShowFindings();
+    QApplication::restoreOverrideCursor();
+}
+
+void CProblemsPane::WatchWindow(CTamloDoc& document)
+{
+    m_watched.push_back(&document);
+    new CWindowRecheck(document, *this);
+}
+
+void CProblemsPane::ReplaceWindowFindings(const CTamloDoc& document)
+{
+    if (document.GetPathName().empty())
+        return;
+    const std::string file = ProjectFileName(m_folder, document.GetPathName());
+    if (file.starts_with("..")) // a window from elsewhere
+        return;
+    namespace fs = std::filesystem;
+    const fs::path path = fs::path(document.GetPathName()).lexically_normal();
+    std::erase_if(m_findings, [&](const Finding& finding) {
+        return IsWindowContentFinding(finding) &&
+               (fs::path(m_folder) / Gb2312ToUtf8OrKeep(finding.file)).lexically_normal() == path;
+    });
+    std::vector<Finding> found = CheckWindow(document, file, *m_index);
+    std::move(found.begin(), found.end(), std::back_inserter(m_findings));
+}
+
+void CProblemsPane::ShowFindings()
+{
+    // A window checked again keeps its place among the others.
+    std::stable_sort(m_findings.begin(), m_findings.end(),
+                     [](const Finding& a, const Finding& b) { return a.file < b.file; });
+    const auto errors = std::size_t(std::count_if(m_findings.begin(), m_findings.end(), [](const Finding& finding) {
+        return finding.rule->severity == Severity::Error;
+    }));
+    ClearPlaces(m_findings.empty() ? QStringLiteral("No problems found.")
+                                   : CountText(errors, "error") + QStringLiteral(", ") +
+                                         CountText(m_findings.size() - errors, "warning"));
+    const QIcon errorIcon = style()->standardIcon(QStyle::SP_MessageBoxCritical);
+    const QIcon warningIcon = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    for (const Finding& finding : m_findings) {
+        const bool error = finding.rule->severity == Severity::Error;
+        PlaceLink link{{}, finding.widget, finding.place};
+        if (IsWindowContentFinding(finding))
+            link.path = QFile::decodeName(QByteArray::fromStdString(m_folder + Gb2312ToUtf8OrKeep(finding.file)));
+        QTreeWidgetItem* row = AddPlace({error ? QStringLiteral("error") : QStringLiteral("warning"),
+                                         FromModel(finding.file), FromModel(finding.widget),
+                                         QString::fromStdString(finding.place.Text()),
+                                         QLatin1String(finding.rule->id), FromModel(finding.message)},
+                                        std::move(link));
+        row->setIcon(0, error ? errorIcon : warningIcon);
+    }
+}
