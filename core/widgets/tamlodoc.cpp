@@ -49,6 +49,10 @@ void CTamloDoc::RemoveObserver(CDocumentObserver* observer)
 
 void CTamloDoc::Record(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore)
 {
+    if (HasAny(what, DocChange::Added | DocChange::Removed | DocChange::Order))
+        m_grid.Invalidate(); // deleted or brought back, or moved in the order
+    else if (HasAny(what, DocChange::Geometry))
+        m_grid.Moved(widget);
     // A reloaded document has no widget changes to tell: every widget is new.
     if (!m_change.Has(DocChange::Reloaded)) {
         m_change.what |= what;
@@ -132,7 +136,7 @@ void CTamloDoc::TakeOut(std::deque<HmiWidgetPtr>::iterator widget)
 {
     m_removedWidgets.push_back(std::move(*widget));
     m_widgets.erase(widget);
-    ForgetWindowWidget();
+    ListChanged();
 }
 
 void CTamloDoc::AddWindowWidget(bool atTail)
@@ -160,7 +164,7 @@ bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
         m_widgets.push_back(std::move(widget));
     else
         m_widgets.push_front(std::move(widget));
-    ForgetWindowWidget();
+    ListChanged();
     added.m_pDocument = this;
     if (added.GetWidgetName().empty()) {
         const std::string classKey = added.GetWidgetClassName();
@@ -266,16 +270,6 @@ void CTamloDoc::Undo()
     SetModifiedFlag();
 }
 
-CHmiWidget* CTamloDoc::DocumentHitTest(HmiPoint point) const
-{
-    const CHmiWidget* window = GetWindowWidget();
-    for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget) {
-        if (widget->get() != window && !IsWidgetDeleted(widget->get()) && (*widget)->Intersects(point))
-            return widget->get();
-    }
-    return nullptr;
-}
-
 CHmiWidget* CTamloDoc::FindWindowWidget() const
 {
     CHmiWidget* window = GetWindowWidget();
@@ -292,7 +286,7 @@ bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
     HmiWidgetPtr moved = std::move(*found);
     m_widgets.erase(found);
     m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
-    ForgetWindowWidget();
+    ListChanged();
     Record(*widget, DocChange::Order);
     SetModifiedFlag();
     return true;

@@ -5,6 +5,7 @@
 #include "hmiwidget.h"
 #include "project/fileio.h"
 #include "undostep.h"
+#include "widgetgrid.h"
 #include "windowfilecheck.h"
 
 #include <cstdint>
@@ -22,7 +23,7 @@ class CHmiView;
 // of every change (documentchange.h), so that each view refreshes only what changed.
 class CTamloDoc {
 public:
-    CTamloDoc() = default;
+    CTamloDoc() : m_grid(*this) {}
     CTamloDoc(const CTamloDoc&) = delete;
     CTamloDoc& operator=(const CTamloDoc&) = delete;
     // Tells the observers that are left that the document goes.
@@ -106,7 +107,10 @@ public:
 
     // The topmost widget under a point, skipping deleted ones and the window widget, which is
     // the background of the canvas.
-    CHmiWidget* DocumentHitTest(HmiPoint point) const;
+    CHmiWidget* DocumentHitTest(HmiPoint point) const { return m_grid.TopmostAt(point); }
+    // The widgets whose Intersects holds for the rectangle (for a band: that lie in it), in
+    // drawing order, skipping deleted ones and the window widget.
+    std::vector<CHmiWidget*> WidgetsWithin(const HmiRect& rect) const { return m_grid.Within(rect); }
     // The window widget unless it is deleted.
     CHmiWidget* FindWindowWidget() const;
 
@@ -133,8 +137,13 @@ private:
     void ResetChange(DocChange what);
     // Empties the undo step, forgetting which widgets it deleted.
     void ClearUndoStep();
-    // The list changed its members or their order: the window widget is looked for anew.
-    void ForgetWindowWidget() { m_windowKnown = false; }
+    // The list changed its members or their order: the window widget is looked for anew, and
+    // the grid sorts the widgets anew.
+    void ListChanged()
+    {
+        m_windowKnown = false;
+        m_grid.Invalidate();
+    }
 
     std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
@@ -152,6 +161,7 @@ private:
     std::unordered_set<const CHmiWidget*> m_deletedWidgets;           // deleted in the undo step
     mutable CHmiWidget* m_windowWidget = nullptr; // GetWindowWidget's answer while m_windowKnown
     mutable bool m_windowKnown = false;
+    mutable CWidgetGrid m_grid; // where the widgets that can be hit stand
     std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed once told
     mutable std::size_t m_nLastTextSize = 0;    // of the window file last read or written
 };
