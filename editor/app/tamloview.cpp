@@ -261,15 +261,25 @@ void CTamloView::DrawDragFeedback(QPainter& painter) const
 {
     if (m_feedback.empty())
         return;
-    // Focus rectangles: a dotted outline that shows on any background.
+    // Focus rectangles: a dotted outline that shows on any background. Each is four one-pixel
+    // strips of a checkered brush, which fills thousands of outlines far faster than a dotted pen
+    // strokes them; the strips never overlap, as a pixel inverted twice would not show.
     painter.save();
     painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
-    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
+    const QBrush dots(Qt::white, Qt::Dense4Pattern);
     for (const HmiRect& rect : m_feedback) {
         const HmiRect r = rect.Normalized();
-        if (r.Width() > 0 && r.Height() > 0)
-            painter.drawRect(ToQRect(r));
+        if (r.Width() <= 0 || r.Height() <= 0)
+            continue;
+        const QRect outline = ToQRect(r);
+        painter.fillRect(outline.left(), outline.top(), outline.width(), 1, dots);
+        if (outline.height() == 1)
+            continue;
+        painter.fillRect(outline.left(), outline.bottom(), outline.width(), 1, dots);
+        const int sideHeight = outline.height() - 2;
+        painter.fillRect(outline.left(), outline.top() + 1, 1, sideHeight, dots);
+        if (outline.width() > 1)
+            painter.fillRect(outline.right(), outline.top() + 1, 1, sideHeight, dots);
     }
     painter.restore();
 }
