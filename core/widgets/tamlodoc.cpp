@@ -154,7 +154,7 @@ void CTamloDoc::OnNewDocument()
     m_bModified = false;
 }
 
-bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
+bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, CWidgetNames* names)
 {
     if (!widget || !widget->Init())
         return false;
@@ -171,9 +171,11 @@ bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
         std::string name;
         do
             name = classKey + std::to_string(WidgetNameCounter()++);
-        while (HasWidgetName(name));
+        while (names ? names->Contains(name) : HasWidgetName(name));
         added.SetWidgetName(std::move(name));
     }
+    if (names)
+        names->Add(added.GetWidgetName());
     Record(added, DocChange::Added);
     SetModifiedFlag();
     return true;
@@ -386,6 +388,12 @@ void CTamloDoc::AddView(CHmiView* view)
 void CTamloDoc::RemoveView(CHmiView* view)
 {
     std::erase(m_views, view);
+}
+
+CWidgetNames::CWidgetNames(const CTamloDoc& document)
+{
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        m_names.insert(widget->GetWidgetName());
 }
 
 CUndoStepGuard::CUndoStepGuard(CTamloDoc& document) : m_document(document)

@@ -17,6 +17,19 @@
 #include <vector>
 
 class CHmiView;
+class CTamloDoc;
+
+// The names a document's widgets have at one moment, so that naming many new widgets at once,
+// as a paste does, asks a set instead of every widget.
+class CWidgetNames {
+public:
+    explicit CWidgetNames(const CTamloDoc& document);
+    bool Contains(const std::string& name) const { return m_names.contains(name); }
+    void Add(const std::string& name) { m_names.insert(name); }
+
+private:
+    std::unordered_set<std::string> m_names;
+};
 
 // The document of one HMI window: it owns the window's widgets in drawing order (head first,
 // tail on top), names new widgets, and loads and saves the window file. It tells its observers
@@ -34,8 +47,9 @@ public:
 
     // Initialises the widget and adds it at the tail (else the head). A widget without a name
     // gets its class key and the next free value of the process-wide name counter. Returns
-    // false, destroying the widget, when it fails to initialise.
-    bool AddWidget(HmiWidgetPtr widget, bool atTail);
+    // false, destroying the widget, when it fails to initialise. Given the names of the
+    // document's widgets, it looks names up there and adds the widget's own.
+    bool AddWidget(HmiWidgetPtr widget, bool atTail, CWidgetNames* names = nullptr);
     // Takes the widget out of the list and destroys it once the observers have heard of it.
     void RemoveWidget(CHmiWidget* widget);
     // Takes the widget out of the list and puts it back at an index of the shortened list (the
