@@ -76,6 +76,8 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Notices the first paint, after which the waiting panes are filled in.
+    bool event(QEvent* event) override;
 
 private:
     void CreateActions();
@@ -90,8 +92,13 @@ private:
     QAction* AddAction(QMenu* menu, const QString& text, const QString& statusText, void (CMainFrame::*slot)());
 
     void ChildActivated(QMdiSubWindow* window);
+    // Shows the shown child's widgets in the name list and its selection in the property pane.
+    void ShowChildInPanes();
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
+    // The panes' contents wait until the frame has painted once, so that the first window
+    // shows sooner; then they show the child.
+    void FinishAfterFirstPaint();
     // Enables the commands that have something to act on; the panes and the canvas follow the
     // documents' changes themselves.
     void UpdateEditActions();
@@ -125,6 +132,7 @@ private:
     CWidgetNameCombo* m_nameCombo = nullptr;
     CFormatActions* m_formatActions = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
+    bool m_painted = false;              // the frame has painted once: the panes show the child
     QMenu* m_canvasMenu = nullptr;
     QMenu* m_windowMenu = nullptr;
     std::vector<ScriptFunction> m_scriptFunctions;
