@@ -82,6 +82,28 @@ std::optional<NudgeKey> ToNudgeKey(int key)
     }
 }
 
+// Sets the dots of an outline, given in canvas coordinates, in an image of white dots that
+// covers the canvas from origin on: every other pixel, on a checkerboard fixed to the canvas.
+void SetOutlineDots(QImage& dots, const QRect& outline, QPoint origin)
+{
+    const QRect local = outline.translated(-origin);
+    const QRect clip = dots.rect();
+    const auto run = [&dots, &clip, origin](int x, int y, int dx, int dy, int count) {
+        for (; count > 0; --count, x += dx, y += dy)
+            if (clip.contains(x, y) && ((x + y + origin.x() + origin.y()) & 1) == 0)
+                reinterpret_cast<QRgb*>(dots.scanLine(y))[x] = 0xFFFFFFFF;
+    };
+    // Each run is held to the image first: a window file may make an outline far larger.
+    const int left = std::max(local.left(), 0);
+    const int right = std::min(local.right(), clip.right());
+    const int top = std::max(local.top(), 0);
+    const int bottom = std::min(local.bottom(), clip.bottom());
+    run(left, local.top(), 1, 0, right - left + 1);
+    run(left, local.bottom(), 1, 0, right - left + 1);
+    run(local.left(), top, 0, 1, bottom - top + 1);
+    run(local.right(), top, 0, 1, bottom - top + 1);
+}
+
 } // namespace
 
 CTamloView::CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent)
@@ -209,7 +231,7 @@ void CTamloView::paintEvent(QPaintEvent* event)
         painter.drawImage(area, m_backdrop, area);
     DrawTrackers(painter);
     painter.restore();
-    DrawDragFeedback(painter);
+    DrawDragFeedback(painter, area);
 }
 
 void CTamloView::ClipTo(QPainter& painter, const QRegion& region)
@@ -257,30 +279,24 @@ void CTamloView::DrawTrackers(QPainter& painter) const
     }
 }
 
-void CTamloView::DrawDragFeedback(QPainter& painter) const
+void CTamloView::DrawDragFeedback(QPainter& painter, const QRect& exposed) const
 {
-    if (m_feedback.empty())
+    // Focus rectangles: dotted outlines that show on any background. The dots are set in an
+    // image of their own and inverted onto the canvas at once, which outlines thousands of
+    // widgets far faster than a dotted pen strokes them.
+    const QRect area = FeedbackArea() & exposed;
+    if (area.isEmpty())
         return;
-    // Focus rectangles: a dotted outline that shows on any background. Each is four one-pixel
-    // strips of a checkered brush, which fills thousands of outlines far faster than a dotted pen
-    // strokes them; the strips never overlap, as a pixel inverted twice would not show.
-    painter.save();
-    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
-    const QBrush dots(Qt::white, Qt::Dense4Pattern);
+    QImage dots(area.size(), QImage::Format_ARGB32_Premultiplied);
+    dots.fill(Qt::transparent);
     for (const HmiRect& rect : m_feedback) {
         const HmiRect r = rect.Normalized();
-        if (r.Width() <= 0 || r.Height() <= 0)
-            continue;
-        const QRect outline = ToQRect(r);
-        painter.fillRect(outline.left(), outline.top(), outline.width(), 1, dots);
-        if (outline.height() == 1)
-            continue;
-        painter.fillRect(outline.left(), outline.bottom(), outline.width(), 1, dots);
-        const int sideHeight = outline.height() - 2;
-        painter.fillRect(outline.left(), outline.top() + 1, 1, sideHeight, dots);
-        if (outline.width() > 1)
-            painter.fillRect(outline.right(), outline.top() + 1, 1, sideHeight, dots);
+        if (r.Width() > 0 && r.Height() > 0)
+            SetOutlineDots(dots, ToQRect(r), area.topLeft());
     }
+    painter.save();
+    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    painter.drawImage(area.topLeft(), dots);
     painter.restore();
 }
 

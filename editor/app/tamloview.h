@@ -75,7 +75,8 @@ private:
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
-    void DrawDragFeedback(QPainter& painter) const;
+    // The drag's focus rectangles that meet the exposed area.
+    void DrawDragFeedback(QPainter& painter, const QRect& exposed) const;
     QRect FeedbackArea() const;
 
     CTamloDoc& m_document;
