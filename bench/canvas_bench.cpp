@@ -10,10 +10,12 @@
 #include "editor/app/editorprompts.h"
 #include "editor/app/mainframe.h"
 #include "editor/app/tamloview.h"
+#include "editor/model/editcommands.h"
 #include "editor/model/editorsession.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/tamlodoc.h"
+#include "widgets/widgetfilereader.h"
 
 #include <QApplication>
 #include <QDir>
@@ -86,6 +88,8 @@ constexpr WidgetKind kMix[] = {
 
 // The window of the editor's cases, as large as a window file of a crowded panel.
 constexpr int kEditorWidgetCount = 10000;
+// How many of its widgets are copied and pasted back at once.
+constexpr std::size_t kPastedWidgetCount = 1000;
 constexpr int kOpenRepetitions = 3;
 constexpr int kStartRepetitions = 5;
 // Makes the editor and the bare window end after their first paint (firstpaintexit.h).
@@ -338,6 +342,24 @@ void Drag(CTamloView& view, QPoint from, QPoint to, int moves)
     QCoreApplication::processEvents();
 }
 
+// A paste of many widgets into the crowded window, each of them renamed since their names are
+// taken, against reading the pasted text alone. Each paste is taken back before the next.
+void MeasurePaste(CTamloDoc& document)
+{
+    std::vector<CHmiWidget*> copied;
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        if (widget.get() != document.GetWindowWidget() && copied.size() < kPastedWidgetCount)
+            copied.push_back(widget.get());
+    const std::string text = CopyWidgets(copied);
+    const Timing read = Measure(kBandRepetitions, [&text] { ReadWindowText(text, [](HmiWidgetPtr) {}); });
+    const Timing paste = Measure(kBandRepetitions, [&] {
+        PasteWidgets(document, text);
+        document.Undo();
+    });
+    PrintRow(int(copied.size()), "read of the pasted text", read, read);
+    PrintRow(int(copied.size()), "paste with undo", paste, read);
+}
+
 // A band over the whole window, which selects every widget, and a drag of them all by one
 // step, each against one full repaint of the canvas. Both start from the window widget alone
 // selected, as after a click on the empty canvas.
@@ -375,6 +397,7 @@ void MeasureBulkEdits(int widgetCount)
     PrintRow(widgetCount, "band over all, repaints", band, repaint);
     std::printf("%7s  (the band selects %zu of %d widgets)\n", "", banded, widgetCount);
     PrintRow(widgetCount, "drag of all by one step", drag, repaint);
+    MeasurePaste(document);
 }
 
 // Opening a window file in the editor's main frame until its canvas has painted, against
