@@ -204,25 +204,47 @@ void DragWidget(CTamloView& view, const CHmiWidget& widget, bool back)
     QCoreApplication::processEvents();
 }
 
-// A rectangle in the window's top-left quarter, brought to the top of the drawing order, so
-// that a press on it takes it wherever it stands. The offscreen screen is smaller than the
-// window, and only what lies on it is repainted.
-const CHmiWidget& WidgetToDrag(CTamloDoc& document)
-{
-    const HmiRect corner{0, 0, kWindowWidth / 4, kWindowHeight / 4};
-    CHmiWidget& widget = **std::find_if(document.Widgets().begin(), document.Widgets().end(),
-                                        [&corner](const HmiWidgetPtr& widget) {
-                                            return widget->GetWidgetClassName() == "rectangle" &&
-                                                   widget->Intersects(corner);
-                                        });
-    document.MoveWidget(&widget, document.Widgets().size());
-    return widget;
-}
-
 void PrintRow(int widgetCount, const char* label, const Timing& timing, const Timing& baseline)
 {
     std::printf("%7d  %-26s %9.2f %9.2f %9.1fx\n", widgetCount, label, timing.median, timing.min,
                 timing.median / baseline.median);
+}
+
+// A widget of the class in the window's top-left quarter, brought to the top of the drawing
+// order, so that a press on it takes it wherever it stands; null when there is none. The
+// offscreen screen is smaller than the window, and only what lies on it is repainted.
+const CHmiWidget* WidgetToDrag(CTamloDoc& document, std::string_view classKey)
+{
+    const HmiRect corner{0, 0, kWindowWidth / 4, kWindowHeight / 4};
+    const auto found = std::find_if(document.Widgets().begin(), document.Widgets().end(),
+                                    [&corner, classKey](const HmiWidgetPtr& widget) {
+                                        return widget->GetWidgetClassName() == classKey &&
+                                               widget->Intersects(corner);
+                                    });
+    if (found == document.Widgets().end())
+        return nullptr;
+    CHmiWidget* widget = found->get();
+    document.MoveWidget(widget, document.Widgets().size());
+    return widget;
+}
+
+// Drags of one widget of the class there and back, with the repaints they cause.
+void MeasureWidgetDrags(CTamloDoc& document, CTamloView& view, std::string_view classKey, const char* label,
+                        const Timing& baseline)
+{
+    const CHmiWidget* dragged = WidgetToDrag(document, classKey);
+    if (!dragged)
+        return;
+    PaintCounter paints;
+    view.installEventFilter(&paints);
+    int drags = 0;
+    const Timing drag = Measure(kBandRepetitions, [&] { DragWidget(view, *dragged, drags++ % 2 == 1); });
+    view.removeEventFilter(&paints);
+    PrintRow(int(document.Widgets().size()) - 1, label, drag, baseline);
+    const qint64 canvasPixels = qint64(view.width()) * view.height();
+    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area; %.3f ms per mouse event)\n",
+                "", paints.count / drags, double(paints.pixels) / drags / double(canvasPixels),
+                drag.median / (kBandMoves + 2));
 }
 
 // One widget of each kind of the mix over the whole drawing range and far beyond, with every
@@ -298,14 +320,6 @@ void MeasureCanvas(int widgetCount)
     const std::size_t banded = view.Selection().Widgets().size();
     const int bandPaints = paints.count / drags;
 
-    // The band left most widgets selected, and a press on a selected widget drags them all.
-    view.Selection().Select(nullptr, false);
-    QCoreApplication::processEvents();
-    paints.count = 0;
-    paints.pixels = 0;
-    drags = 0;
-    const CHmiWidget& dragged = WidgetToDrag(document);
-    const Timing widgetDrag = Measure(kBandRepetitions, [&] { DragWidget(view, dragged, drags++ % 2 == 1); });
     view.removeEventFilter(&paints);
 
     PrintRow(widgetCount, "plain rectangles", baseline, baseline);
@@ -313,11 +327,11 @@ void MeasureCanvas(int widgetCount)
     PrintRow(widgetCount, "rubber band with repaints", band, baseline);
     std::printf("%7s  (the band selects %zu of %d widgets; %d repaints per drag)\n", "", banded, widgetCount,
                 bandPaints);
-    PrintRow(widgetCount, "one widget dragged", widgetDrag, baseline);
-    const qint64 canvasPixels = qint64(view.width()) * view.height();
-    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area; %.3f ms per mouse event)\n",
-                "", paints.count / drags, double(paints.pixels) / drags / double(canvasPixels),
-                widgetDrag.median / (kBandMoves + 2));
+    // The band left most widgets selected, and a press on a selected widget drags them all.
+    view.Selection().Select(nullptr, false);
+    QCoreApplication::processEvents();
+    MeasureWidgetDrags(document, view, "rectangle", "one widget dragged", baseline);
+    MeasureWidgetDrags(document, view, "curve", "one large curve dragged", baseline);
 }
 
 

@@ -30,6 +30,10 @@ constexpr int kLargeRepaintDivisor = 16;
 // A change of more widgets than this repaints the whole canvas: so many separate areas would
 // cost more to gather than to paint.
 constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
+// A drag that shows more outlines than this repaints the area around all of them at once.
+constexpr std::size_t kOutlinesRepaintedOneByOne = 16;
+// An outline at least this wide and high repaints only its edges.
+constexpr int kLeastOutlineRepaintedByEdges = 100;
 
 QRect ToQRect(const HmiRect& rect)
 {
@@ -191,9 +195,30 @@ void CTamloView::SetCanvasCursor(CanvasCursor cursor)
 
 void CTamloView::ShowDragFeedback(std::vector<HmiRect> clientRects)
 {
-    update(FeedbackArea());
+    InvalidateFeedback();
     m_feedback = std::move(clientRects);
-    update(FeedbackArea());
+    InvalidateFeedback();
+}
+
+void CTamloView::InvalidateFeedback()
+{
+    if (m_feedback.size() > kOutlinesRepaintedOneByOne)
+        return update(FeedbackArea());
+    // Only the outlines change: a large widget dragged over many repaints none of them inside.
+    // A small one is repainted whole, which is one area instead of four.
+    for (const HmiRect& rect : m_feedback) {
+        const QRect outline = ToQRect(rect);
+        const int width = outline.width() + 2;
+        const int height = outline.height() + 2;
+        if (std::min(width, height) < kLeastOutlineRepaintedByEdges) {
+            update(outline.adjusted(-1, -1, 1, 1));
+            continue;
+        }
+        update(outline.left() - 1, outline.top() - 1, width, 3);
+        update(outline.left() - 1, outline.bottom() - 1, width, 3);
+        update(outline.left() - 1, outline.top() - 1, 3, height);
+        update(outline.right() - 1, outline.top() - 1, 3, height);
+    }
 }
 
 QRect CTamloView::FeedbackArea() const
@@ -213,8 +238,10 @@ void CTamloView::paintEvent(QPaintEvent* event)
     // the copy serves every repaint until the document changes, so that the selection the drag
     // ends with shows at the cost of its handles alone.
     const QRect area = event->rect();
-    const bool large =
-        std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
+    std::int64_t exposed = 0; // pixels: the outlines of a large widget expose little of their area
+    for (const QRect& rect : event->region())
+        exposed += std::int64_t(rect.width()) * rect.height();
+    const bool large = exposed > std::int64_t(width()) * height() / kLargeRepaintDivisor;
     if (m_backdrop.size() != size() * devicePixelRatio())
         m_backdrop = QImage();
     if (!m_feedback.empty() && large && m_backdrop.isNull()) {

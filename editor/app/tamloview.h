@@ -78,6 +78,8 @@ private:
     // The drag's focus rectangles that meet the exposed area.
     void DrawDragFeedback(QPainter& painter, const QRect& exposed) const;
     QRect FeedbackArea() const;
+    // Repaints where the drag's focus rectangles are.
+    void InvalidateFeedback();
 
     CTamloDoc& m_document;
     CCanvasTools& m_tools;
