@@ -91,21 +91,23 @@ std::optional<NudgeKey> ToNudgeKey(int key)
 void SetOutlineDots(QImage& dots, const QRect& outline, QPoint origin)
 {
     const QRect local = outline.translated(-origin);
-    const QRect clip = dots.rect();
-    const auto run = [&dots, &clip, origin](int x, int y, int dx, int dy, int count) {
-        for (; count > 0; --count, x += dx, y += dy)
-            if (clip.contains(x, y) && ((x + y + origin.x() + origin.y()) & 1) == 0)
-                reinterpret_cast<QRgb*>(dots.scanLine(y))[x] = 0xFFFFFFFF;
-    };
+    const int parity = (origin.x() + origin.y()) & 1;
+    uchar* const bits = dots.bits();
+    const qsizetype stride = dots.bytesPerLine();
+    const auto dot = [bits, stride](int x, int y) { reinterpret_cast<QRgb*>(bits + y * stride)[x] = 0xFFFFFFFF; };
     // Each run is held to the image first: a window file may make an outline far larger.
     const int left = std::max(local.left(), 0);
-    const int right = std::min(local.right(), clip.right());
+    const int right = std::min(local.right(), dots.width() - 1);
     const int top = std::max(local.top(), 0);
-    const int bottom = std::min(local.bottom(), clip.bottom());
-    run(left, local.top(), 1, 0, right - left + 1);
-    run(left, local.bottom(), 1, 0, right - left + 1);
-    run(local.left(), top, 0, 1, bottom - top + 1);
-    run(local.right(), top, 0, 1, bottom - top + 1);
+    const int bottom = std::min(local.bottom(), dots.height() - 1);
+    for (const int y : {local.top(), local.bottom()})
+        if (y >= 0 && y < dots.height())
+            for (int x = left + ((left + y + parity) & 1); x <= right; x += 2)
+                dot(x, y);
+    for (const int x : {local.left(), local.right()})
+        if (x >= 0 && x < dots.width())
+            for (int y = top + ((x + top + parity) & 1); y <= bottom; y += 2)
+                dot(x, y);
 }
 
 } // namespace
@@ -238,10 +240,8 @@ void CTamloView::paintEvent(QPaintEvent* event)
     // the copy serves every repaint until the document changes, so that the selection the drag
     // ends with shows at the cost of its handles alone.
     const QRect area = event->rect();
-    std::int64_t exposed = 0; // pixels: the outlines of a large widget expose little of their area
-    for (const QRect& rect : event->region())
-        exposed += std::int64_t(rect.width()) * rect.height();
-    const bool large = exposed > std::int64_t(width()) * height() / kLargeRepaintDivisor;
+    const bool large =
+        std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
     if (m_backdrop.size() != size() * devicePixelRatio())
         m_backdrop = QImage();
     if (!m_feedback.empty() && large && m_backdrop.isNull()) {
