@@ -8,12 +8,15 @@
 
 #include "editor/app/childframe.h"
 #include "editor/app/editorprompts.h"
+#include "editor/app/firstpaintexit.h"
 #include "editor/app/mainframe.h"
 #include "editor/app/tamloview.h"
+#include "editor/model/editcommands.h"
 #include "editor/model/editorsession.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/tamlodoc.h"
+#include "widgets/widgetfilereader.h"
 
 #include <QApplication>
 #include <QDir>
@@ -28,6 +31,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 #include <functional>
 #include <random>
 #include <string>
@@ -86,9 +90,11 @@ constexpr WidgetKind kMix[] = {
 
 // The window of the editor's cases, as large as a window file of a crowded panel.
 constexpr int kEditorWidgetCount = 10000;
+// How many of its widgets are copied and pasted back at once.
+constexpr std::size_t kPastedWidgetCount = 1000;
 constexpr int kOpenRepetitions = 3;
 constexpr int kStartRepetitions = 5;
-// Makes the editor and the bare window end after their first paint (firstpaintexit.h).
+// Makes the editor and the bare window end after their first paint.
 constexpr const char* kExitAfterFirstPaint = "KELVO_EXIT_AFTER_FIRST_PAINT";
 
 // A coordinate far outside any window, and a count as high as a file can hold.
@@ -100,6 +106,13 @@ struct Timing {
     double min = 0;
 };
 
+// The median and the minimum of some times.
+Timing Summarise(std::vector<double> times)
+{
+    std::sort(times.begin(), times.end());
+    return {times[times.size() / 2], times.front()};
+}
+
 // Median and minimum wall time of a few runs after one untimed warm-up, in milliseconds.
 Timing Measure(int repetitions, const std::function<void()>& work)
 {
@@ -110,8 +123,7 @@ Timing Measure(int repetitions, const std::function<void()>& work)
         work();
         times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
     }
-    std::sort(times.begin(), times.end());
-    return {times[times.size() / 2], times.front()};
+    return Summarise(std::move(times));
 }
 
 // A large window with widgetCount widgets of the mix at random places, the same for every run.
@@ -200,25 +212,47 @@ void DragWidget(CTamloView& view, const CHmiWidget& widget, bool back)
     QCoreApplication::processEvents();
 }
 
-// A rectangle in the window's top-left quarter, brought to the top of the drawing order, so
-// that a press on it takes it wherever it stands. The offscreen screen is smaller than the
-// window, and only what lies on it is repainted.
-const CHmiWidget& WidgetToDrag(CTamloDoc& document)
-{
-    const HmiRect corner{0, 0, kWindowWidth / 4, kWindowHeight / 4};
-    CHmiWidget& widget = **std::find_if(document.Widgets().begin(), document.Widgets().end(),
-                                        [&corner](const HmiWidgetPtr& widget) {
-                                            return widget->GetWidgetClassName() == "rectangle" &&
-                                                   widget->Intersects(corner);
-                                        });
-    document.MoveWidget(&widget, document.Widgets().size());
-    return widget;
-}
-
 void PrintRow(int widgetCount, const char* label, const Timing& timing, const Timing& baseline)
 {
     std::printf("%7d  %-26s %9.2f %9.2f %9.1fx\n", widgetCount, label, timing.median, timing.min,
                 timing.median / baseline.median);
+}
+
+// A widget of the class in the window's top-left quarter, brought to the top of the drawing
+// order, so that a press on it takes it wherever it stands; null when there is none. The
+// offscreen screen is smaller than the window, and only what lies on it is repainted.
+const CHmiWidget* WidgetToDrag(CTamloDoc& document, std::string_view classKey)
+{
+    const HmiRect corner{0, 0, kWindowWidth / 4, kWindowHeight / 4};
+    const auto found = std::find_if(document.Widgets().begin(), document.Widgets().end(),
+                                    [&corner, classKey](const HmiWidgetPtr& widget) {
+                                        return widget->GetWidgetClassName() == classKey &&
+                                               widget->Intersects(corner);
+                                    });
+    if (found == document.Widgets().end())
+        return nullptr;
+    CHmiWidget* widget = found->get();
+    document.MoveWidget(widget, document.Widgets().size());
+    return widget;
+}
+
+// Drags of one widget of the class there and back, with the repaints they cause.
+void MeasureWidgetDrags(CTamloDoc& document, CTamloView& view, std::string_view classKey, const char* label,
+                        const Timing& baseline)
+{
+    const CHmiWidget* dragged = WidgetToDrag(document, classKey);
+    if (!dragged)
+        return;
+    PaintCounter paints;
+    view.installEventFilter(&paints);
+    int drags = 0;
+    const Timing drag = Measure(kBandRepetitions, [&] { DragWidget(view, *dragged, drags++ % 2 == 1); });
+    view.removeEventFilter(&paints);
+    PrintRow(int(document.Widgets().size()) - 1, label, drag, baseline);
+    const qint64 canvasPixels = qint64(view.width()) * view.height();
+    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area; %.3f ms per mouse event)\n",
+                "", paints.count / drags, double(paints.pixels) / drags / double(canvasPixels),
+                drag.median / (kBandMoves + 2));
 }
 
 // One widget of each kind of the mix over the whole drawing range and far beyond, with every
@@ -294,14 +328,6 @@ void MeasureCanvas(int widgetCount)
     const std::size_t banded = view.Selection().Widgets().size();
     const int bandPaints = paints.count / drags;
 
-    // The band left most widgets selected, and a press on a selected widget drags them all.
-    view.Selection().Select(nullptr, false);
-    QCoreApplication::processEvents();
-    paints.count = 0;
-    paints.pixels = 0;
-    drags = 0;
-    const CHmiWidget& dragged = WidgetToDrag(document);
-    const Timing widgetDrag = Measure(kBandRepetitions, [&] { DragWidget(view, dragged, drags++ % 2 == 1); });
     view.removeEventFilter(&paints);
 
     PrintRow(widgetCount, "plain rectangles", baseline, baseline);
@@ -309,11 +335,11 @@ void MeasureCanvas(int widgetCount)
     PrintRow(widgetCount, "rubber band with repaints", band, baseline);
     std::printf("%7s  (the band selects %zu of %d widgets; %d repaints per drag)\n", "", banded, widgetCount,
                 bandPaints);
-    PrintRow(widgetCount, "one widget dragged", widgetDrag, baseline);
-    const qint64 canvasPixels = qint64(view.width()) * view.height();
-    std::printf("%7s  (%d repaints per drag, together %.2f times the canvas's area; %.3f ms per mouse event)\n",
-                "", paints.count / drags, double(paints.pixels) / drags / double(canvasPixels),
-                widgetDrag.median / (kBandMoves + 2));
+    // The band left most widgets selected, and a press on a selected widget drags them all.
+    view.Selection().Select(nullptr, false);
+    QCoreApplication::processEvents();
+    MeasureWidgetDrags(document, view, "rectangle", "one widget dragged", baseline);
+    MeasureWidgetDrags(document, view, "curve", "one large curve dragged", baseline);
 }
 
 
@@ -336,6 +362,24 @@ void Drag(CTamloView& view, QPoint from, QPoint to, int moves)
     }
     SendMouse(view, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     QCoreApplication::processEvents();
+}
+
+// A paste of many widgets into the crowded window, each of them renamed since their names are
+// taken, against reading the pasted text alone. Each paste is taken back before the next.
+void MeasurePaste(CTamloDoc& document)
+{
+    std::vector<CHmiWidget*> copied;
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        if (widget.get() != document.GetWindowWidget() && copied.size() < kPastedWidgetCount)
+            copied.push_back(widget.get());
+    const std::string text = CopyWidgets(copied);
+    const Timing read = Measure(kBandRepetitions, [&text] { ReadWindowText(text, [](HmiWidgetPtr) {}); });
+    const Timing paste = Measure(kBandRepetitions, [&] {
+        PasteWidgets(document, text);
+        document.Undo();
+    });
+    PrintRow(int(copied.size()), "read of the pasted text", read, read);
+    PrintRow(int(copied.size()), "paste with undo", paste, read);
 }
 
 // A band over the whole window, which selects every widget, and a drag of them all by one
@@ -367,14 +411,13 @@ void MeasureBulkEdits(int widgetCount)
         const QPoint step = i % 2 == 0 ? QPoint(1, 1) : QPoint(-1, -1);
         drags.push_back(TimeOnce([&] { Drag(view, from, from + step, 1); }));
     }
-    std::sort(bands.begin(), bands.end());
-    std::sort(drags.begin(), drags.end());
-    const Timing band{bands[bands.size() / 2], bands.front()};
-    const Timing drag{drags[drags.size() / 2], drags.front()};
+    const Timing band = Summarise(bands);
+    const Timing drag = Summarise(drags);
     PrintRow(widgetCount, "full canvas repaint", repaint, repaint);
     PrintRow(widgetCount, "band over all, repaints", band, repaint);
     std::printf("%7s  (the band selects %zu of %d widgets)\n", "", banded, widgetCount);
     PrintRow(widgetCount, "drag of all by one step", drag, repaint);
+    MeasurePaste(document);
 }
 
 // Opening a window file in the editor's main frame until its canvas has painted, against
@@ -415,17 +458,40 @@ void MeasureOpening(int widgetCount)
     PrintRow(widgetCount, "opened in the editor", open, load);
 }
 
-// Wall time of a program from its start until it ends after its first paint.
-Timing MeasureStart(const QString& program, const QStringList& arguments)
+// Wall time of a program from its start to its first paint, which it tells on its standard
+// output (firstpaintexit.h), and until it has ended after that paint.
+struct StartTimings {
+    Timing firstPaint;
+    Timing end;
+};
+
+StartTimings MeasureStart(const QString& program)
 {
-    return Measure(kStartRepetitions, [&] {
+    std::vector<double> paints;
+    std::vector<double> ends;
+    for (int run = 0; run <= kStartRepetitions; ++run) {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QString::fromLatin1(kExitAfterFirstPaint), QStringLiteral("1"));
         process.setProcessEnvironment(environment);
-        process.start(program, arguments);
+        const auto start = std::chrono::steady_clock::now();
+        process.start(program, {});
         process.waitForFinished(-1);
-    });
+        const auto end = std::chrono::steady_clock::now();
+        const QByteArray output = process.readAllStandardOutput();
+        const qsizetype line = output.indexOf(CFirstPaintExit::kFirstPaintLine);
+        if (line < 0) {
+            std::printf("%s did not tell its first paint\n", qPrintable(program));
+            return {};
+        }
+        const std::chrono::nanoseconds painted(
+            output.mid(line + qsizetype(std::strlen(CFirstPaintExit::kFirstPaintLine))).trimmed().split('\n').front().toLongLong());
+        if (run == 0)
+            continue; // the warm-up
+        paints.push_back(std::chrono::duration<double, std::milli>(painted - start.time_since_epoch()).count());
+        ends.push_back(std::chrono::duration<double, std::milli>(end - start).count());
+    }
+    return {Summarise(paints), Summarise(ends)};
 }
 
 // The editor's start with the demo window to its first paint, against a bare main window. Both
@@ -439,10 +505,12 @@ void MeasureStartUp()
     qputenv("XDG_STATE_HOME", home.path().toLocal8Bit());
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     QDir::setCurrent(home.path());
-    const Timing bare = MeasureStart(programs + QStringLiteral("bare-window"), {});
-    const Timing editor = MeasureStart(programs + QStringLiteral("kelvo-hmi-editor"), {});
-    PrintRow(0, "start: bare main window", bare, bare);
-    PrintRow(0, "start: editor", editor, bare);
+    const StartTimings bare = MeasureStart(programs + QStringLiteral("bare-window"));
+    const StartTimings editor = MeasureStart(programs + QStringLiteral("kelvo-hmi-editor"));
+    PrintRow(0, "start: bare, first paint", bare.firstPaint, bare.firstPaint);
+    PrintRow(0, "start: editor, first paint", editor.firstPaint, bare.firstPaint);
+    PrintRow(0, "start: bare, to its end", bare.end, bare.end);
+    PrintRow(0, "start: editor, to its end", editor.end, bare.end);
 }
 
 } // namespace

@@ -250,18 +250,18 @@ void CHmiWidget::DrawTracker(CHmiDC& dc, TrackerState state) const
     constexpr HmiColor white = 0x00FFFFFF;
     constexpr HmiColor black = 0x00000000;
     const bool active = state == TrackerState::active;
-    const HmiPen oldPen = dc.SelectPen({HmiPenStyle::Solid, 1, active ? white : black});
-    const HmiBrush oldBrush = dc.SelectBrush({false, active ? black : white});
+    // Each handle is a square with a one-pixel frame, filled twice: a selection of thousands of
+    // widgets has tens of thousands of them.
     for (int handle = 1; handle <= GetHandleCount(); ++handle) {
         HmiPoint p = GetHandle(handle);
         if (m_pView)
             p = m_pView->DocToClient(p);
         p = p.ForDrawing();
-        dc.Rectangle({p.x - kHandleHalfSize, p.y - kHandleHalfSize, p.x + kHandleHalfSize + 1,
-                      p.y + kHandleHalfSize + 1});
+        const HmiRect square{p.x - kHandleHalfSize, p.y - kHandleHalfSize, p.x + kHandleHalfSize + 1,
+                             p.y + kHandleHalfSize + 1};
+        dc.FillSolidRect(square, active ? white : black);
+        dc.FillSolidRect(square.Inflated(-1, -1), active ? black : white);
     }
-    dc.SelectBrush(oldBrush);
-    dc.SelectPen(oldPen);
 }
 
 // ---------------------------------------------------------------------------------------------

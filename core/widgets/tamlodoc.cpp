@@ -49,6 +49,10 @@ void CTamloDoc::RemoveObserver(CDocumentObserver* observer)
 
 void CTamloDoc::Record(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore)
 {
+    if (HasAny(what, DocChange::Added | DocChange::Removed | DocChange::Order))
+        m_grid.Invalidate(); // deleted or brought back, or moved in the order
+    else if (HasAny(what, DocChange::Geometry))
+        m_grid.Moved(widget);
     // A reloaded document has no widget changes to tell: every widget is new.
     if (!m_change.Has(DocChange::Reloaded)) {
         m_change.what |= what;
@@ -132,7 +136,7 @@ void CTamloDoc::TakeOut(std::deque<HmiWidgetPtr>::iterator widget)
 {
     m_removedWidgets.push_back(std::move(*widget));
     m_widgets.erase(widget);
-    ForgetWindowWidget();
+    ListChanged();
 }
 
 void CTamloDoc::AddWindowWidget(bool atTail)
@@ -150,7 +154,7 @@ void CTamloDoc::OnNewDocument()
     m_bModified = false;
 }
 
-bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
+bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, CWidgetNames* names)
 {
     if (!widget || !widget->Init())
         return false;
@@ -160,16 +164,18 @@ bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail)
         m_widgets.push_back(std::move(widget));
     else
         m_widgets.push_front(std::move(widget));
-    ForgetWindowWidget();
+    ListChanged();
     added.m_pDocument = this;
     if (added.GetWidgetName().empty()) {
         const std::string classKey = added.GetWidgetClassName();
         std::string name;
         do
             name = classKey + std::to_string(WidgetNameCounter()++);
-        while (HasWidgetName(name));
+        while (names ? names->Contains(name) : HasWidgetName(name));
         added.SetWidgetName(std::move(name));
     }
+    if (names)
+        names->Add(added.GetWidgetName());
     Record(added, DocChange::Added);
     SetModifiedFlag();
     return true;
@@ -266,16 +272,6 @@ void CTamloDoc::Undo()
     SetModifiedFlag();
 }
 
-CHmiWidget* CTamloDoc::DocumentHitTest(HmiPoint point) const
-{
-    const CHmiWidget* window = GetWindowWidget();
-    for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget) {
-        if (widget->get() != window && !IsWidgetDeleted(widget->get()) && (*widget)->Intersects(point))
-            return widget->get();
-    }
-    return nullptr;
-}
-
 CHmiWidget* CTamloDoc::FindWindowWidget() const
 {
     CHmiWidget* window = GetWindowWidget();
@@ -292,7 +288,7 @@ bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
     HmiWidgetPtr moved = std::move(*found);
     m_widgets.erase(found);
     m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
-    ForgetWindowWidget();
+    ListChanged();
     Record(*widget, DocChange::Order);
     SetModifiedFlag();
     return true;
@@ -392,6 +388,12 @@ void CTamloDoc::AddView(CHmiView* view)
 void CTamloDoc::RemoveView(CHmiView* view)
 {
     std::erase(m_views, view);
+}
+
+CWidgetNames::CWidgetNames(const CTamloDoc& document)
+{
+    for (const HmiWidgetPtr& widget : document.Widgets())
+        m_names.insert(widget->GetWidgetName());
 }
 
 CUndoStepGuard::CUndoStepGuard(CTamloDoc& document) : m_document(document)

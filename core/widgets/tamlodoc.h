@@ -5,6 +5,7 @@
 #include "hmiwidget.h"
 #include "project/fileio.h"
 #include "undostep.h"
+#include "widgetgrid.h"
 #include "windowfilecheck.h"
 
 #include <cstdint>
@@ -16,13 +17,26 @@
 #include <vector>
 
 class CHmiView;
+class CTamloDoc;
+
+// The names a document's widgets have at one moment, so that naming many new widgets at once,
+// as a paste does, asks a set instead of every widget.
+class CWidgetNames {
+public:
+    explicit CWidgetNames(const CTamloDoc& document);
+    bool Contains(const std::string& name) const { return m_names.contains(name); }
+    void Add(const std::string& name) { m_names.insert(name); }
+
+private:
+    std::unordered_set<std::string> m_names;
+};
 
 // The document of one HMI window: it owns the window's widgets in drawing order (head first,
 // tail on top), names new widgets, and loads and saves the window file. It tells its observers
 // of every change (documentchange.h), so that each view refreshes only what changed.
 class CTamloDoc {
 public:
-    CTamloDoc() = default;
+    CTamloDoc() : m_grid(*this) {}
     CTamloDoc(const CTamloDoc&) = delete;
     CTamloDoc& operator=(const CTamloDoc&) = delete;
     // Tells the observers that are left that the document goes.
@@ -33,8 +47,9 @@ public:
 
     // Initialises the widget and adds it at the tail (else the head). A widget without a name
     // gets its class key and the next free value of the process-wide name counter. Returns
-    // false, destroying the widget, when it fails to initialise.
-    bool AddWidget(HmiWidgetPtr widget, bool atTail);
+    // false, destroying the widget, when it fails to initialise. Given the names of the
+    // document's widgets, it looks names up there and adds the widget's own.
+    bool AddWidget(HmiWidgetPtr widget, bool atTail, CWidgetNames* names = nullptr);
     // Takes the widget out of the list and destroys it once the observers have heard of it.
     void RemoveWidget(CHmiWidget* widget);
     // Takes the widget out of the list and puts it back at an index of the shortened list (the
@@ -106,7 +121,10 @@ public:
 
     // The topmost widget under a point, skipping deleted ones and the window widget, which is
     // the background of the canvas.
-    CHmiWidget* DocumentHitTest(HmiPoint point) const;
+    CHmiWidget* DocumentHitTest(HmiPoint point) const { return m_grid.TopmostAt(point); }
+    // The widgets whose Intersects holds for the rectangle (for a band: that lie in it), in
+    // drawing order, skipping deleted ones and the window widget.
+    std::vector<CHmiWidget*> WidgetsWithin(const HmiRect& rect) const { return m_grid.Within(rect); }
     // The window widget unless it is deleted.
     CHmiWidget* FindWindowWidget() const;
 
@@ -133,8 +151,13 @@ private:
     void ResetChange(DocChange what);
     // Empties the undo step, forgetting which widgets it deleted.
     void ClearUndoStep();
-    // The list changed its members or their order: the window widget is looked for anew.
-    void ForgetWindowWidget() { m_windowKnown = false; }
+    // The list changed its members or their order: the window widget is looked for anew, and
+    // the grid sorts the widgets anew.
+    void ListChanged()
+    {
+        m_windowKnown = false;
+        m_grid.Invalidate();
+    }
 
     std::deque<HmiWidgetPtr> m_widgets;
     std::vector<CHmiView*> m_views;
@@ -152,6 +175,7 @@ private:
     std::unordered_set<const CHmiWidget*> m_deletedWidgets;           // deleted in the undo step
     mutable CHmiWidget* m_windowWidget = nullptr; // GetWindowWidget's answer while m_windowKnown
     mutable bool m_windowKnown = false;
+    mutable CWidgetGrid m_grid; // where the widgets that can be hit stand
     std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed once told
     mutable std::size_t m_nLastTextSize = 0;    // of the window file last read or written
 };

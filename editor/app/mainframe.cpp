@@ -608,16 +608,40 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
     if (child == m_shownChild)
         return;
     m_shownChild = child;
-    m_nameCombo->ShowDocument(child ? &child->Document() : nullptr);
-    m_propertyPane->Clear();
-    if (child)
-        ShowSelection(child->View());
+    ShowChildInPanes();
     m_formatActions->SyncWithActiveView();
     UpdateEditActions();
 }
 
+void CMainFrame::ShowChildInPanes()
+{
+    if (!m_painted)
+        return;
+    m_nameCombo->ShowDocument(m_shownChild ? &m_shownChild->Document() : nullptr);
+    m_propertyPane->Clear();
+    if (m_shownChild)
+        ShowSelection(m_shownChild->View());
+}
+
+bool CMainFrame::event(QEvent* event)
+{
+    if (event->type() == QEvent::Paint && !m_painted)
+        QTimer::singleShot(0, this, &CMainFrame::FinishAfterFirstPaint);
+    return QMainWindow::event(event);
+}
+
+void CMainFrame::FinishAfterFirstPaint()
+{
+    if (m_painted)
+        return;
+    m_painted = true;
+    ShowChildInPanes();
+}
+
 void CMainFrame::ShowSelection(CTamloView& view)
 {
+    if (!m_painted)
+        return; // FinishAfterFirstPaint shows it
     const std::vector<CHmiWidget*>& selected = view.Selection().Widgets();
     if (selected.empty()) {
         m_propertyPane->Clear();

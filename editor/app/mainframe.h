@@ -92,6 +92,8 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Notices the first paint, after which the waiting panes are filled in.
+    bool event(QEvent* event) override;
 
 private:
     void CreateActions();
@@ -118,8 +120,13 @@ private:
     std::vector<OpenWindow> OpenWindows() const;
 
     void ChildActivated(QMdiSubWindow* window);
+    // Shows the shown child's widgets in the name list and its selection in the property pane.
+    void ShowChildInPanes();
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
+    // The panes' contents wait until the frame has painted once, so that the first window
+    // shows sooner; then they show the child.
+    void FinishAfterFirstPaint();
     // Enables the commands that have something to act on; the panes and the canvas follow the
     // documents' changes themselves.
     void UpdateEditActions();
@@ -160,6 +167,7 @@ private:
     CSearchResults* m_searchResults = nullptr;
     CFormatActions* m_formatActions = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
+    bool m_painted = false;              // the frame has painted once: the panes show the child
     QMenu* m_canvasMenu = nullptr;
     QMenu* m_windowMenu = nullptr;
     std::vector<ScriptFunction> m_scriptFunctions;

@@ -30,6 +30,10 @@ constexpr int kLargeRepaintDivisor = 16;
 // A change of more widgets than this repaints the whole canvas: so many separate areas would
 // cost more to gather than to paint.
 constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
+// A drag that shows more outlines than this repaints the area around all of them at once.
+constexpr std::size_t kOutlinesRepaintedOneByOne = 16;
+// An outline at least this wide and high repaints only its edges.
+constexpr int kLeastOutlineRepaintedByEdges = 100;
 
 QRect ToQRect(const HmiRect& rect)
 {
@@ -80,6 +84,30 @@ std::optional<NudgeKey> ToNudgeKey(int key)
     default:
         return std::nullopt;
     }
+}
+
+// Sets the dots of an outline, given in canvas coordinates, in an image of white dots that
+// covers the canvas from origin on: every other pixel, on a checkerboard fixed to the canvas.
+void SetOutlineDots(QImage& dots, const QRect& outline, QPoint origin)
+{
+    const QRect local = outline.translated(-origin);
+    const int parity = (origin.x() + origin.y()) & 1;
+    uchar* const bits = dots.bits();
+    const qsizetype stride = dots.bytesPerLine();
+    const auto dot = [bits, stride](int x, int y) { reinterpret_cast<QRgb*>(bits + y * stride)[x] = 0xFFFFFFFF; };
+    // Each run is held to the image first: a window file may make an outline far larger.
+    const int left = std::max(local.left(), 0);
+    const int right = std::min(local.right(), dots.width() - 1);
+    const int top = std::max(local.top(), 0);
+    const int bottom = std::min(local.bottom(), dots.height() - 1);
+    for (const int y : {local.top(), local.bottom()})
+        if (y >= 0 && y < dots.height())
+            for (int x = left + ((left + y + parity) & 1); x <= right; x += 2)
+                dot(x, y);
+    for (const int x : {local.left(), local.right()})
+        if (x >= 0 && x < dots.width())
+            for (int y = top + ((x + top + parity) & 1); y <= bottom; y += 2)
+                dot(x, y);
 }
 
 } // namespace
@@ -169,9 +197,30 @@ void CTamloView::SetCanvasCursor(CanvasCursor cursor)
 
 void CTamloView::ShowDragFeedback(std::vector<HmiRect> clientRects)
 {
-    update(FeedbackArea());
+    InvalidateFeedback();
     m_feedback = std::move(clientRects);
-    update(FeedbackArea());
+    InvalidateFeedback();
+}
+
+void CTamloView::InvalidateFeedback()
+{
+    if (m_feedback.size() > kOutlinesRepaintedOneByOne)
+        return update(FeedbackArea());
+    // Only the outlines change: a large widget dragged over many repaints none of them inside.
+    // A small one is repainted whole, which is one area instead of four.
+    for (const HmiRect& rect : m_feedback) {
+        const QRect outline = ToQRect(rect);
+        const int width = outline.width() + 2;
+        const int height = outline.height() + 2;
+        if (std::min(width, height) < kLeastOutlineRepaintedByEdges) {
+            update(outline.adjusted(-1, -1, 1, 1));
+            continue;
+        }
+        update(outline.left() - 1, outline.top() - 1, width, 3);
+        update(outline.left() - 1, outline.bottom() - 1, width, 3);
+        update(outline.left() - 1, outline.top() - 1, 3, height);
+        update(outline.right() - 1, outline.top() - 1, 3, height);
+    }
 }
 
 QRect CTamloView::FeedbackArea() const
@@ -209,7 +258,7 @@ void CTamloView::paintEvent(QPaintEvent* event)
         painter.drawImage(area, m_backdrop, area);
     DrawTrackers(painter);
     painter.restore();
-    DrawDragFeedback(painter);
+    DrawDragFeedback(painter, area);
 }
 
 void CTamloView::ClipTo(QPainter& painter, const QRegion& region)
@@ -257,20 +306,24 @@ void CTamloView::DrawTrackers(QPainter& painter) const
     }
 }
 
-void CTamloView::DrawDragFeedback(QPainter& painter) const
+void CTamloView::DrawDragFeedback(QPainter& painter, const QRect& exposed) const
 {
-    if (m_feedback.empty())
+    // Focus rectangles: dotted outlines that show on any background. The dots are set in an
+    // image of their own and inverted onto the canvas at once, which outlines thousands of
+    // widgets far faster than a dotted pen strokes them.
+    const QRect area = FeedbackArea() & exposed;
+    if (area.isEmpty())
         return;
-    // Focus rectangles: a dotted outline that shows on any background.
-    painter.save();
-    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
-    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
+    QImage dots(area.size(), QImage::Format_ARGB32_Premultiplied);
+    dots.fill(Qt::transparent);
     for (const HmiRect& rect : m_feedback) {
         const HmiRect r = rect.Normalized();
         if (r.Width() > 0 && r.Height() > 0)
-            painter.drawRect(ToQRect(r));
+            SetOutlineDots(dots, ToQRect(r), area.topLeft());
     }
+    painter.save();
+    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    painter.drawImage(area.topLeft(), dots);
     painter.restore();
 }
 

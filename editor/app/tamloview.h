@@ -75,8 +75,11 @@ private:
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
-    void DrawDragFeedback(QPainter& painter) const;
+    // The drag's focus rectangles that meet the exposed area.
+    void DrawDragFeedback(QPainter& painter, const QRect& exposed) const;
     QRect FeedbackArea() const;
+    // Repaints where the drag's focus rectangles are.
+    void InvalidateFeedback();
 
     CTamloDoc& m_document;
     CCanvasTools& m_tools;

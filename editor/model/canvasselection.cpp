@@ -97,19 +97,14 @@ void CCanvasSelection::SelectWidgets(const std::vector<CHmiWidget*>& widgets, bo
         m_onChanged();
 }
 
-std::vector<CHmiWidget*> CCanvasSelection::Selectable(const std::function<bool(const CHmiWidget&)>& wanted) const
+void CCanvasSelection::SelectAll()
 {
     const CHmiWidget* window = m_document.FindWindowWidget();
     std::vector<CHmiWidget*> widgets;
     for (const HmiWidgetPtr& widget : m_document.Widgets())
-        if (widget.get() != window && !m_document.IsWidgetDeleted(widget.get()) && wanted(*widget))
+        if (widget.get() != window && !m_document.IsWidgetDeleted(widget.get()))
             widgets.push_back(widget.get());
-    return widgets;
-}
-
-void CCanvasSelection::SelectAll()
-{
-    SelectWidgets(Selectable([](const CHmiWidget&) { return true; }), false);
+    SelectWidgets(widgets, false);
 }
 
 void CCanvasSelection::Deselect(CHmiWidget* widget)
@@ -133,7 +128,7 @@ void CCanvasSelection::SelectInRect(const HmiRect& clientRect, bool add)
     const HmiPoint bottomRight = m_view.ClientToDoc({clientRect.right, clientRect.bottom});
     const HmiRect band = HmiRect{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y}.Normalized();
     // The window widget is the background: a band around everything selects what stands on it.
-    SelectWidgets(Selectable([&band](const CHmiWidget& widget) { return widget.Intersects(band); }), add);
+    SelectWidgets(m_document.WidgetsWithin(band), add);
 }
 
 void CCanvasSelection::DocumentChanged(const CDocumentChange& change)

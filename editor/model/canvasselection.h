@@ -52,8 +52,6 @@ private:
     void Append(CHmiWidget* widget);
     void Clear();
     bool Remove(CHmiWidget* widget);
-    // The widgets of the document that are neither deleted nor the window widget, in drawing order.
-    std::vector<CHmiWidget*> Selectable(const std::function<bool(const CHmiWidget&)>& wanted) const;
 
     CTamloDoc& m_document;
     CHmiView& m_view;

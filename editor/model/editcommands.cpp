@@ -61,15 +61,16 @@ std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& te
     if (read.empty())
         return pasted;
     CUndoStepGuard step(document);
+    CWidgetNames names(document);
     for (HmiWidgetPtr& widget : read) {
         const HmiRect& r = widget->GetWidgetRect();
         widget->SetWidgetRect({r.left + kPasteOffset, r.top + kPasteOffset, r.right + kPasteOffset,
                                r.bottom + kPasteOffset});
-        if (document.HasWidgetName(widget->GetWidgetName()))
+        if (names.Contains(widget->GetWidgetName()))
             widget->SetWidgetName({});
         widget->m_pView = document.Views().empty() ? nullptr : document.Views().front();
         CHmiWidget* added = widget.get();
-        if (document.AddWidget(std::move(widget), true)) {
+        if (document.AddWidget(std::move(widget), true, &names)) {
             step.Record(UndoOperation::Added, added);
             pasted.push_back(added);
         }

@@ -143,20 +143,19 @@ TEST(HmiWidget, TrackerDrawsEightHandlesInClientCoordinates)
     CHmiWidget widget(HmiRect{10, 10, 50, 50});
     widget.m_pView = &view;
     RecordingDC dc;
-    dc.pen = {HmiPenStyle::Dot, 3, 0x123456};
 
     widget.DrawTracker(dc, TrackerState::normal);
     EXPECT_TRUE(dc.shapes.empty());
 
+    // Each handle: a black frame filled white.
     widget.DrawTracker(dc, TrackerState::selected);
-    ASSERT_EQ(dc.shapes.size(), 8u);
-    EXPECT_EQ(std::tuple(dc.shapes[0].rect, dc.shapes[4].rect, dc.shapes[0].pen, dc.shapes[0].brush),
-              std::tuple(HmiRect{2, 2, 9, 9}, HmiRect{42, 42, 49, 49}, HmiPen{}, HmiBrush{false, 0x00FFFFFF}));
-    EXPECT_EQ(dc.pen, (HmiPen{HmiPenStyle::Dot, 3, 0x123456})) << "the previous pen is selected back";
+    ASSERT_EQ(dc.shapes.size(), 16u);
+    EXPECT_EQ(std::tuple(dc.shapes[0].rect, dc.shapes[0].color, dc.shapes[1].rect, dc.shapes[1].color, dc.shapes[8].rect),
+              std::tuple(HmiRect{2, 2, 9, 9}, 0u, HmiRect{3, 3, 8, 8}, 0xFFFFFFu, HmiRect{42, 42, 49, 49}));
 
     // The active tracker draws in inverted colours.
     widget.DrawTracker(dc, TrackerState::active);
-    EXPECT_EQ(std::tuple(dc.shapes.back().pen.color, dc.shapes.back().brush.color), std::tuple(0xFFFFFFu, 0u));
+    EXPECT_EQ(std::tuple(dc.shapes[16].color, dc.shapes.back().color), std::tuple(0xFFFFFFu, 0u));
 }
 
 namespace {

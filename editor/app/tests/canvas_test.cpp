@@ -391,6 +391,32 @@ private slots:
         }
     }
 
+    // While widgets are dragged, every other pixel of where they would go is inverted, on a
+    // checkerboard fixed to the canvas, and nothing else changes, also for a widget far larger.
+    void dragOutlinesInvertEveryOtherPixel()
+    {
+        CHmiWidget* a = AddRect(*document, {20, 20, 60, 60});
+        CHmiWidget* tall = AddRect(*document, {100, -1000000000, 140, 1000000000});
+        view->Selection().SelectWidgets({a, tall}, false);
+        QTest::mousePress(view, Qt::LeftButton, {}, QPoint(30, 30));
+        const QImage before = view->grab().toImage();
+        QTest::mouseMove(view, QPoint(45, 37));
+        const QImage during = view->grab().toImage();
+        const QRect part(36, 27, 100, 50); // a repaint of part of the canvas keeps the checkerboard
+        QCOMPARE(view->grab(part).toImage(), during.copy(part));
+        QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(45, 37));
+        const QRect outlines[] = {{35, 27, 40, 40}, {115, -1000, 40, 100000}};
+        for (int y = 0; y < before.height(); ++y)
+            for (int x = 0; x < before.width(); ++x) {
+                const bool onOutline = std::any_of(std::begin(outlines), std::end(outlines), [x, y](const QRect& r) {
+                    return r.contains(x, y) && !r.adjusted(1, 1, -1, -1).contains(x, y);
+                });
+                const QRgb inverted = (onOutline && (x + y) % 2 == 0) ? 0xFFFFFF : 0;
+                if (((before.pixel(x, y) ^ during.pixel(x, y)) & 0xFFFFFF) != inverted)
+                    QFAIL(qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+            }
+    }
+
     // Window files with huge coordinates and counts: the canvas holds to the largest window
     // drawn whole, and draws every widget, selected with its handles, in bounded work.
     void hostileWindowsGetABoundedCanvas_data()

@@ -31,15 +31,27 @@ TEST_F(EditCommandsTest, DeletedWidgetsStayUntilTheUndoStepIsReplaced)
 TEST_F(EditCommandsTest, PasteLeavesTheWindowOutAndRenamesTakenNames)
 {
     CHmiWidget* a = AddRect({10, 10, 50, 50});
+    CHmiWidget* b = AddRect({60, 10, 90, 50});
+    CHmiWidget* c = AddRect({60, 60, 90, 90});
+    CHmiWidget* d = AddRect({10, 60, 50, 90});
     a->SetWidgetName("pump");
-    const std::string text = CopyWidgets({a, Window()});
+    b->SetWidgetName("valve");
+    c->SetWidgetName("rectangle901");
+    d->SetWidgetName("valve");
+    const std::string text = CopyWidgets({a, Window(), b, d});
     EXPECT_EQ(text.find("class=\"window\""), std::string::npos);
+    document.RemoveWidget(b);
+    document.RemoveWidget(d);
 
+    // A taken name gets the next counter value that is free, also among the widgets pasted before.
+    CTamloDoc::WidgetNameCounter() = 900;
     const std::vector<CHmiWidget*> pasted = PasteWidgets(document, text);
-    ASSERT_EQ(pasted.size(), 1u);
-    EXPECT_EQ(pasted[0]->GetWidgetName().rfind("rectangle", 0), 0u) << "pump is taken";
-    EXPECT_EQ(document.Widgets().back().get(), pasted[0]);
-    ASSERT_EQ(document.UndoStep().size(), 1u);
+    std::vector<std::string> names;
+    for (const CHmiWidget* widget : pasted)
+        names.push_back(widget->GetWidgetName());
+    EXPECT_EQ(names, (std::vector<std::string>{"rectangle900", "valve", "rectangle902"}));
+    EXPECT_EQ(document.Widgets().back().get(), pasted.back());
+    ASSERT_EQ(document.UndoStep().size(), 3u);
     EXPECT_EQ(document.UndoStep()[0].operation, UndoOperation::Added);
 }
 
