@@ -640,8 +640,6 @@ void CMainFrame::FinishAfterFirstPaint()
 
 void CMainFrame::ShowSelection(CTamloView& view)
 {
-    if (!m_painted)
-        return; // FinishAfterFirstPaint shows it
     const std::vector<CHmiWidget*>& selected = view.Selection().Widgets();
     if (selected.empty()) {
         m_propertyPane->Clear();

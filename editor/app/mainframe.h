@@ -120,7 +120,8 @@ private:
     std::vector<OpenWindow> OpenWindows() const;
 
     void ChildActivated(QMdiSubWindow* window);
-    // Shows the shown child's widgets in the name list and its selection in the property pane.
+    // Shows the shown child's widgets in the name list and its selection in the property pane,
+    // once the frame has painted (see FinishAfterFirstPaint).
     void ShowChildInPanes();
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
