@@ -178,20 +178,24 @@ void SendMouse(QWidget& target, QEvent::Type type, QPoint point, Qt::MouseButton
     QCoreApplication::sendEvent(&target, &event);
 }
 
-// One drag of the selection tool from the empty margin up to near the window's top-left corner,
-// letting the event loop repaint after every event as it does between real mouse events.
-void DragRubberBand(CTamloView& view)
+// A drag of the selection tool between two points, letting the event loop repaint after every event.
+void Drag(CTamloView& view, QPoint from, QPoint to, int moves)
 {
-    const QPoint from(view.width() - kPressInset, view.height() - kPressInset);
-    const QPoint to(kWindowWidth / kBandEndDivisor, kWindowHeight / kBandEndDivisor);
     SendMouse(view, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
     QCoreApplication::processEvents();
-    for (int step = 1; step <= kBandMoves; ++step) {
-        SendMouse(view, QEvent::MouseMove, from + (to - from) * step / kBandMoves, Qt::NoButton, Qt::LeftButton);
+    for (int step = 1; step <= moves; ++step) {
+        SendMouse(view, QEvent::MouseMove, from + (to - from) * step / moves, Qt::NoButton, Qt::LeftButton);
         QCoreApplication::processEvents();
     }
     SendMouse(view, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     QCoreApplication::processEvents();
+}
+
+// One drag of the selection tool from the empty margin up to near the window's top-left corner.
+void DragRubberBand(CTamloView& view)
+{
+    Drag(view, QPoint(view.width() - kPressInset, view.height() - kPressInset),
+         QPoint(kWindowWidth / kBandEndDivisor, kWindowHeight / kBandEndDivisor), kBandMoves);
 }
 
 // One drag of a widget by its middle, letting the event loop repaint after every event. Drags
@@ -349,19 +353,6 @@ double TimeOnce(const std::function<void()>& work)
     const auto start = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
-
-// A drag of the selection tool between two points, letting the event loop repaint after every event.
-void Drag(CTamloView& view, QPoint from, QPoint to, int moves)
-{
-    SendMouse(view, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
-    QCoreApplication::processEvents();
-    for (int step = 1; step <= moves; ++step) {
-        SendMouse(view, QEvent::MouseMove, from + (to - from) * step / moves, Qt::NoButton, Qt::LeftButton);
-        QCoreApplication::processEvents();
-    }
-    SendMouse(view, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
-    QCoreApplication::processEvents();
 }
 
 // A paste of many widgets into the crowded window, each of them renamed since their names are

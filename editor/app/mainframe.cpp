@@ -636,6 +636,7 @@ void CMainFrame::FinishAfterFirstPaint()
         return;
     m_painted = true;
     ShowChildInPanes();
+    m_explorer->Refresh();
 }
 
 void CMainFrame::ShowSelection(CTamloView& view)

@@ -126,7 +126,7 @@ private:
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
     // The panes' contents wait until the frame has painted once, so that the first window
-    // shows sooner; then they show the child.
+    // shows sooner; then they show the child and the project.
     void FinishAfterFirstPaint();
     // Enables the commands that have something to act on; the panes and the canvas follow the
     // documents' changes themselves.

@@ -83,8 +83,8 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 
+    // The explorer reads the project once the main frame has painted.
     const QString documentPath = ApplyProjectArgument(fileArgument);
-    m_mainFrame->FollowProjectPath();
     const std::string programFolder = ToModelPath(QCoreApplication::applicationDirPath());
     m_mainFrame->SetScriptFunctions(
         LoadScriptFunctions(FindScriptFunctionsFile({GetProjectPath(), programFolder})));
