@@ -615,8 +615,6 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
 
 void CMainFrame::ShowChildInPanes()
 {
-    if (!m_painted)
-        return;
     m_nameCombo->ShowDocument(m_shownChild ? &m_shownChild->Document() : nullptr);
     m_propertyPane->Clear();
     if (m_shownChild)
@@ -635,7 +633,6 @@ void CMainFrame::FinishAfterFirstPaint()
     if (m_painted)
         return;
     m_painted = true;
-    ShowChildInPanes();
     m_explorer->Refresh();
 }
 

@@ -120,13 +120,12 @@ private:
     std::vector<OpenWindow> OpenWindows() const;
 
     void ChildActivated(QMdiSubWindow* window);
-    // Shows the shown child's widgets in the name list and its selection in the property pane,
-    // once the frame has painted (see FinishAfterFirstPaint).
+    // Shows the shown child's widgets in the name list and its selection in the property pane.
     void ShowChildInPanes();
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
-    // The panes' contents wait until the frame has painted once, so that the first window
-    // shows sooner; then they show the child and the project.
+    // The project explorer reads the project once the frame has painted, so that the first
+    // window shows sooner.
     void FinishAfterFirstPaint();
     // Enables the commands that have something to act on; the panes and the canvas follow the
     // documents' changes themselves.
@@ -168,7 +167,7 @@ private:
     CSearchResults* m_searchResults = nullptr;
     CFormatActions* m_formatActions = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
-    bool m_painted = false;              // the frame has painted once: the panes show the child
+    bool m_painted = false;              // the frame has painted once: the explorer shows the project
     QMenu* m_canvasMenu = nullptr;
     QMenu* m_windowMenu = nullptr;
     std::vector<ScriptFunction> m_scriptFunctions;
