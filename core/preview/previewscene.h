@@ -51,7 +51,7 @@ public:
     void Draw(CHmiDC& dc, std::int64_t timeMs) const;
     // The bindings that fail, in drawing order.
     std::vector<BindingProblem> Problems() const;
-    // The evaluated copy of a widget of the document, or null.
+    // The evaluated copy of a widget of the document, or null; valid until the values change.
     const CHmiWidget* Evaluated(const CHmiWidget& documentWidget) const;
 
     // A flashing widget shows for this many milliseconds and hides for as long; a smaller flash

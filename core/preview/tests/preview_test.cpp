@@ -147,11 +147,10 @@ TEST(PreviewScene, EvaluatesOnlyWhatAChangeReadsAndLeavesTheDocumentAsItWas)
     CPreviewScene scene(document, p.values);
     AreaRecorder recorder;
     scene.AddObserver(&recorder);
-    const CHmiWidget& evaluated = *scene.Evaluated(*boiler);
     const auto fill = [&] {
         std::string text;
-        evaluated.GetWidgetPropValue(*boiler->FindProperty("fillcolor"), text);
-        return text + " " + std::to_string(evaluated.GetWidgetRect().right);
+        scene.Evaluated(*boiler)->GetWidgetPropValue(*boiler->FindProperty("fillcolor"), text);
+        return text + " " + std::to_string(scene.Evaluated(*boiler)->GetWidgetRect().right);
     };
     EXPECT_EQ(fill(), "65535 700") << "level 50 lies between 20 and 80";
 
@@ -170,10 +169,10 @@ TEST(PreviewScene, EvaluatesOnlyWhatAChangeReadsAndLeavesTheDocumentAsItWas)
               std::tuple(boiler, "right", 17u, "division by zero"));
     EXPECT_EQ(fill(), "65280 300") << "a failing binding leaves the document's value";
 
-    EXPECT_TRUE(CPreviewScene::IsShownAt(evaluated, 299));
-    EXPECT_FALSE(CPreviewScene::IsShownAt(evaluated, 300));
+    EXPECT_TRUE(CPreviewScene::IsShownAt(*scene.Evaluated(*boiler), 299));
+    EXPECT_FALSE(CPreviewScene::IsShownAt(*scene.Evaluated(*boiler), 300));
     p.values.SetValue(p.Index("$pump1"), 1);
-    EXPECT_FALSE(CPreviewScene::IsShownAt(evaluated, 0));
+    EXPECT_FALSE(CPreviewScene::IsShownAt(*scene.Evaluated(*boiler), 0));
     p.values.SetGenerator(p.Index("$plc.pressure"), CValueGenerator{CValueGenerator::Kind::Ramp, 0, 9, 500});
     for (std::int64_t time = 0; time < 2000; time += 130)
         p.values.AdvanceTo(time);
