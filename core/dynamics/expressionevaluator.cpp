@@ -41,6 +41,21 @@ constexpr std::array<BinaryOperator, 18> kBinaryOperators = {{
     {"^", Op::BitXor, 5},     {"|", Op::BitOr, 4},
 }};
 
+// A comparison gives 0 or 1; none for an operator that compares nothing.
+template <class T>
+std::optional<std::int64_t> Compared(Op op, const T& a, const T& b)
+{
+    switch (op) {
+    case Op::Less: return a < b;
+    case Op::LessEqual: return a <= b;
+    case Op::Greater: return a > b;
+    case Op::GreaterEqual: return a >= b;
+    case Op::Equal: return a == b;
+    case Op::NotEqual: return a != b;
+    default: return std::nullopt;
+    }
+}
+
 enum class Function : std::uint8_t { Long2Str2, Float2Str3, Double2Str3 };
 
 struct FunctionSpec {
@@ -450,6 +465,8 @@ private:
             return WholeBinary(node, *a, *b);
         const double x = AsDouble(left);
         const double y = AsDouble(right);
+        if (const std::optional<std::int64_t> compared = Compared(node.op, x, y))
+            return *compared;
         switch (node.op) {
         case Op::Multiply: return x * y;
         case Op::Divide:
@@ -458,12 +475,6 @@ private:
             return x / y;
         case Op::Add: return x + y;
         case Op::Subtract: return x - y;
-        case Op::Less: return std::int64_t(x < y);
-        case Op::LessEqual: return std::int64_t(x <= y);
-        case Op::Greater: return std::int64_t(x > y);
-        case Op::GreaterEqual: return std::int64_t(x >= y);
-        case Op::Equal: return std::int64_t(x == y);
-        case Op::NotEqual: return std::int64_t(x != y);
         default:
             Fail(node.position, "this operator takes whole numbers");
         }
@@ -475,6 +486,8 @@ private:
         // undefined.
         const auto ua = std::uint64_t(a);
         const auto ub = std::uint64_t(b);
+        if (const std::optional<std::int64_t> compared = Compared(node.op, a, b))
+            return *compared;
         switch (node.op) {
         case Op::Multiply: return std::int64_t(ua * ub);
         case Op::Divide:
@@ -491,12 +504,6 @@ private:
             if (b < 0 || b > 63)
                 Fail(node.position, "shift count " + std::to_string(b) + " is outside 0 to 63");
             return node.op == Op::ShiftLeft ? std::int64_t(ua << b) : a >> b;
-        case Op::Less: return std::int64_t(a < b);
-        case Op::LessEqual: return std::int64_t(a <= b);
-        case Op::Greater: return std::int64_t(a > b);
-        case Op::GreaterEqual: return std::int64_t(a >= b);
-        case Op::Equal: return std::int64_t(a == b);
-        case Op::NotEqual: return std::int64_t(a != b);
         case Op::BitAnd: return a & b;
         case Op::BitXor: return a ^ b;
         case Op::BitOr: return a | b;
@@ -510,17 +517,11 @@ private:
             Fail(node.position, "a text meets a number");
         const std::string& a = std::get<std::string>(left);
         const std::string& b = std::get<std::string>(right);
-        switch (node.op) {
-        case Op::Add: return a + b;
-        case Op::Less: return std::int64_t(a < b);
-        case Op::LessEqual: return std::int64_t(a <= b);
-        case Op::Greater: return std::int64_t(a > b);
-        case Op::GreaterEqual: return std::int64_t(a >= b);
-        case Op::Equal: return std::int64_t(a == b);
-        case Op::NotEqual: return std::int64_t(a != b);
-        default:
+        if (const std::optional<std::int64_t> compared = Compared(node.op, a, b))
+            return *compared;
+        if (node.op != Op::Add)
             Fail(node.position, "texts only compare and join with '+'");
-        }
+        return a + b;
     }
 
     ExpressionValue Number(const Node& call, int argument) const
