@@ -20,6 +20,14 @@ std::string TextLength(const std::string& text)
     return std::to_string(std::max<std::size_t>(32, text.size() + 1));
 }
 
+// Whether an evaluation gives what the last one gave, so that nothing needs applying.
+bool SameOutcome(const ExpressionResult& a, const ExpressionResult& b)
+{
+    if (a.error || b.error)
+        return a.error && b.error && a.error->message == b.error->message && a.error->position == b.error->position;
+    return a.value == b.value;
+}
+
 } // namespace
 
 CPreviewScene::CPreviewScene(const CTamloDoc& document, CPreviewValues& values)
@@ -80,7 +88,7 @@ void CPreviewScene::VariablesChanged(std::span<const std::size_t> variables)
     for (const std::size_t variable : variables)
         if (variable < m_readers.size())
             bindings.insert(bindings.end(), m_readers[variable].begin(), m_readers[variable].end());
-    if (variables.size() > 1) { // a binding that reads two changed variables is evaluated once
+    if (variables.size() > 1) { // in ascending order, and once each: a binding may read two of them
         std::sort(bindings.begin(), bindings.end());
         bindings.erase(std::unique(bindings.begin(), bindings.end()), bindings.end());
     }
@@ -99,12 +107,12 @@ void CPreviewScene::Evaluate(std::span<const std::size_t> bindings, std::vector<
     for (const std::size_t index : bindings) {
         Binding& binding = m_bindings[index];
         ExpressionResult result = binding.expression.Evaluate(m_values);
-        const bool evaluated = binding.result && *binding.result;
-        if (binding.result && result.error.has_value() == binding.result->error.has_value() &&
-            (result.error ? result.error->message == binding.result->error->message : result.value == binding.result->value))
+        if (binding.result && SameOutcome(*binding.result, result))
             continue;
+        const bool evaluated = binding.result && *binding.result;
         binding.result = std::move(result);
-        if (std::none_of(changed.begin(), changed.end(), [&](const auto& entry) { return entry.first == binding.widget; }))
+        // Bindings come in ascending order, so a widget's stand next to each other.
+        if (changed.empty() || changed.back().first != binding.widget)
             changed.emplace_back(binding.widget, m_widgets[binding.widget].evaluated->GetWidgetRect().Normalized());
         if (*binding.result)
             Apply(binding);

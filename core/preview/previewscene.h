@@ -76,8 +76,8 @@ private:
     };
 
     void VariablesChanged(std::span<const std::size_t> variables) override;
-    // Evaluates the bindings again and applies what changed, adding the areas of the widgets
-    // that changed.
+    // Evaluates the bindings (indices in ascending order) again and applies what changed,
+    // adding the areas of the widgets that changed.
     void Evaluate(std::span<const std::size_t> bindings, std::vector<HmiRect>& areas);
     void Apply(const Binding& binding);
     // A fresh copy of the document's widget with the bindings that evaluate applied: for a
