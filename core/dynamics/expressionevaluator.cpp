@@ -58,13 +58,13 @@ std::optional<std::int64_t> Compared(Op op, const T& a, const T& b)
 
 enum class Function : std::uint8_t { Long2Str2, Float2Str3, Double2Str3 };
 
-struct FunctionSpec {
+struct KnownFunction {
     std::string_view name;
     Function function;
     int arguments;
 };
 
-constexpr std::array<FunctionSpec, 3> kFunctions = {{
+constexpr std::array<KnownFunction, 3> kFunctions = {{
     {"long2str2", Function::Long2Str2, 2},
     {"float2str3", Function::Float2Str3, 3},
     {"double2str3", Function::Double2Str3, 3},
@@ -319,21 +319,21 @@ private:
         const std::size_t start = m_at;
         m_at = NameEnd(m_text, start);
         const std::string_view name = m_text.substr(start, m_at - start);
-        const auto spec = std::find_if(kFunctions.begin(), kFunctions.end(),
-                                       [name](const FunctionSpec& f) { return f.name == name; });
+        const auto known = std::find_if(kFunctions.begin(), kFunctions.end(),
+                                       [name](const KnownFunction& f) { return f.name == name; });
         if (!Accept("("))
             Fail(start, "unknown name '" + std::string(name) + "' (variables start with '$')");
-        if (spec == kFunctions.end())
+        if (known == kFunctions.end())
             Fail(start, "unknown function '" + std::string(name) + "'");
         Node node(NodeKind::Call, start);
-        node.function = spec->function;
-        for (int argument = 0; argument < spec->arguments; ++argument) {
+        node.function = known->function;
+        for (int argument = 0; argument < known->arguments; ++argument) {
             if (argument > 0 && !Accept(","))
-                Fail(m_at, std::string(name) + " takes " + std::to_string(spec->arguments) + " arguments");
+                Fail(m_at, std::string(name) + " takes " + std::to_string(known->arguments) + " arguments");
             node.operands[std::size_t(argument)] = ParseConditional();
         }
         if (!Accept(")"))
-            Fail(m_at, std::string(name) + " takes " + std::to_string(spec->arguments) + " arguments");
+            Fail(m_at, std::string(name) + " takes " + std::to_string(known->arguments) + " arguments");
         return Add(std::move(node));
     }
 
