@@ -15,6 +15,7 @@ set(kLayers
     "catalogue:base project dynamics widgets"
     "libraries:base project dynamics widgets catalogue"
     "workspace:base project dynamics widgets catalogue"
+    "preview:base project dynamics widgets"
 )
 
 if(NOT IS_DIRECTORY "${CORE_DIR}")

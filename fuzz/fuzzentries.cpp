@@ -1,6 +1,7 @@
 #include "fuzzentries.h"
 
 #include "base/numberparsers.h"
+#include "dynamics/expressionevaluator.h"
 #include "dynamics/expressiontext.h"
 #include "catalogue/builtinwidgets.h"
 #include "project/namelists.h"
@@ -153,5 +154,27 @@ void FuzzExpressionText(const std::uint8_t* data, std::size_t size)
     std::string text = original;
     if (ReplaceVariableReference(text, from, to) != count(original, from) ||
         count(text, to) != count(original, from) + count(original, to))
+        std::abort();
+}
+
+void FuzzExpressionEvaluator(const std::uint8_t* data, std::size_t size)
+{
+    // A variable of each kind, so that every operator meets numbers and texts.
+    struct Values : CExpressionValues {
+        const ExpressionValue* FindValue(std::string_view reference) const override
+        {
+            return reference == "$plc.level" ? &level : reference == "$count" ? &count : reference == "$mode" ? &mode : nullptr;
+        }
+        ExpressionValue level = 42.5;
+        ExpressionValue count = std::int64_t(-7);
+        ExpressionValue mode = std::string("auto");
+    } values;
+    const std::string text = Text(data, size);
+    const CCompiledExpression expression(text);
+    const ExpressionResult first = expression.Evaluate(values);
+    const ExpressionResult second = expression.Evaluate(values);
+    // Errors point into the text, and evaluating twice gives the same.
+    if ((first.error && first.error->position > text.size()) || first.error.has_value() != second.error.has_value() ||
+        (!first.error && ExpressionValueText(first.value) != ExpressionValueText(second.value)))
         std::abort();
 }

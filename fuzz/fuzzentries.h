@@ -24,11 +24,13 @@ void FuzzHistoryNames(const std::uint8_t* data, std::size_t size);
 void FuzzDataLogNames(const std::uint8_t* data, std::size_t size);
 // Variable references and calls in binding expressions and scripts, and renaming one.
 void FuzzExpressionText(const std::uint8_t* data, std::size_t size);
+// Reading and evaluating a runtime expression.
+void FuzzExpressionEvaluator(const std::uint8_t* data, std::size_t size);
 
 inline constexpr FuzzEntry kFuzzEntries[] = {
     {"windowfile", FuzzWindowFile},       {"numberparsers", FuzzNumberParsers},
     {"projectargument", FuzzProjectArgument}, {"windowlist", FuzzWindowList},
     {"rtdb", FuzzRealtimeDatabase},       {"hmidb", FuzzHmiDatabase},
     {"history", FuzzHistoryNames},        {"datalog", FuzzDataLogNames},
-    {"expression", FuzzExpressionText},
+    {"expression", FuzzExpressionText},  {"evaluator", FuzzExpressionEvaluator},
 };

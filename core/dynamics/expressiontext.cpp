@@ -11,33 +11,11 @@ bool IsNameByte(char c)
     return byte >= 0x80 || byte == '_' || (byte >= '0' && byte <= '9') || ((byte | 0x20) >= 'a' && (byte | 0x20) <= 'z');
 }
 
-bool StartsName(char c)
-{
-    return IsNameByte(c) && !(c >= '0' && c <= '9');
-}
-
 // Statements of C that a parenthesis may follow without making a call.
 bool IsStatement(std::string_view name)
 {
     static constexpr std::array<std::string_view, 6> kStatements = {"if", "while", "for", "switch", "return", "sizeof"};
     return std::find(kStatements.begin(), kStatements.end(), name) != kStatements.end();
-}
-
-std::size_t NameEnd(std::string_view text, std::size_t at)
-{
-    while (at < text.size() && IsNameByte(text[at]))
-        ++at;
-    return at;
-}
-
-// The end of the reference that starts at the "$" at `at`; at + 1 when no name follows it.
-std::size_t ReferenceEnd(std::string_view text, std::size_t at)
-{
-    const std::size_t end = NameEnd(text, at + 1);
-    if (end == at + 1 || end == text.size() || text[end] != '.')
-        return end;
-    const std::size_t dataEnd = NameEnd(text, end + 1);
-    return dataEnd > end + 1 ? dataEnd : end;
 }
 
 // Walks a text once, telling each reference and each call.
@@ -81,6 +59,27 @@ void Scan(std::string_view text, OnReference onReference, OnCall onCall)
 }
 
 } // namespace
+
+bool StartsName(char c)
+{
+    return IsNameByte(c) && !(c >= '0' && c <= '9');
+}
+
+std::size_t NameEnd(std::string_view text, std::size_t at)
+{
+    while (at < text.size() && IsNameByte(text[at]))
+        ++at;
+    return at;
+}
+
+std::size_t ReferenceEnd(std::string_view text, std::size_t at)
+{
+    const std::size_t end = NameEnd(text, at + 1);
+    if (end == at + 1 || end == text.size() || text[end] != '.')
+        return end;
+    const std::size_t dataEnd = NameEnd(text, end + 1);
+    return dataEnd > end + 1 ? dataEnd : end;
+}
 
 std::vector<TextToken> FindVariableReferences(std::string_view text)
 {

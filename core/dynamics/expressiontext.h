@@ -17,6 +17,13 @@ struct TextToken {
     std::size_t length;
 };
 
+// The pieces of the scan, for readers of the same language (the evaluator): whether a byte can
+// start a name, where the name that starts at `at` ends, and where the reference that starts at
+// the "$" at `at` ends (at + 1 when no name follows the "$").
+bool StartsName(char c);
+std::size_t NameEnd(std::string_view text, std::size_t at);
+std::size_t ReferenceEnd(std::string_view text, std::size_t at);
+
 // The references of a text, in text order.
 std::vector<TextToken> FindVariableReferences(std::string_view text);
 

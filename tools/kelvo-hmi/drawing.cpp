@@ -1,11 +1,13 @@
 #include "drawing.h"
 
+#include "preview/previewscene.h"
 #include "widgets/hmiimagedc.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/windowpainter.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,17 +23,31 @@ void PrepareOffscreenDrawing()
     }
 }
 
-FileResult DrawWindowToPng(const CTamloDoc& document, const std::string& path)
+namespace {
+
+FileResult DrawToPng(const CTamloDoc& document, const std::function<void(CHmiDC&)>& draw, const std::string& path)
 {
     const HmiRect window = document.GetWindowWidget()->GetWidgetRect().Normalized();
     const std::int32_t width = std::min(window.Width(), kMaxDrawnWindowExtent);
     const std::int32_t height = std::min(window.Height(), kMaxDrawnWindowExtent);
     CHmiImageDC image(width, height);
-    DrawWindow(document, image);
+    draw(image);
     FileResult saved = image.SavePng(path);
     if (saved && (width < window.Width() || height < window.Height()))
         saved.notices.push_back("the window is " + std::to_string(window.Width()) + " x " +
                                 std::to_string(window.Height()) + " pixels; drawn clipped to its top-left " +
                                 std::to_string(width) + " x " + std::to_string(height));
     return saved;
+}
+
+} // namespace
+
+FileResult DrawWindowToPng(const CTamloDoc& document, const std::string& path)
+{
+    return DrawToPng(document, [&](CHmiDC& dc) { DrawWindow(document, dc); }, path);
+}
+
+FileResult DrawPreviewToPng(const CTamloDoc& document, const CPreviewScene& scene, const std::string& path)
+{
+    return DrawToPng(document, [&](CHmiDC& dc) { scene.Draw(dc, 0); }, path);
 }

@@ -7,6 +7,8 @@
 #include "project/variabledatabase.h"
 #include "catalogue/builtinwidgets.h"
 #include "libraries/widgetlibraryloader.h"
+#include "preview/previewscene.h"
+#include "preview/valueset.h"
 #include "widgets/tamlodoc.h"
 
 #include <QGuiApplication>
@@ -100,23 +102,59 @@ int Vars(Arguments args)
     return 0;
 }
 
-// render IN.xml OUT.png [--project DIR]
+// Tells on stderr why each binding of the window failed to evaluate.
+void ReportBindingProblems(const std::string& window, const CPreviewScene& scene)
+{
+    for (const BindingProblem& problem : scene.Problems())
+        std::fprintf(stderr, "kelvo-hmi: %s: note: %s: binding of %s: %s at %zu of '%s'\n", window.c_str(),
+                     problem.widget->GetWidgetName().c_str(), problem.property.c_str(), problem.error.message.c_str(),
+                     problem.error.position, problem.expression.c_str());
+}
+
+// render IN.xml OUT.png [--project DIR] [--values FILE]
 int Render(Arguments args)
 {
-    if (args.size() == 3 || (args.size() == 4 && std::string_view(args[2]) != "--project")) {
-        std::fprintf(stderr, "Usage: kelvo-hmi render IN.xml OUT.png [--project DIR]\n");
+    const char* project = nullptr;
+    const char* valueSet = nullptr;
+    bool usage = args.size() % 2 != 0;
+    for (std::size_t option = 2; !usage && option < args.size(); option += 2) {
+        if (std::string_view(args[option]) == "--project")
+            project = args[option + 1];
+        else if (std::string_view(args[option]) == "--values")
+            valueSet = args[option + 1];
+        else
+            usage = true;
+    }
+    if (usage) {
+        std::fprintf(stderr, "Usage: kelvo-hmi render IN.xml OUT.png [--project DIR] [--values FILE]\n");
         return 2;
     }
-    if (args.size() == 4)
-        SetProjectPath(args[3]);
+    if (project)
+        SetProjectPath(project);
     else
         UseProjectOf(args[0]);
     CTamloDoc document;
     if (!LoadWindow(document, args[0]))
         return 1;
-    if (args.size() == 4)
-        document.SetPictureFolder(args[3]);
-    const FileResult saved = DrawWindowToPng(document, args[1]);
+    if (project)
+        document.SetPictureFolder(project);
+    FileResult saved;
+    if (valueSet) {
+        CHmiVariableDatabase database;
+        database.LoadProject(GetProjectPath());
+        CPreviewValues values(database);
+        const FileResult loaded = LoadValueSet(values, valueSet);
+        if (!loaded)
+            return Fail(loaded.error);
+        for (const std::string& notice : loaded.notices)
+            std::fprintf(stderr, "kelvo-hmi: %s: note: %s\n", valueSet, notice.c_str());
+        values.AdvanceTo(0);
+        const CPreviewScene scene(document, values);
+        ReportBindingProblems(args[0], scene);
+        saved = DrawPreviewToPng(document, scene, args[1]);
+    } else {
+        saved = DrawWindowToPng(document, args[1]);
+    }
     if (!saved)
         return Fail(saved.error);
     for (const std::string& notice : saved.notices)
@@ -129,8 +167,9 @@ const Command kCommands[] = {
     {"roundtrip", "roundtrip IN.xml OUT.xml", "load a window file and save it as the editor does", 2, 2, true,
      RoundTrip},
     {"vars", "vars PROJECT", "every variable reference the project offers, one per line", 1, 1, false, Vars},
-    {"render", "render IN.xml OUT.png [--project DIR]",
-     "draw the window as the canvas does (pictures from DIR, else beside IN.xml)", 2, 4, true, Render},
+    {"render", "render IN.xml OUT.png [--project DIR] [--values FILE]",
+     "draw the window as the canvas does (pictures from DIR, else beside IN.xml), or with the values of a value set",
+     2, 6, true, Render},
     {"check", "check PROJECT [--format text|json|sarif] [--strict]",
      "check every window of the project; exit status 1 on errors (or warnings with --strict)", 1, 4, false,
      CheckCommand},

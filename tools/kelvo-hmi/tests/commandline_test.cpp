@@ -12,6 +12,7 @@
 
 #include <QCryptographicHash>
 #include <QImage>
+#include <QRgb>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -373,4 +374,47 @@ TEST(CommandLine, DrawsAHugeWindowClippedToItsTopLeftAndSaysSo)
     const QImage image(QString::fromStdString(dir.Path("w.png")));
     EXPECT_EQ(image.size(), QSize(4096, 300));
     EXPECT_EQ(image.pixel(4095, 150), qRgb(255, 0, 0));
+}
+
+// A scenario's values drawn: a colour binding at two values, a formatted number drawn as that
+// text would be, a widget hidden by its visibility binding, and a binding that fails told.
+TEST(CommandLine, RendersAWindowWithTheValuesOfAValueSet)
+{
+    TempDir dir;
+    dir.Write("rtdb.xml", "<rtdbs><rtdb name=\"p\"><data name=\"v\" type=\"long\" init=\"0\"/></rtdb></rtdbs>");
+    const auto window = [&](const std::string& text, const std::string& textBinding) {
+        const auto rect = [](const char* name, int left, const std::string& dynamic) {
+            return std::string("<widget name=\"") + name + "\" class=\"rectangle\"><properties>"
+                   "<property name=\"left\" type=\"short\" value=\"" + std::to_string(left) + "\"/>"
+                   "<property name=\"right\" type=\"short\" value=\"" + std::to_string(left + 10) + "\"/>"
+                   "<property name=\"bottom\" type=\"short\" value=\"10\"/></properties>"
+                   "<dynamics>" + dynamic + "</dynamics></widget>\n";
+        };
+        return dir.Write("w.xml", "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n<hmiwidget>\n" +
+            rect("lamp", 0, "<dynamic propname=\"fillcolor\" expression=\"($p.v&gt;5)?0xff:0xff00\"/>") +
+            rect("box", 20, "<dynamic propname=\"visible\" expression=\"$p.v&lt;10\"/>"
+                            "<dynamic propname=\"edgecolor\" expression=\"0xff00ff%($p.v-7)\"/>") +
+            "<widget name=\"number\" class=\"text\"><properties><property name=\"top\" type=\"short\" value=\"12\"/>"
+            "<property name=\"right\" type=\"short\" value=\"60\"/><property name=\"bottom\" type=\"short\" value=\"30\"/>"
+            "<property name=\"text\" type=\"string\" length=\"32\" value=\"" + text + "\"/></properties><dynamics>" +
+            textBinding + "</dynamics></widget>\n</hmiwidget>\n");
+    };
+    const auto render = [&](int value, const std::string& in) {
+        const std::string values = dir.Write("v.json", "{\"values\": {\"$p.v\": " + std::to_string(value) + "}}");
+        const ToolRun run = RunTool("render '" + in + "' '" + dir.Path("out.png") + "' --values '" + values + "'");
+        EXPECT_EQ(run.status, 0) << run.errors;
+        return std::pair(QImage(QString::fromStdString(dir.Path("out.png"))), run.errors);
+    };
+    const std::string bound = window("", "<dynamic propname=\"text\" expression=\"(float2str3(($p.v*1.25),2,1))\"/>");
+    const auto [six, sixErrors] = render(6, bound);
+    const auto [four, fourErrors] = render(4, bound);
+    const auto [twelve, twelveErrors] = render(12, bound);
+    const auto [seven, sevenErrors] = render(7, bound);
+    EXPECT_EQ(std::tuple(six.pixel(5, 5), four.pixel(5, 5)), std::tuple(qRgb(255, 0, 0), qRgb(0, 255, 0)));
+    EXPECT_EQ(std::tuple(four.pixel(20, 5), twelve.pixel(20, 5)), std::tuple(qRgb(0, 0, 0), twelve.pixel(19, 5)))
+        << "the box's edge at 0xff00ff % -3, then no box at all";
+    EXPECT_EQ(sevenErrors, "kelvo-hmi: " + bound + ": note: box: binding of edgecolor: division by zero at 8 of '0xff00ff%($p.v-7)'\n");
+    EXPECT_EQ(six, render(6, window(" 7.5", "")).first);
+    EXPECT_NE(six, render(6, window(" 7.4", "")).first);
+    EXPECT_EQ(RunTool("render '" + bound + "' '" + dir.Path("x.png") + "' --values '" + dir.Path("none.json") + "'").status, 1);
 }
