@@ -428,9 +428,13 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
     m_recentFiles.Add(absolute);
     UpdateRecentFileActions();
     if (!result.notices.empty()) {
+        // A window of thousands of widgets can leave a note for each; the message stays on screen.
+        constexpr std::size_t kShownNotices = 10;
         message = QStringLiteral("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
-        for (const std::string& notice : result.notices)
-            message += QStringLiteral("\n\n") + QString::fromStdString(notice);
+        for (std::size_t i = 0; i < std::min(result.notices.size(), kShownNotices); ++i)
+            message += QStringLiteral("\n\n") + QString::fromStdString(result.notices[i]);
+        if (result.notices.size() > kShownNotices)
+            message += QStringLiteral("\n\n... and %1 more notes.").arg(result.notices.size() - kShownNotices);
     }
     return AddChild(std::move(document));
 }
