@@ -1,6 +1,7 @@
 // Measures drawing on generated windows that mix every widget kind: the `render` command (load,
 // draw into the image, encode the PNG) against loading the same file, and a full paint through
-// the painter target against painting plain rectangles at the same places. Prints figures with
+// the painter target against painting plain rectangles at the same places, with the memory its
+// kept drawings take. Prints figures with
 // their targets (render within 2x the load, the paint within 4x the rectangles); nothing here
 // is a pass or a fail. Times are processor time, the median of a few runs.
 
@@ -20,12 +21,12 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace {
 
 constexpr unsigned kSeed = 1;
-constexpr int kPaintedWidgets = 5000;
 
 // The render command's steps, each timed on its own: loading, drawing, encoding.
 void MeasureRender(const std::filesystem::path& folder, int widgetCount)
@@ -59,11 +60,12 @@ void MeasureRender(const std::filesystem::path& folder, int widgetCount)
 }
 
 // A full paint of the mixed window through the painter target, as the canvas paints, against
-// rectangles at the same places.
-void MeasurePaint()
+// rectangles at the same places: the repaints, which find the widgets' drawings kept, and the
+// first paint, which keeps them.
+void MeasurePaint(int widgetCount)
 {
     CTamloDoc mixed;
-    FillMixedWindow(mixed, kPaintedWidgets, kSeed);
+    FillMixedWindow(mixed, widgetCount, kSeed);
     CTamloDoc rectangles;
     rectangles.OnNewDocument();
     rectangles.GetWindowWidget()->SetWidgetRect(mixed.GetWindowWidget()->GetWidgetRect());
@@ -76,17 +78,22 @@ void MeasurePaint()
         rectangles.AddWidget(std::move(rectangle), true);
     }
     QImage image(kMixedWindowWidth, kMixedWindowHeight, QImage::Format_ARGB32_Premultiplied);
-    const auto paint = [&](const CTamloDoc& document) {
-        return MedianMilliseconds(7, [&] {
-            QPainter painter(&image);
-            CHmiPainterDC dc(painter);
-            DrawWindow(document, dc);
-        });
+    const auto paint = [&](const CTamloDoc& document, CHmiDrawingCache& drawings) {
+        QPainter painter(&image);
+        CHmiPainterDC dc(painter, &drawings);
+        DrawWindow(document, dc);
     };
-    const double plain = paint(rectangles);
-    const double full = paint(mixed);
-    std::printf("%7d  paint %8.1f ms, plain rectangles %8.1f ms = %5.2fx (target 4x)\n", kPaintedWidgets, full,
-                plain, full / plain);
+    CHmiDrawingCache plainDrawings;
+    CHmiDrawingCache mixedDrawings;
+    const double plain = MedianMilliseconds(7, [&] { paint(rectangles, plainDrawings); });
+    const double first = MedianMilliseconds<std::unique_ptr<CHmiDrawingCache>>(
+        3, [] { return std::make_unique<CHmiDrawingCache>(); },
+        [&](std::unique_ptr<CHmiDrawingCache>& fresh) { paint(mixed, *fresh); });
+    const double repaint = MedianMilliseconds(7, [&] { paint(mixed, mixedDrawings); });
+    std::printf("%7d  repaint %8.1f ms, plain rectangles %6.1f ms = %5.2fx (target 4x); first paint %.1f ms = %.2fx, "
+                "keeping %.1f MiB of drawings\n",
+                widgetCount, repaint, plain, repaint / plain, first, first / plain,
+                double(mixedDrawings.Bytes()) / (1 << 20));
 }
 
 } // namespace
@@ -103,7 +110,8 @@ int main(int argc, char* argv[])
                 kMixedWindowHeight);
     for (const int count : {1000, 10000, 100000})
         MeasureRender(folder, count);
-    MeasurePaint();
+    for (const int count : {5000, 10000})
+        MeasurePaint(count);
     std::filesystem::remove_all(folder);
     return 0;
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -383,7 +384,23 @@ HmiColor GradientSteps::At(std::int32_t step) const
     return FromChannels(channels);
 }
 
-void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
+namespace {
+
+using GradientPaint = void (*)(CHmiDC&, const HmiRect&, HmiColor, HmiColor, std::int32_t);
+
+// A gradient's pixels follow from its shape, rectangle, colours and code alone, and lie within
+// the rectangle and the pixel around it (a line stands on the right or bottom edge, and the
+// mirrored forms reach one pixel before the left or top edge): a target may keep them.
+void PaintReusable(CHmiDC& dc, std::string_view shape, GradientPaint paint, const HmiRect& rect, HmiColor start,
+                   HmiColor end, std::int32_t code)
+{
+    const HmiRect r = rect.ForDrawing();
+    dc.DrawReusable(HmiReuseKey(shape, {r.left, r.top, r.right, r.bottom, start, end, code}),
+                    r.Normalized().Inflated(1, 1),
+                    [&](CHmiDC& target) { paint(target, rect, start, end, code); });
+}
+
+void PaintRectGradientLines(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
 {
     if (code < 32 || code > 47)
         return;
@@ -461,7 +478,7 @@ void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor
     }
 }
 
-void PaintEllipseGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
+void PaintEllipseGradientRings(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
 {
     const HmiRect r = rect.ForDrawing();
     const std::int32_t a = r.Width() / 2;
@@ -491,7 +508,7 @@ void PaintEllipseGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiCo
     }
 }
 
-void PaintTriangleGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
+void PaintTriangleGradientLines(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
 {
     const HmiRect r = rect.ForDrawing();
     const std::int32_t cx = (r.left + r.right) / 2;
@@ -530,4 +547,21 @@ void PaintTriangleGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiC
         painted.Add(color, apex, base(i));
         painted.Add(color, apex, base(-i));
     });
+}
+
+} // namespace
+
+void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
+{
+    PaintReusable(dc, "rectangle gradient", PaintRectGradientLines, rect, start, end, code);
+}
+
+void PaintEllipseGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
+{
+    PaintReusable(dc, "ellipse gradient", PaintEllipseGradientRings, rect, start, end, code);
+}
+
+void PaintTriangleGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
+{
+    PaintReusable(dc, "triangle gradient", PaintTriangleGradientLines, rect, start, end, code);
 }

@@ -3,6 +3,8 @@
 #include "base/hmitypes.h"
 
 #include <cstdint>
+#include <functional>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -77,6 +79,15 @@ enum HmiTextFormat : std::uint32_t {
     HMI_DT_NOPREFIX = 0x800,  // "&" is shown as is (without it, "&x" underlines x and "&&" shows "&")
 };
 
+// A key for CHmiDC::DrawReusable: the kind of drawing, then the numbers it is drawn from.
+inline std::string HmiReuseKey(std::string_view kind, std::initializer_list<std::int64_t> numbers)
+{
+    std::string key(kind);
+    for (const std::int64_t number : numbers)
+        key.append(reinterpret_cast<const char*>(&number), sizeof number);
+    return key;
+}
+
 class CHmiDC {
 public:
     virtual ~CHmiDC() = default;
@@ -124,6 +135,16 @@ public:
     // transparent colour is given, pixels of exactly that colour leave the target unchanged.
     // A file that is missing or cannot be decoded paints nothing. Returns whether it painted.
     virtual bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) = 0;
+
+    // Paints what `paint` draws on the target it is handed. A caller promises that the drawing
+    // lies within the box and depends on nothing but the key, which names everything it is drawn
+    // from, the box's place included, and that `paint` selects what it uses and puts it back. A
+    // target may then keep the pixels under the key and paint them again while the key recurs.
+    virtual void DrawReusable(const std::string& /*key*/, const HmiRect& /*box*/,
+                              const std::function<void(CHmiDC&)>& paint)
+    {
+        paint(*this);
+    }
 
     // The part of the target that drawing can change, in the target's coordinates: drawing
     // outside it changes nothing. Routines that draw in many steps leave out the steps that lie

@@ -13,7 +13,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <list>
 #include <map>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -35,16 +39,16 @@ std::int32_t DrawingCoordinateOf(double value)
     return std::int32_t(std::clamp<double>(value, kHmiDrawingMin, kHmiDrawingMax));
 }
 
-// What the painter can change, in its own coordinates: its device as far as its clip lets
+// What the painter can change, in its own coordinates: its device, or as far as its clip lets
 // through. A device's size in device pixels is at least its size in the painter's units.
-HmiRect VisibleArea(const QPainter& painter)
+HmiRect VisibleArea(const QPainter& painter, bool clipped)
 {
     bool invertible = false;
     const QTransform toPainter = painter.combinedTransform().inverted(&invertible);
     if (!invertible)
         return {kHmiDrawingMin, kHmiDrawingMin, kHmiDrawingMax, kHmiDrawingMax};
     QRectF area = toPainter.mapRect(QRectF(0, 0, painter.device()->width(), painter.device()->height()));
-    if (painter.hasClipping())
+    if (clipped && painter.hasClipping())
         area &= painter.clipBoundingRect();
     return {DrawingCoordinateOf(std::floor(area.left())), DrawingCoordinateOf(std::floor(area.top())),
             DrawingCoordinateOf(std::ceil(area.right())), DrawingCoordinateOf(std::ceil(area.bottom()))};
@@ -226,11 +230,27 @@ QImage ReadPicture(const std::string& path)
     return reader.read();
 }
 
-// Decoded pictures, so that repainting a canvas does not decode its files again. An entry
-// is replaced when its file changes on disk.
+// The picture with its pixels of the transparent colour made transparent.
+QImage Masked(const QImage& picture, HmiColor transparent)
+{
+    QImage masked = picture.convertToFormat(QImage::Format_ARGB32);
+    const QRgb key = ToQColor(transparent).rgb();
+    for (int y = 0; y < masked.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(masked.scanLine(y));
+        for (int x = 0; x < masked.width(); ++x)
+            if ((line[x] | 0xFF000000u) == key)
+                line[x] = 0;
+    }
+    return masked;
+}
+
+// Decoded pictures, so that repainting a canvas does not decode its files again, nor mask them
+// again for the same transparent colour. An entry is replaced when its file changes on disk.
 class PictureCache {
 public:
-    const QImage* Find(const std::string& path)
+    // The picture, masked when a transparent colour is given; null when the file cannot be read
+    // or decoded.
+    const QImage* Find(const std::string& path, const HmiColor* transparent)
     {
         const QFileInfo info(QString::fromStdString(path));
         if (!info.isFile())
@@ -240,9 +260,18 @@ public:
         if (found == m_entries.end() || found->second.modified != modified) {
             if (m_entries.size() >= kMaxEntries)
                 m_entries.clear();
-            found = m_entries.insert_or_assign(path, Entry{modified, ReadPicture(path)}).first;
+            found = m_entries.insert_or_assign(path, Entry{modified, ReadPicture(path), {}, {}}).first;
         }
-        return found->second.image.isNull() ? nullptr : &found->second.image;
+        Entry& entry = found->second;
+        if (entry.image.isNull())
+            return nullptr;
+        if (!transparent)
+            return &entry.image;
+        if (entry.maskedBy != *transparent) {
+            entry.masked = Masked(entry.image, *transparent);
+            entry.maskedBy = *transparent;
+        }
+        return &entry.masked;
     }
 
 private:
@@ -250,6 +279,8 @@ private:
     struct Entry {
         QDateTime modified;
         QImage image;
+        QImage masked;
+        std::optional<HmiColor> maskedBy; // the transparent colour of the masked copy
     };
     std::map<std::string, Entry> m_entries;
 };
@@ -260,13 +291,159 @@ PictureCache& Pictures()
     return cache;
 }
 
+bool Meets(const HmiRect& a, const HmiRect& b)
+{
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+// What the drawing cache keeps of one drawing: its pixels, and where it leaves the current
+// position. No image: the drawing has partly transparent pixels, whose copy would blend them
+// once more, or it could not be drawn aside; it is then painted anew each time.
+struct KeptDrawing {
+    QImage image;
+    HmiPoint position;
+};
+
+// The largest drawing kept, in pixels, and all of them together, in bytes; an entry's own
+// bookkeeping counts as some bytes besides its pixels and key.
+constexpr std::int64_t kMaxKeptPixels = std::int64_t(1) << 20;
+constexpr std::size_t kMaxKeptBytes = std::size_t(64) << 20;
+constexpr std::size_t kBytesPerEntry = 128;
+
+HmiRect Intersection(const HmiRect& a, const HmiRect& b)
+{
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+            std::min(a.bottom, b.bottom)};
+}
+
+// Draws what paint draws, alone, into an image of the area, as a drawing to keep: pixels that
+// are opaque or untouched throughout can be painted again as they are.
+KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& paint)
+{
+    QImage image(area.Width(), area.Height(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return {};
+    image.fill(Qt::transparent);
+    KeptDrawing drawing;
+    {
+        QPainter painter(&image);
+        painter.translate(-area.left, -area.top);
+        CHmiPainterDC target(painter);
+        paint(target);
+        drawing.position = target.MoveTo({});
+    }
+    bool opaque = true;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const int alpha = qAlpha(line[x]);
+            if (alpha != 0 && alpha != 255)
+                return {};
+            opaque = opaque && alpha == 255;
+        }
+    }
+    // An opaque drawing is copied rather than blended.
+    drawing.image = opaque ? std::move(image).convertToFormat(QImage::Format_RGB32) : std::move(image);
+    return drawing;
+}
+
 } // namespace
 
-CHmiPainterDC::CHmiPainterDC(QPainter& painter) : m_painter(painter), m_clipBox(VisibleArea(painter))
+// The drawings by key, the most recently painted first. A drawing is kept the second time its
+// key is painted, so that a window painted once, as by opening it, pays nothing for keeping; and
+// room is made only from drawings that the paint under way has not used, so that a window whose
+// drawings do not all fit keeps those that do rather than replacing them all in turn.
+class CHmiDrawingCache::Store {
+public:
+    struct Entry {
+        std::optional<KeptDrawing> drawing; // none yet: painted once
+        std::uint64_t lastPaint = 0;
+    };
+
+    // Starts a paint: what it uses stays.
+    void BeginPaint() { ++m_paint; }
+
+    // The entry of the key, now the most recently painted; null when the key is new, which is
+    // then noted.
+    Entry* Use(const std::string& key)
+    {
+        const auto found = m_index.find(key);
+        if (found == m_index.end()) {
+            Add(key, Entry{});
+            return nullptr;
+        }
+        m_entries.splice(m_entries.begin(), m_entries, found->second);
+        Entry& entry = found->second->second;
+        entry.lastPaint = m_paint;
+        return &entry;
+    }
+
+    // Makes room for a drawing of so many bytes; false when the drawings of this paint fill it.
+    bool MakeRoom(std::size_t bytes)
+    {
+        while (m_bytes + bytes > kMaxKeptBytes && !m_entries.empty() && m_entries.back().second.lastPaint != m_paint)
+            Remove();
+        return m_bytes + bytes <= kMaxKeptBytes;
+    }
+
+    void Keep(Entry& entry, KeptDrawing drawing)
+    {
+        m_bytes += std::size_t(drawing.image.sizeInBytes());
+        entry.drawing = std::move(drawing);
+    }
+
+    std::size_t Bytes() const { return m_bytes; }
+
+private:
+    using Entries = std::list<std::pair<std::string, Entry>>;
+
+    static std::size_t SizeOf(const Entries::value_type& entry)
+    {
+        const std::optional<KeptDrawing>& drawing = entry.second.drawing;
+        return entry.first.size() + kBytesPerEntry + (drawing ? std::size_t(drawing->image.sizeInBytes()) : 0);
+    }
+
+    void Add(const std::string& key, Entry entry)
+    {
+        if (!MakeRoom(key.size() + kBytesPerEntry))
+            return;
+        entry.lastPaint = m_paint;
+        m_entries.emplace_front(key, std::move(entry));
+        m_index.emplace(m_entries.front().first, m_entries.begin());
+        m_bytes += SizeOf(m_entries.front());
+    }
+
+    void Remove()
+    {
+        m_bytes -= SizeOf(m_entries.back());
+        m_index.erase(m_entries.back().first);
+        m_entries.pop_back();
+    }
+
+    Entries m_entries;
+    std::unordered_map<std::string_view, Entries::iterator> m_index; // views of the keys in m_entries
+    std::size_t m_bytes = 0;
+    std::uint64_t m_paint = 0;
+};
+
+CHmiDrawingCache::CHmiDrawingCache() : m_store(std::make_unique<Store>()) {}
+
+CHmiDrawingCache::~CHmiDrawingCache() = default;
+
+std::size_t CHmiDrawingCache::Bytes() const
+{
+    return m_store->Bytes();
+}
+
+CHmiPainterDC::CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache)
+    : m_painter(painter), m_cache(cache), m_deviceArea(VisibleArea(painter, false)),
+      m_clipBox(VisibleArea(painter, true))
 {
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     m_painter.setRenderHint(QPainter::TextAntialiasing, false);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    if (m_cache)
+        m_cache->m_store->BeginPaint();
 }
 
 HmiPen CHmiPainterDC::SelectPen(const HmiPen& pen)
@@ -512,24 +689,32 @@ HmiPoint CHmiPainterDC::GetTextExtent(std::string_view text)
 
 bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
-    const QImage* picture = Pictures().Find(path);
+    const QImage* picture = Pictures().Find(path, transparent);
     const QRect target = ToQRect(rect);
     if (!picture || target.isEmpty())
         return false;
-    if (!transparent) {
-        m_painter.drawImage(target, *picture);
-        return true;
-    }
-    QImage masked = picture->convertToFormat(QImage::Format_ARGB32);
-    const QRgb key = ToQColor(*transparent).rgb();
-    for (int y = 0; y < masked.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(masked.scanLine(y));
-        for (int x = 0; x < masked.width(); ++x)
-            if ((line[x] | 0xFF000000u) == key)
-                line[x] = 0;
-    }
-    m_painter.drawImage(target, masked);
+    m_painter.drawImage(target, *picture);
     return true;
+}
+
+void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint)
+{
+    // Only what lies on the device is kept, and the key names that part too.
+    const HmiRect area = Intersection(box.ForDrawing().Normalized(), m_deviceArea);
+    const bool keepable = m_cache && area.Width() > 0 && area.Height() > 0 &&
+                          std::int64_t(area.Width()) * area.Height() <= kMaxKeptPixels && Meets(area, m_clipBox) &&
+                          PaintsWholeDevicePixels();
+    if (!keepable)
+        return paint(*this);
+    CHmiDrawingCache::Store& store = *m_cache->m_store;
+    CHmiDrawingCache::Store::Entry* entry =
+        store.Use(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}));
+    if (entry && !entry->drawing && store.MakeRoom(std::size_t(area.Width()) * std::size_t(area.Height()) * 4))
+        store.Keep(*entry, DrawAside(area, paint));
+    if (!entry || !entry->drawing || entry->drawing->image.isNull())
+        return paint(*this);
+    m_painter.drawImage(QPoint(area.left, area.top), entry->drawing->image);
+    MoveTo(entry->drawing->position);
 }
 
 HmiRect CHmiPainterDC::GetClipBox() const

@@ -2,16 +2,40 @@
 
 #include "hmidc.h"
 
+#include <cstddef>
+#include <memory>
+
 class QPainter;
+
+// Drawings kept for CHmiPainterDC::DrawReusable under their keys, for a canvas that paints the
+// same widgets again and again. Bounded: a drawing larger than a set size is never kept, and
+// the least recently painted ones make room for new ones.
+class CHmiDrawingCache {
+public:
+    CHmiDrawingCache();
+    ~CHmiDrawingCache();
+    CHmiDrawingCache(const CHmiDrawingCache&) = delete;
+    CHmiDrawingCache& operator=(const CHmiDrawingCache&) = delete;
+
+    // What the kept drawings take, in bytes.
+    std::size_t Bytes() const;
+
+private:
+    friend class CHmiPainterDC;
+    class Store;
+    std::unique_ptr<Store> m_store;
+};
 
 // The drawing target over a QPainter, with antialiasing off and the device-context pixel
 // rules of CHmiDC: the canvas creates one on its own painter, and CHmiImageDC on an image.
 // One-pixel lines are rasterised here rather than by Qt, so that the end point is left out
 // and dotted and dashed patterns run along the line as on the panel. The visible area is the
-// painter's device, clip and transformation as they stand when the target is made.
+// painter's device, clip and transformation as they stand when the target is made. With a
+// cache, reusable drawings are painted from the pixels kept there wherever the painter maps
+// whole pixels; they are opaque or absent pixel by pixel, so their copy paints the same pixels.
 class CHmiPainterDC : public CHmiDC {
 public:
-    explicit CHmiPainterDC(QPainter& painter);
+    explicit CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache = nullptr);
 
     HmiPen SelectPen(const HmiPen& pen) override;
     HmiBrush SelectBrush(const HmiBrush& brush) override;
@@ -29,6 +53,7 @@ public:
     void DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format) override;
     HmiPoint GetTextExtent(std::string_view text) override;
     bool DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent) override;
+    void DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint) override;
     HmiRect GetClipBox() const override;
 
 private:
@@ -40,6 +65,8 @@ private:
     void ApplyPenAndBrush();
 
     QPainter& m_painter;
+    CHmiDrawingCache* m_cache;
+    HmiRect m_deviceArea; // the device in the painter's coordinates
     HmiRect m_clipBox;
     HmiPen m_pen;
     HmiBrush m_brush;

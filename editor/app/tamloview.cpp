@@ -281,7 +281,7 @@ void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
         const QRect room = rect.adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
         areas.push_back({room.left(), room.top(), room.right() + 1, room.bottom() + 1});
     }
-    CHmiPainterDC dc(painter);
+    CHmiPainterDC dc(painter, &m_drawings);
     DrawWindow(m_document, dc, areas);
     painter.restore();
 }

@@ -4,6 +4,7 @@
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
 #include "widgets/documentchange.h"
+#include "widgets/hmipainterdc.h"
 #include "widgets/hmiview.h"
 
 #include <QImage>
@@ -87,6 +88,9 @@ private:
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
     QImage m_backdrop; // the document drawn once for a large drag, kept until the document changes
+    // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
+    // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.
+    mutable CHmiDrawingCache m_drawings;
     QMenu* m_contextMenu = nullptr;
     bool m_painting = false;
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes

@@ -1,0 +1,76 @@
+// A canvas keeps the drawings of its widgets from paint to paint. Painting from them must give
+// the pixels of painting every widget anew, on any background, through any clip and shift.
+
+#include "catalogue/curvesettings.h"
+#include "tests/support/mixedwindow.h"
+#include "tests/support/registryscope.h"
+#include "widgets/hmipainterdc.h"
+#include "widgets/tamlodoc.h"
+#include "widgets/windowpainter.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRegion>
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <functional>
+#include <random>
+#include <utility>
+
+namespace {
+
+using PainterSetUp = std::function<void(QPainter&)>;
+
+// The window painted as the canvas paints it, over a background of a different colour at each
+// pixel, so that a drawing that covered what it should leave shows. The curves' samples start
+// over each time, so that every paint draws the same values.
+QImage Paint(const CTamloDoc& document, CHmiDrawingCache* drawings, const PainterSetUp& setUp)
+{
+    QImage image(kMixedWindowWidth, kMixedWindowHeight, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            line[x] = qRgb(x & 0xFF, y & 0xFF, (x ^ y) & 0xFF);
+    }
+    CurveSettings::RandomSample() = [engine = std::minstd_rand()]() mutable { return int(engine() % 32768); };
+    QPainter painter(&image);
+    setUp(painter);
+    CHmiPainterDC dc(painter, drawings);
+    DrawWindow(document, dc);
+    return image;
+}
+
+} // namespace
+
+TEST(KeptDrawings, PaintTheWidgetsAsPaintingThemAnewDoesThroughClipsAndShifts)
+{
+    const CRegistryScope registry;
+    const auto savedLabelTime = std::exchange(CurveSettings::LabelTime(), [] { return std::tm{}; });
+    const auto savedSample = CurveSettings::RandomSample();
+    const std::pair<const char*, PainterSetUp> setUps[] = {
+        {"whole", [](QPainter&) {}},
+        {"shifted", [](QPainter& painter) { painter.translate(-37, 23); }},
+        {"clipped", [](QPainter& painter) { painter.setClipRect(101, 57, 333, 211); }},
+        {"two areas", [](QPainter& painter) {
+             painter.setClipRegion(QRegion(0, 0, 300, 700) + QRegion(520, 340, 504, 90));
+         }},
+        {"scaled", [](QPainter& painter) { painter.scale(2, 2); }}, // painted anew: no whole pixels
+    };
+    for (const unsigned seed : {1u, 2u}) {
+        CTamloDoc document;
+        FillMixedWindow(document, 400, seed);
+        // One cache for every set-up, as a canvas repaints different areas from the same one.
+        CHmiDrawingCache drawings;
+        for (const auto& [name, setUp] : setUps) {
+            const QImage anew = Paint(document, nullptr, setUp);
+            // Noted on the first paint, kept on the second, painted from on the third.
+            for (int paint = 1; paint <= 3; ++paint)
+                EXPECT_TRUE(Paint(document, &drawings, setUp) == anew) << name << ", seed " << seed << ", paint " << paint;
+        }
+        EXPECT_GT(drawings.Bytes(), std::size_t(1) << 20) << "the gradients are kept";
+    }
+    CurveSettings::LabelTime() = savedLabelTime;
+    CurveSettings::RandomSample() = savedSample;
+}
