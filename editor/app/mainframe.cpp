@@ -165,9 +165,14 @@ void CMainFrame::CreatePreviewDock()
     dock->setObjectName(QStringLiteral("variablesDock"));
     dock->setWidget(m_variables);
     addDockWidget(Qt::RightDockWidgetArea, dock);
-    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("propertyDock")), dock);
+    QDockWidget* properties = findChild<QDockWidget*>(QStringLiteral("propertyDock"));
+    tabifyDockWidget(properties, dock);
+    properties->raise(); // the preview raises the Variables
     m_preview = new CPreviewActions(*m_variables, [this] { return ActiveView(); }, this);
-    connect(m_preview, &CPreviewActions::runningChanged, this, &CMainFrame::PreviewRunningChanged);
+    // Queued: a preview also ends while its window is being destroyed, when the active view is no
+    // longer one to ask.
+    connect(m_preview, &CPreviewActions::runningChanged, this, &CMainFrame::PreviewRunningChanged,
+            Qt::QueuedConnection);
     connect(m_preview, &CPreviewActions::message, this, [this](const QString& text) {
         statusBar()->showMessage(text);
     });
