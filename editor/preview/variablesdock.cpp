@@ -11,13 +11,15 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -47,6 +49,15 @@ public:
         model->setData(index, static_cast<QComboBox*>(editor)->currentText(), Qt::EditRole);
     }
 };
+
+// The dock sits beside the property pane and is no wider than it: small buttons.
+QToolButton* ActionButton(const QString& text)
+{
+    auto* button = new QToolButton;
+    button->setText(text);
+    button->setAutoRaise(true);
+    return button;
+}
 
 QString ProblemLine(const BindingProblem& problem)
 {
@@ -84,22 +95,27 @@ CVariablesDock::CVariablesDock(QWidget* parent)
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
     m_table->horizontalHeader()->setStretchLastSection(true);
     connect(m_model, &CVariablesModel::valueRefused, this, &CVariablesDock::Tell);
-    connect(m_model, &QAbstractItemModel::modelReset, m_table, &QTableView::resizeColumnsToContents);
+    connect(m_model, &QAbstractItemModel::modelReset, m_table, [this] {
+        m_table->resizeColumnsToContents();
+        // Room for the values that generators bring, which the init values seldom need.
+        const int valueWidth = m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000000"));
+        m_table->setColumnWidth(CVariablesModel::Value, std::max(m_table->columnWidth(CVariablesModel::Value), valueWidth));
+    });
 
     m_problemList->setObjectName(QStringLiteral("previewProblems"));
     m_problemList->setHeaderLabels({QStringLiteral("Widget"), QStringLiteral("Binding"), QStringLiteral("Error")});
     m_problemList->setRootIsDecorated(false);
     m_problemList->hide();
 
-    auto* save = new QPushButton(QStringLiteral("Save"));
+    auto* save = ActionButton(QStringLiteral("Save"));
     save->setToolTip(QStringLiteral("Keep the values and generators in the project's %1").arg(kValueSetFileName));
-    auto* load = new QPushButton(QStringLiteral("Load"));
+    auto* load = ActionButton(QStringLiteral("Load"));
     load->setToolTip(QStringLiteral("Take the values and generators of the project's %1").arg(kValueSetFileName));
-    auto* reset = new QPushButton(QStringLiteral("Reset"));
+    auto* reset = ActionButton(QStringLiteral("Reset"));
     reset->setToolTip(QStringLiteral("Every variable back at its init value, without generators"));
-    connect(save, &QPushButton::clicked, this, &CVariablesDock::SaveValues);
-    connect(load, &QPushButton::clicked, this, &CVariablesDock::LoadValues);
-    connect(reset, &QPushButton::clicked, this, [this] {
+    connect(save, &QToolButton::clicked, this, &CVariablesDock::SaveValues);
+    connect(load, &QToolButton::clicked, this, &CVariablesDock::LoadValues);
+    connect(reset, &QToolButton::clicked, this, [this] {
         if (m_values) {
             m_values->Reset();
             m_model->SetValues(m_values.get()); // the generator columns changed as well
