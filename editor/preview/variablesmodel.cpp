@@ -40,7 +40,8 @@ CVariablesModel::CVariablesModel(QObject* parent) : QAbstractTableModel(parent) 
 
 CVariablesModel::~CVariablesModel()
 {
-    SetValues(nullptr);
+    if (m_values)
+        m_values->RemoveObserver(this);
 }
 
 void CVariablesModel::SetValues(CPreviewValues* values)
