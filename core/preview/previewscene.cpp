@@ -162,7 +162,8 @@ std::vector<BindingProblem> CPreviewScene::Problems() const
         if (binding.result && binding.result->error) {
             const CHmiWidget* widget = m_widgets[binding.widget].original;
             problems.push_back({widget, binding.property, widget->FindProperty(binding.property)->m_strExpression,
-                                *binding.result->error});
+                                *binding.result->error,
+                                m_widgets[binding.widget].evaluated->GetWidgetRect().Normalized()});
         }
     return problems;
 }
@@ -172,6 +173,24 @@ const CHmiWidget* CPreviewScene::Evaluated(const CHmiWidget& documentWidget) con
     const auto found = std::find_if(m_widgets.begin(), m_widgets.end(),
                                     [&](const Widget& widget) { return widget.original == &documentWidget; });
     return found == m_widgets.end() ? nullptr : found->evaluated.get();
+}
+
+std::vector<HmiRect> CPreviewScene::FlashTurns(std::int64_t fromMs, std::int64_t toMs) const
+{
+    std::vector<HmiRect> areas;
+    for (const Widget& widget : m_widgets)
+        if (widget.evaluated->m_nFlash && IsShownAt(*widget.evaluated, fromMs) != IsShownAt(*widget.evaluated, toMs))
+            areas.push_back(widget.evaluated->GetWidgetRect().Normalized());
+    return areas;
+}
+
+const CHmiWidget* CPreviewScene::WidgetAt(HmiPoint point, std::int64_t timeMs) const
+{
+    for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget)
+        if (widget->original != m_window && IsShownAt(*widget->evaluated, timeMs) &&
+            widget->evaluated->GetWidgetRect().Normalized().Contains(point))
+            return widget->original;
+    return nullptr;
 }
 
 std::int64_t CPreviewScene::FlashPhaseMs(std::int32_t flashSpeed)

@@ -21,6 +21,7 @@ struct BindingProblem {
     std::string property;
     std::string expression;
     ExpressionError error;
+    HmiRect area; // where the widget stands with the bindings that evaluate
 };
 
 // Hears that evaluated properties changed: the areas (window coordinates) where the changed
@@ -53,6 +54,11 @@ public:
     std::vector<BindingProblem> Problems() const;
     // The evaluated copy of a widget of the document, or null; valid until the values change.
     const CHmiWidget* Evaluated(const CHmiWidget& documentWidget) const;
+    // The areas of the flashing widgets that show at one of the times and not at the other.
+    std::vector<HmiRect> FlashTurns(std::int64_t fromMs, std::int64_t toMs) const;
+    // The document's widget that a click at the point meets at the time: the topmost one shown
+    // there, the window widget aside; null where there is none.
+    const CHmiWidget* WidgetAt(HmiPoint point, std::int64_t timeMs) const;
 
     // A flashing widget shows for this many milliseconds and hides for as long; a smaller flash
     // speed flashes faster (speed 0 flashes as speed 1).

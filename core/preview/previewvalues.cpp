@@ -129,6 +129,11 @@ void ForEachRow(const CHmiVariableDatabase& database, Visit visit)
 
 } // namespace
 
+const char* VariableTypeName(VariableType type)
+{
+    return Info(type).shortName;
+}
+
 CPreviewValues::CPreviewValues(const CHmiVariableDatabase& database)
 {
     // The variables first, then the other names, which may stand before what they name.

@@ -16,6 +16,8 @@ class CHmiVariableDatabase;
 
 // The types of the realtime database, as values hold them.
 enum class VariableType { Char, UChar, Short, UShort, Long, ULong, Float, Double, String };
+// The type's name as rtdb.xml writes it: "char", "ulong", "string".
+const char* VariableTypeName(VariableType type);
 
 // One variable of the project with the value the preview gives it.
 struct PreviewVariable {

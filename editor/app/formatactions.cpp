@@ -118,7 +118,7 @@ void CFormatActions::SyncWithActiveView()
 {
     const CTamloView* view = m_activeView();
     for (QAction* action : findChildren<QAction*>())
-        action->setEnabled(view != nullptr);
+        action->setEnabled(view && !view->Preview());
     m_lock->setChecked(view && view->IsLocked());
 }
 

@@ -24,7 +24,8 @@ public:
     // Both menus are created on demand and owned by their parent.
     QMenu* CreateFormatMenu(QWidget* parent);
     QMenu* CreateContextMenu(QWidget* parent);
-    // Shows the active canvas's lock in the check mark; greys everything while no window is open.
+    // Shows the active canvas's lock in the check mark; greys everything while no window is open
+    // or the active one shows a preview.
     void SyncWithActiveView();
     QAction* LockAction() const { return m_lock; }
 

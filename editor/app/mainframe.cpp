@@ -4,6 +4,7 @@
 #include "editorprompts.h"
 #include "formatactions.h"
 #include "pathtext.h"
+#include "previewactions.h"
 #include "tamloview.h"
 #include "toolbox.h"
 #include "widgetlibrarydialog.h"
@@ -18,6 +19,7 @@
 #include "editor/problems/problemspane.h"
 #include "editor/problems/renamevariabledialog.h"
 #include "editor/problems/searchresults.h"
+#include "editor/preview/variablesdock.h"
 #include "editor/projectdialogs/modeltext.h"
 #include "editor/projectdialogs/projectwindowdialog.h"
 #include "editor/projectdialogs/widgetitemdialogs.h"
@@ -153,6 +155,41 @@ void CMainFrame::CreateDocks()
     });
     ConnectRowDialogs();
     CreateProjectDocks();
+    CreatePreviewDock(); // after the property dock, whose tab it shares
+}
+
+void CMainFrame::CreatePreviewDock()
+{
+    m_variables = new CVariablesDock;
+    auto* dock = new QDockWidget(QStringLiteral("Variables"), this);
+    dock->setObjectName(QStringLiteral("variablesDock"));
+    dock->setWidget(m_variables);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    QDockWidget* properties = findChild<QDockWidget*>(QStringLiteral("propertyDock"));
+    tabifyDockWidget(properties, dock);
+    properties->raise(); // the preview raises the Variables
+    m_preview = new CPreviewActions(*m_variables, [this] { return ActiveView(); }, this);
+    // Queued: a preview also ends while its window is being destroyed, when the active view is no
+    // longer one to ask.
+    connect(m_preview, &CPreviewActions::runningChanged, this, &CMainFrame::PreviewRunningChanged,
+            Qt::QueuedConnection);
+    connect(m_preview, &CPreviewActions::message, this, [this](const QString& text) {
+        statusBar()->showMessage(text);
+    });
+}
+
+void CMainFrame::PreviewRunningChanged(bool running)
+{
+    m_propertyPane->setEnabled(!running);
+    m_toolbox->setEnabled(!running);
+    m_formatActions->SyncWithActiveView();
+    UpdateEditActions();
+    if (running) {
+        m_variables->parentWidget()->show();
+        m_variables->parentWidget()->raise();
+    }
+    statusBar()->showMessage(running ? QStringLiteral("Preview: F5 or Esc returns to editing")
+                                     : QStringLiteral("Ready"));
 }
 
 void CMainFrame::ConnectRowDialogs()
@@ -290,6 +327,9 @@ void CMainFrame::CreateMenus()
     view->addAction(standard->toggleViewAction());
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    view->addAction(m_preview->PreviewAction());
+    view->addSeparator();
     QAction* statusBarToggle = view->addAction(QStringLiteral("&Status Bar"));
     statusBarToggle->setCheckable(true);
     statusBarToggle->setChecked(true);
@@ -611,6 +651,8 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
     auto* child = qobject_cast<CChildFrame*>(window);
     if (child == m_shownChild)
         return;
+    if (m_preview->IsRunning() && (!child || &child->View() != m_preview->PreviewedView()))
+        m_preview->Leave();
     m_shownChild = child;
     ShowChildInPanes();
     m_formatActions->SyncWithActiveView();
@@ -638,6 +680,7 @@ void CMainFrame::FinishAfterFirstPaint()
         return;
     m_painted = true;
     m_explorer->Refresh();
+    m_preview->FollowProject();
 }
 
 void CMainFrame::ShowSelection(CTamloView& view)
@@ -657,13 +700,14 @@ void CMainFrame::ShowSelection(CTamloView& view)
 void CMainFrame::UpdateEditActions()
 {
     CTamloView* view = ActiveView();
-    const bool hasWidgets = view && HasEditableWidgets(view->Selection().Widgets());
-    m_undoAction->setEnabled(view && view->Document().CanUndo());
+    const bool editable = view && !view->Preview();
+    const bool hasWidgets = editable && HasEditableWidgets(view->Selection().Widgets());
+    m_undoAction->setEnabled(editable && view->Document().CanUndo());
     m_cutAction->setEnabled(hasWidgets);
     m_copyAction->setEnabled(hasWidgets);
     m_deleteAction->setEnabled(hasWidgets);
     const QMimeData* clipboard = QApplication::clipboard()->mimeData();
-    m_pasteAction->setEnabled(view && clipboard && clipboard->hasFormat(kWidgetsMimeType));
+    m_pasteAction->setEnabled(editable && clipboard && clipboard->hasFormat(kWidgetsMimeType));
     m_selectAllAction->setEnabled(view != nullptr);
     m_saveAction->setEnabled(view != nullptr);
     m_saveAsAction->setEnabled(view != nullptr);
@@ -738,6 +782,7 @@ void CMainFrame::FileOpenProjectWindow()
 void CMainFrame::FollowProjectPath()
 {
     m_explorer->Refresh();
+    m_preview->FollowProject();
 }
 
 void CMainFrame::FileSave()
@@ -754,6 +799,8 @@ void CMainFrame::FileSaveAs()
 
 void CMainFrame::CancelTool()
 {
+    if (m_preview->IsRunning())
+        return m_preview->Leave(); // Escape ends the preview first
     CCanvasTools& tools = m_session.Tools();
     if (CTamloView* view = ActiveView())
         tools.Cancel(*view); // ends a drag in progress too

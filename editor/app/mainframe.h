@@ -22,11 +22,13 @@ class CFormatActions;
 class CHmiWidget;
 class CProblemsPane;
 class CProjectExplorer;
+class CPreviewActions;
 class CPropertyPane;
 class CSearchResults;
 class CTamloDoc;
 class CTamloView;
 class CToolbox;
+class CVariablesDock;
 class CWidgetLibraryDialog;
 class CWidgetNameCombo;
 class QLabel;
@@ -65,6 +67,8 @@ public:
     CPropertyPane& PropertyPane() const { return *m_propertyPane; }
     CToolbox& Toolbox() const { return *m_toolbox; }
     CWidgetNameCombo& NameCombo() const { return *m_nameCombo; }
+    CVariablesDock& VariablesDock() const { return *m_variables; }
+    CPreviewActions& Preview() const { return *m_preview; }
     QMdiArea& MdiArea() const { return *m_mdiArea; }
     const CRecentFileList& RecentFiles() const { return m_recentFiles; }
 
@@ -110,6 +114,10 @@ private:
     // The Problems and Search Results docks, the Tools menu and the commands behind them.
     void CreateProjectDocks();
     void CreateToolsMenu();
+    // The Variables dock and the preview that plays its values.
+    void CreatePreviewDock();
+    // While a preview runs, nothing that changes a document can be reached.
+    void PreviewRunningChanged(bool running);
     void ToolsCheckProject();
     void ToolsRenameVariable();
     void EditFindReferences();
@@ -166,6 +174,8 @@ private:
     CProblemsPane* m_problems = nullptr;
     CSearchResults* m_searchResults = nullptr;
     CFormatActions* m_formatActions = nullptr;
+    CVariablesDock* m_variables = nullptr;
+    CPreviewActions* m_preview = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
     bool m_painted = false;              // the frame has painted once: the explorer shows the project
     QMenu* m_canvasMenu = nullptr;

@@ -2,6 +2,7 @@
 
 #include "editor/model/canvasgeometry.h"
 #include "editor/model/formatcommands.h"
+#include "editor/model/previewsession.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
@@ -235,6 +236,8 @@ void CTamloView::paintEvent(QPaintEvent* event)
 {
     const QScopedValueRollback painting(m_painting, true);
     QPainter painter(this);
+    if (m_preview)
+        return PaintPreview(painter, event->region());
     // When a drag shows rectangles over much of the canvas, as a band over thousands of widgets
     // does, the document is drawn once and then copied, so that the rectangles follow the mouse;
     // the copy serves every repaint until the document changes, so that the selection the drag
@@ -331,18 +334,22 @@ void CTamloView::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
+    if (m_preview)
+        return emit previewClicked(event->position().toPoint());
     m_tools.ButtonDown(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
 }
 
 void CTamloView::mouseMoveEvent(QMouseEvent* event)
 {
     emit cursorMoved(event->position().toPoint());
+    if (m_preview)
+        return;
     m_tools.MouseMove(*this, ToHmiPoint(event->position().toPoint()));
 }
 
 void CTamloView::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton || m_preview)
         return QWidget::mouseReleaseEvent(event);
     const bool wasDragging = m_tools.IsDragging();
     m_tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()));
@@ -352,14 +359,14 @@ void CTamloView::mouseReleaseEvent(QMouseEvent* event)
 
 void CTamloView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton || m_preview)
         return QWidget::mouseDoubleClickEvent(event);
     m_tools.DoubleClick(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
 }
 
 void CTamloView::keyPressEvent(QKeyEvent* event)
 {
-    if (m_locked)
+    if (m_locked || m_preview)
         return event->accept(); // a locked layout ignores every key, even for scrolling
     const std::optional<NudgeKey> key = ToNudgeKey(event->key());
     const bool resize = event->modifiers().testFlag(Qt::ShiftModifier);
@@ -370,6 +377,32 @@ void CTamloView::keyPressEvent(QKeyEvent* event)
 
 void CTamloView::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (m_contextMenu)
+    if (m_contextMenu && !m_preview)
         m_contextMenu->popup(event->globalPos());
+}
+
+void CTamloView::SetPreview(const CPreviewSession* preview)
+{
+    m_tools.Cancel(*this); // a drag in progress ends before the canvas turns read-only
+    m_preview = preview;
+    m_controls.SetHidden(preview != nullptr);
+    update();
+}
+
+void CTamloView::InvalidatePreview(std::span<const HmiRect> areas)
+{
+    for (const HmiRect& area : areas)
+        InvalidateDocRect(area);
+}
+
+void CTamloView::PaintPreview(QPainter& painter, const QRegion& region) const
+{
+    ClipTo(painter, region);
+    painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
+    CHmiPainterDC dc(painter);
+    m_preview->Draw(dc);
+    painter.setPen(QPen(Qt::red, 2, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    for (const BindingProblem& problem : m_preview->Scene().Problems())
+        painter.drawRect(ToQRect(problem.area).adjusted(-1, -1, 1, 1));
 }

@@ -10,8 +10,10 @@
 #include <QImage>
 #include <QWidget>
 
+#include <span>
 #include <vector>
 
+class CPreviewSession;
 class CTamloDoc;
 class QMenu;
 
@@ -52,6 +54,14 @@ public:
     // The menu the canvas pops up on a right click; the main frame provides it.
     void SetContextMenu(QMenu* menu) { m_contextMenu = menu; }
 
+    // Shows a running preview of the document instead of the document, or the document again
+    // (null). While it shows one the canvas is read-only: no mouse tools, keys, live controls,
+    // trackers or context menu; a click is told as previewClicked instead.
+    void SetPreview(const CPreviewSession* preview);
+    const CPreviewSession* Preview() const { return m_preview; }
+    // Repaints where the preview's drawing changed.
+    void InvalidatePreview(std::span<const HmiRect> areas);
+
 signals:
     // Widgets joined or left the selection.
     void selectionChanged();
@@ -59,6 +69,8 @@ signals:
     void commandEnded();
     // The mouse stands over this point of the window.
     void cursorMoved(const QPoint& point);
+    // The left button went down at this point of the window while the canvas shows a preview.
+    void previewClicked(const QPoint& point);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -76,6 +88,8 @@ private:
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
+    // The preview's widgets in the region, with the widgets whose bindings fail outlined.
+    void PaintPreview(QPainter& painter, const QRegion& region) const;
     // The drag's focus rectangles that meet the exposed area.
     void DrawDragFeedback(QPainter& painter, const QRect& exposed) const;
     QRect FeedbackArea() const;
@@ -93,5 +107,6 @@ private:
     mutable CHmiDrawingCache m_drawings;
     QMenu* m_contextMenu = nullptr;
     bool m_painting = false;
+    const CPreviewSession* m_preview = nullptr;
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes
 };

@@ -54,6 +54,14 @@ void CCanvasControls::DocumentChanged(const CDocumentChange& change)
         m_canvas.setUpdatesEnabled(true);
 }
 
+void CCanvasControls::SetHidden(bool hidden)
+{
+    for (const HmiWidgetPtr& widget : m_document.Widgets())
+        if (auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(widget.get()))
+            if (CCanvasControl* control = ControlOf(*controlWidget))
+                control->Widget()->setVisible(!hidden && !m_document.IsWidgetDeleted(controlWidget));
+}
+
 void CCanvasControls::Sync()
 {
     for (const HmiWidgetPtr& widget : m_document.Widgets())

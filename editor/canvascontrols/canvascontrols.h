@@ -27,6 +27,9 @@ public:
     CCanvasControl* ControlOf(const CHmiCtrlWidget& widget) const;
 
     void DocumentChanged(const CDocumentChange& change) override;
+    // Hides every control while the canvas shows something else than the document, and shows
+    // those of the window's widgets again.
+    void SetHidden(bool hidden);
 
 private:
     // Brings every control in step with the document, as after a load.

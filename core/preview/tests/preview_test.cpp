@@ -169,8 +169,13 @@ TEST(PreviewScene, EvaluatesOnlyWhatAChangeReadsAndLeavesTheDocumentAsItWas)
               std::tuple(boiler, "right", 17u, "division by zero"));
     EXPECT_EQ(fill(), "65280 300") << "a failing binding leaves the document's value";
 
+    EXPECT_EQ(problems[0].area, (HmiRect{100, 80, 300, 400}));
     EXPECT_TRUE(CPreviewScene::IsShownAt(*scene.Evaluated(*boiler), 299));
     EXPECT_FALSE(CPreviewScene::IsShownAt(*scene.Evaluated(*boiler), 300));
+    EXPECT_EQ(scene.FlashTurns(299, 300), std::vector{problems[0].area}) << "the boiler alone flashes";
+    EXPECT_TRUE(scene.FlashTurns(300, 599).empty());
+    EXPECT_EQ(scene.WidgetAt({120, 300}, 299), boiler);
+    EXPECT_EQ(scene.WidgetAt({120, 300}, 300), nullptr) << "flashed away, over the window widget";
     p.values.SetValue(p.Index("$pump1"), 1);
     EXPECT_FALSE(CPreviewScene::IsShownAt(*scene.Evaluated(*boiler), 0));
     p.values.SetGenerator(p.Index("$plc.pressure"), CValueGenerator{CValueGenerator::Kind::Ramp, 0, 9, 500});

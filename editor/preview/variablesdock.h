@@ -1,0 +1,57 @@
+#pragma once
+
+#include "preview/previewscene.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class CPreviewValues;
+class CVariablesModel;
+class QLabel;
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTableView;
+class QTreeWidget;
+
+// The "Variables" dock of the preview: every variable of the project with its value, edited in
+// place, with a filter and a generator per variable; the value set of the project
+// (preview-values.json) is saved, loaded and reset from here. Below, the bindings of the
+// previewed window that fail, with their errors. The dock owns the values the preview plays.
+class CVariablesDock : public QWidget {
+    Q_OBJECT
+public:
+    explicit CVariablesDock(QWidget* parent = nullptr);
+    ~CVariablesDock() override;
+
+    // Reads the variables of the project in the folder (ending in "/"); they start at their
+    // init values. Whatever plays the old values must have let go of them.
+    void LoadProject(const std::string& folder);
+    const std::string& ProjectFolder() const { return m_folder; }
+    CPreviewValues* Values() const { return m_values.get(); }
+
+    // Lists the failing bindings of the previewed window; none while no preview runs.
+    void ShowProblems(const std::vector<BindingProblem>& problems);
+
+    QTableView* Table() const { return m_table; }
+    QLineEdit* Filter() const { return m_filter; }
+    QTreeWidget* ProblemList() const { return m_problemList; }
+
+private:
+    void SaveValues();
+    void LoadValues();
+    void Tell(const QString& text);
+
+    std::string m_folder;
+    std::unique_ptr<CPreviewValues> m_values;
+    CVariablesModel* m_model;
+    QSortFilterProxyModel* m_filtered;
+    QLineEdit* m_filter;
+    QTableView* m_table;
+    QLabel* m_message;
+    QTreeWidget* m_problemList;
+    QStringList m_shownProblems; // one line each, to leave the list alone when nothing changed
+};
