@@ -169,6 +169,7 @@ void CMainFrame::CreatePreviewDock()
     tabifyDockWidget(properties, dock);
     properties->raise(); // the preview raises the Variables
     m_preview = new CPreviewActions(*m_variables, [this] { return ActiveView(); }, this);
+    connect(m_variables, &CVariablesDock::escapePressed, this, &CMainFrame::CancelTool);
     // Queued: a preview also ends while its window is being destroyed, when the active view is no
     // longer one to ask.
     connect(m_preview, &CPreviewActions::runningChanged, this, &CMainFrame::PreviewRunningChanged,

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
@@ -197,4 +198,12 @@ void CVariablesDock::Tell(const QString& text)
 {
     m_message->setText(text);
     m_message->setVisible(!text.isEmpty());
+}
+
+void CVariablesDock::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        emit escapePressed();
+    else
+        QWidget::keyPressEvent(event);
 }

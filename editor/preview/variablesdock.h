@@ -11,6 +11,7 @@
 
 class CPreviewValues;
 class CVariablesModel;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
@@ -39,6 +40,13 @@ public:
     QTableView* Table() const { return m_table; }
     QLineEdit* Filter() const { return m_filter; }
     QTreeWidget* ProblemList() const { return m_problemList; }
+
+signals:
+    // Escape reached the dock: no cell was being edited, so the user means to leave the preview.
+    void escapePressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void SaveValues();

@@ -111,6 +111,11 @@ private slots:
         QCOMPARE(child->Document().Serialize(), bytes);
         QCOMPARE(dock.ProblemList()->topLevelItemCount(), 0);
 
+        // Escape in the Variables dock ends it too, when no value is being typed.
+        preview.Start(view);
+        QTest::keyClick(dock.Table(), Qt::Key_Escape);
+        QVERIFY(!preview.IsRunning());
+
         // Editing a previewed window, as a project-wide rename does, ends its preview.
         preview.Start(view);
         boiler->m_pDocument->WidgetChanged(*boiler, DocChange::Bindings);
