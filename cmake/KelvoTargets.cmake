@@ -2,11 +2,19 @@
 
 # kelvo_add_library(NAME): a shared library whose sources the area folders add with
 # target_sources. Its sources include each other from the folder that declares it
-# ("widgets/hmiwidget.h" in core/), which is its only include root.
+# ("widgets/hmiwidget.h" in core/), which is its only include root; the headers it installs
+# join its HEADERS file set and keep that layout.
 function(kelvo_add_library name)
     add_library(${name} SHARED)
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR})
+    target_compile_features(${name} PUBLIC cxx_std_20)
     target_compile_options(${name} PRIVATE -Wall -Wextra)
+    kelvo_set_library_version(${name})
+endfunction()
+
+# The version a shared library's file carries, and the one programs linked against it ask for.
+function(kelvo_set_library_version name)
+    set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${KELVO_SOVERSION})
 endfunction()
 
 # kelvo_add_executable(NAME SOURCES ... LIBS ...): a program that lands in build/bin. It includes
@@ -55,9 +63,10 @@ endfunction()
 function(kelvo_add_shared_editor_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
     add_library(${name} SHARED ${ARG_SOURCES})
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LIBS})
     target_compile_options(${name} PRIVATE -Wall -Wextra)
+    kelvo_set_library_version(${name})
 endfunction()
 
 # kelvo_add_qt_test(NAME SOURCES ... LIBS ...): a QtTest program run by ctest on the offscreen
@@ -74,15 +83,4 @@ function(kelvo_add_qt_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
-endfunction()
-
-# kelvo_add_widget_library(NAME SOURCES ... FOLDER dir [LIBS ...]): a widget library as a third
-# party builds one, named NAME.so in the modules folder dir. LIBS adds kelvo-editor-extensions for
-# a library that extends the editor too.
-function(kelvo_add_widget_library name)
-    cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LIBS" ${ARGN})
-    add_library(${name} MODULE ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE kelvo-core ${ARG_LIBS})
-    target_compile_options(${name} PRIVATE -Wall -Wextra)
-    set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${ARG_FOLDER})
 endfunction()

@@ -8,6 +8,7 @@ packages=(
     qt6-base-dev libxml2-dev libgtest-dev
     locales
     xvfb xauth x11-utils xdotool imagemagick fonts-dejavu-core
+    desktop-file-utils appstream
 )
 
 missing=()

@@ -25,6 +25,14 @@ namespace {
 constexpr const char* kModulesFolder = "modules";
 const QString kDemoStartWindow = QStringLiteral("main.xml");
 
+// The installed data (the demo project, hmifuncs.xml), found from the program's folder as the
+// installation lays them out, so that an installation works under any prefix.
+QString InstalledDataFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
+                           QStringLiteral(KELVO_DATA_FROM_PROGRAM));
+}
+
 // The file argument is the first argument that is not an option.
 QString FileArgument(const QStringList& arguments)
 {
@@ -50,12 +58,12 @@ CTamloApp::~CTamloApp()
 
 QString CTamloApp::DemoProjectFolder()
 {
-    // Next to the program when installed, in the source tree when run from the build folder.
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    for (const QString& candidate : {QStringLiteral("demo"), QStringLiteral("../../examples/demo")}) {
-        const QString folder = programFolder.absoluteFilePath(candidate);
+    // In the installed data folder, or in the source tree for a program run from its build folder.
+    const QString buildTreeDemo = QCoreApplication::applicationDirPath() + QStringLiteral("/../../examples/demo");
+    for (const QString& candidate : {InstalledDataFolder() + QStringLiteral("/demo"), buildTreeDemo}) {
+        const QString folder = QDir::cleanPath(candidate);
         if (QFileInfo::exists(folder + QLatin1Char('/') + kDemoStartWindow))
-            return QDir::cleanPath(folder);
+            return folder;
     }
     return {};
 }
@@ -86,8 +94,8 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     // The explorer reads the project once the main frame has painted.
     const QString documentPath = ApplyProjectArgument(fileArgument);
     const std::string programFolder = ToModelPath(QCoreApplication::applicationDirPath());
-    m_mainFrame->SetScriptFunctions(
-        LoadScriptFunctions(FindScriptFunctionsFile({GetProjectPath(), programFolder})));
+    m_mainFrame->SetScriptFunctions(LoadScriptFunctions(
+        FindScriptFunctionsFile({GetProjectPath(), ToModelPath(InstalledDataFolder()), programFolder})));
 
     CChildFrame* started =
         documentPath.isEmpty() ? m_mainFrame->NewDocument() : m_mainFrame->OpenDocument(documentPath);
