@@ -12,6 +12,7 @@
 #include <exception>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <system_error>
 
 namespace {
@@ -48,10 +49,23 @@ std::string ClassCountText(std::size_t count)
     return "registered " + std::to_string(count) + (count == 1 ? " widget class" : " widget classes");
 }
 
-WidgetLibraryLoad Load(const ModuleFile& file, const CLibraryCrashGuard& guard)
+// Why a library that states the version (null when it states none) cannot be used; empty when it can.
+std::string InterfaceMismatch(const int* version)
 {
-    const auto outcome = [&file](LibraryOutcome what, std::string reason) {
-        return WidgetLibraryLoad{file.name, file.path, what, std::move(reason)};
+    const std::string expected = std::to_string(kWidgetLibraryInterfaceVersion);
+    if (!version)
+        return "it states no widget-library interface version; this program needs version " + expected;
+    if (*version != kWidgetLibraryInterfaceVersion)
+        return "it was built for widget-library interface version " + std::to_string(*version) +
+               "; this program needs version " + expected;
+    return {};
+}
+
+WidgetLibraryLoad Load(const ModuleFile& file, const std::string& folder, const CLibraryCrashGuard& guard)
+{
+    int version = 0;
+    const auto outcome = [&](LibraryOutcome what, std::string reason) {
+        return WidgetLibraryLoad{file.name, file.path, folder, version, what, std::move(reason)};
     };
     // Loading runs the library's own constructors, so a crash is blamed on it from here on.
     const CLibraryCrashGuard::CLoading loading(guard, file.path);
@@ -63,6 +77,14 @@ WidgetLibraryLoad Load(const ModuleFile& file, const CLibraryCrashGuard& guard)
     const auto init = reinterpret_cast<WidgetsLibInitFunction>(dlsym(handle, "WidgetsLibInit"));
     if (!init)
         return outcome(LibraryOutcome::NoEntryPoint, "it stays loaded but adds no widget classes");
+    // Read before the entry point runs: code built against another layout of the widget classes
+    // would go wrong in ways nothing could report.
+    const auto* stated = static_cast<const int*>(dlsym(handle, kWidgetLibraryInterfaceSymbol));
+    version = stated ? *stated : 0;
+    if (std::string mismatch = InterfaceMismatch(stated); !mismatch.empty()) {
+        dlclose(handle);
+        return outcome(LibraryOutcome::Incompatible, std::move(mismatch));
+    }
     const CWidgetLibRegistrations before;
     std::optional<std::string> thrown;
     if (CallEntryPoint(init, thrown) != 0)
@@ -88,6 +110,7 @@ const char* OutcomeText(LibraryOutcome outcome)
     case LibraryOutcome::NotLoaded: return "cannot be loaded";
     case LibraryOutcome::Threw: return "threw";
     case LibraryOutcome::Refused: return "refused";
+    case LibraryOutcome::Incompatible: return "incompatible";
     case LibraryOutcome::SkippedAfterCrash: break;
     }
     return "skipped after a crash";
@@ -99,21 +122,31 @@ bool WidgetLibraryLoad::Failed() const
            outcome != LibraryOutcome::Declined;
 }
 
-WidgetLibraryLoadReport LoadWidgetLibraries(const std::string& folder, const std::string& stateFolder)
+WidgetLibraryLoadReport LoadWidgetLibraries(const std::vector<std::string>& folders, const std::string& stateFolder)
 {
     RegisterBuiltinWidgetClasses();
 
-    std::error_code error;
-    WidgetLibraryLoadReport report{std::filesystem::absolute(folder, error).string(), stateFolder, {}};
+    WidgetLibraryLoadReport report{{}, stateFolder, {}};
     const CLibraryCrashGuard guard(stateFolder);
-    for (const ModuleFile& file : ListModulesFolder(report.folder)) {
-        if (!file.refusal.empty())
-            report.libraries.push_back({file.name, file.path, LibraryOutcome::Refused, file.refusal});
-        else if (guard.CrashedBefore(file.path))
-            report.libraries.push_back({file.name, file.path, LibraryOutcome::SkippedAfterCrash,
-                                        "it ended the editor while it was being loaded at an earlier start"});
-        else
-            report.libraries.push_back(Load(file, guard));
+    std::set<std::string> seen;
+    for (const std::string& given : folders) {
+        std::error_code error;
+        const std::string folder = std::filesystem::absolute(given, error).string();
+        report.folders.push_back(folder);
+        for (const ModuleFile& file : ListModulesFolder(folder)) {
+            if (!seen.insert(file.path).second)
+                continue;
+            const auto unloaded = [&](LibraryOutcome outcome, std::string reason) {
+                report.libraries.push_back({file.name, file.path, folder, 0, outcome, std::move(reason)});
+            };
+            if (!file.refusal.empty())
+                unloaded(LibraryOutcome::Refused, file.refusal);
+            else if (guard.CrashedBefore(file.path))
+                unloaded(LibraryOutcome::SkippedAfterCrash,
+                         "it ended the editor while it was being loaded at an earlier start");
+            else
+                report.libraries.push_back(Load(file, folder, guard));
+        }
     }
     return report;
 }

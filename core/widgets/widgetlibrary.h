@@ -4,7 +4,8 @@
 //
 // A widget library is a shared object in the editor's "modules" folder. It links against the
 // core library, derives its widgets from CHmiWidget (or CHmiCtrlWidget), and exports one
-// function, `extern "C" int WidgetsLibInit()`, which the editor calls once after loading it.
+// function, `extern "C" int WidgetsLibInit()`, which the editor calls once after loading it,
+// and states the interface version it was built against with HMI_WIDGET_LIBRARY_INTERFACE.
 // That function registers the library's classes by key:
 //
 //     class CGaugeWidget : public CHmiWidget {
@@ -19,6 +20,7 @@
 //     static const CWidgetRunTimeClass gaugeClasses[] = {
 //         {"gauge", &CGaugeWidget::classCGaugeWidget},
 //     };
+//     HMI_WIDGET_LIBRARY_INTERFACE
 //     extern "C" int WidgetsLibInit()
 //     {
 //         return RegisterWidgetsLib("gauges", 1, gaugeClasses);
@@ -33,6 +35,22 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+// The version of the interface above: the widget base classes' layout and virtual operations,
+// the registration and the extension points. It goes up with every change that breaks a library
+// built before it, and the loader refuses a library built for another version before any of
+// its registration code runs.
+inline constexpr int kWidgetLibraryInterfaceVersion = 1;
+
+// The name under which a library exports the version it was built against.
+inline constexpr const char* kWidgetLibraryInterfaceSymbol = "WidgetsLibInterfaceVersion";
+
+// Placed once in one source of a widget library, at namespace scope: exports the interface
+// version the library is compiled against. A variable, not a function, so that the loader can
+// read it without running the library's code.
+#define HMI_WIDGET_LIBRARY_INTERFACE                                                                          \
+    extern "C" __attribute__((visibility("default"))) const int WidgetsLibInterfaceVersion =                 \
+        kWidgetLibraryInterfaceVersion;
 
 // One library that registered its classes.
 struct CWidgetLibRecord {

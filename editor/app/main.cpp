@@ -1,11 +1,34 @@
+#include "editorcommandline.h"
 #include "editorprompts.h"
 #include "firstpaintexit.h"
 #include "tamloapp.h"
 
 #include <QApplication>
 
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+// The exit status when the command line asks for help or the version, or is malformed; these
+// are answered without a display.
+std::optional<int> AnsweredOnTheCommandLine(int& argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const EditorCommandLine commandLine = EditorCommandLine::Parse(QCoreApplication::arguments());
+    if (commandLine.request == EditorCommandLine::Request::Start)
+        return std::nullopt;
+    const bool malformed = commandLine.request == EditorCommandLine::Request::Malformed;
+    std::fputs(commandLine.text.toLocal8Bit().constData(), malformed ? stderr : stdout);
+    return malformed ? 2 : 0;
+}
+
+} // namespace
+
 int main(int argc, char* argv[])
 {
+    if (const std::optional<int> status = AnsweredOnTheCommandLine(argc, argv))
+        return *status;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kelvo HMI Editor"));
     CFirstPaintExit::InstallWhenAsked(application);

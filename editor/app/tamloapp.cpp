@@ -1,6 +1,7 @@
 #include "tamloapp.h"
 
 #include "childframe.h"
+#include "editorcommandline.h"
 #include "editorprompts.h"
 #include "handoverqueue.h"
 #include "mainframe.h"
@@ -13,6 +14,7 @@
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/recovery/recoverystore.h"
 #include "editor/recovery/terminationsignals.h"
+#include "libraries/widgetlibraryfolders.h"
 #include "project/projectpath.h"
 
 #include <QApplication>
@@ -22,7 +24,6 @@
 
 namespace {
 
-constexpr const char* kModulesFolder = "modules";
 const QString kDemoStartWindow = QStringLiteral("main.xml");
 
 // The installed data (the demo project, hmifuncs.xml), found from the program's folder as the
@@ -31,15 +32,6 @@ QString InstalledDataFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
                            QStringLiteral(KELVO_DATA_FROM_PROGRAM));
-}
-
-// The file argument is the first argument that is not an option.
-QString FileArgument(const QStringList& arguments)
-{
-    for (qsizetype i = 1; i < arguments.size(); ++i)
-        if (!arguments[i].startsWith(QLatin1Char('-')))
-            return arguments[i];
-    return {};
 }
 
 } // namespace
@@ -70,7 +62,8 @@ QString CTamloApp::DemoProjectFolder()
 
 CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
 {
-    const QString fileArgument = FileArgument(arguments);
+    const EditorCommandLine commandLine = EditorCommandLine::Parse(arguments);
+    const QString& fileArgument = commandLine.file;
     const CInstanceGuard::ListenResult listening = m_guard.Listen();
     if (listening == CInstanceGuard::ListenResult::AnotherListens && HandOverToRunningEditor(fileArgument))
         return StartResult::HandedOver;
@@ -81,7 +74,11 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     // The editor's own kinds first, so that no library can replace their controls and dialogs.
     RegisterBuiltinCanvasControls();
     RegisterBuiltinRowDialogs();
-    WidgetLibraryLoadReport libraries = LoadWidgetLibraries(kModulesFolder, ToModelPath(stateFolder));
+    std::vector<std::string> modulesFolders;
+    for (const QString& folder : commandLine.modulesFolders)
+        modulesFolders.push_back(ToModelPath(folder));
+    WidgetLibraryLoadReport libraries =
+        LoadWidgetLibraries(WidgetLibraryFolders(modulesFolders), ToModelPath(stateFolder));
 
     m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings, m_session);

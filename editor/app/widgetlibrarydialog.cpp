@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kReasonColumn = 2;
+constexpr int kReasonColumn = 4;
 const QString kLoadedAtNextStart = QStringLiteral("it will be loaded at the next start");
 
 } // namespace
@@ -26,13 +26,19 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
     , m_list(new QTreeWidget)
 {
     setWindowTitle(QStringLiteral("Widget Libraries"));
-    const QString folder = ToQtPath(m_report.folder);
-    auto* text = new QLabel(m_report.libraries.empty()
-                                ? QStringLiteral("No widget library was found in %1 at start-up.").arg(folder)
-                                : QStringLiteral("What became of the widget libraries in %1 at start-up:").arg(folder));
+    QStringList folders;
+    for (const std::string& folder : m_report.folders)
+        folders.append(ToQtPath(folder));
+    const QString searched = folders.join(QStringLiteral(", "));
+    auto* text = new QLabel(
+        m_report.libraries.empty()
+            ? QStringLiteral("No widget library was found at start-up in %1.").arg(searched)
+            : QStringLiteral("What became of the widget libraries at start-up, looked for in this order in %1:")
+                  .arg(searched));
     text->setWordWrap(true);
 
-    m_list->setHeaderLabels({QStringLiteral("File"), QStringLiteral("Outcome"), QStringLiteral("Reason")});
+    m_list->setHeaderLabels({QStringLiteral("File"), QStringLiteral("Interface"), QStringLiteral("Folder"),
+                             QStringLiteral("Outcome"), QStringLiteral("Reason")});
     m_list->setRootIsDecorated(false);
     for (const WidgetLibraryLoad& library : m_report.libraries) {
         // A library let in again since the start is no longer skipped by the next one.
@@ -40,7 +46,11 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
                                    ? kLoadedAtNextStart
                                    : QString::fromStdString(library.reason);
         const QString outcome = QString::fromLatin1(OutcomeText(library.outcome));
-        m_list->addTopLevelItem(new QTreeWidgetItem({ToQtPath(library.file), outcome, reason}));
+        // The version a library states; a dash for none, or for one that was never opened.
+        const QString version =
+            library.interfaceVersion ? QString::number(library.interfaceVersion) : QStringLiteral("–");
+        m_list->addTopLevelItem(
+            new QTreeWidgetItem({ToQtPath(library.file), version, ToQtPath(library.folder), outcome, reason}));
     }
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CWidgetLibraryDialog::UpdateLoadAgainButton);
@@ -56,7 +66,7 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
     layout->addWidget(text);
     layout->addWidget(m_list);
     layout->addWidget(buttons);
-    resize(760, 320);
+    resize(960, 340);
     UpdateLoadAgainButton();
 }
 

@@ -5,7 +5,7 @@
 
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
-#include "catalogue/builtinwidgets.h"
+#include "libraries/widgetlibraryfolders.h"
 #include "libraries/widgetlibraryloader.h"
 #include "preview/previewscene.h"
 #include "preview/valueset.h"
@@ -187,20 +187,17 @@ void PrintUsage(std::FILE* out)
         std::fprintf(out, "  %-30.*s %.*s\n", int(command.usage.size()), command.usage.data(),
                      int(command.summary.size()), command.summary.data());
     std::fprintf(out, "\nOptions:\n  %-30s %s\n  %-30s %s\n  %-30s %s\n", "--modules DIR",
-                 "load the widget libraries of DIR first, as the editor loads its modules folder", "--help",
+                 "load the widget libraries of DIR too, after those the editor loads (may be repeated)", "--help",
                  "show this help", "--version", "show the version");
 }
 
-// Registers the widget classes: the built-in ones, and those of the libraries in modules when one
-// is given. What went wrong with a library is told on stderr; the command runs all the same.
-void RegisterWidgetClasses(const char* modules)
+// Registers the widget classes: the built-in ones, and those of the libraries the editor would
+// load, and of the folders given. What went wrong with a library is told on stderr; the command
+// runs all the same.
+void RegisterWidgetClasses(const std::vector<std::string>& modules)
 {
-    if (!modules) {
-        RegisterBuiltinWidgetClasses();
-        return;
-    }
     // Without a state folder: a library that crashed the editor is skipped only by the editor.
-    const WidgetLibraryLoadReport report = LoadWidgetLibraries(modules, {});
+    const WidgetLibraryLoadReport report = LoadWidgetLibraries(WidgetLibraryFolders(modules), {});
     for (const WidgetLibraryLoad& library : report.libraries)
         if (library.Failed())
             std::fprintf(stderr, "kelvo-hmi: note: widget library %s: %s: %s\n", library.file.c_str(),
@@ -211,17 +208,17 @@ void RegisterWidgetClasses(const char* modules)
 
 int main(int argc, char* argv[])
 {
-    // --modules DIR may stand anywhere.
+    // --modules DIR may stand anywhere, and more than once.
     std::vector<char*> arguments(argv + 1, argv + argc);
-    const char* modules = nullptr;
-    if (const auto option = std::find(arguments.begin(), arguments.end(), std::string_view("--modules"));
-        option != arguments.end()) {
+    std::vector<std::string> modules;
+    for (auto option = std::find(arguments.begin(), arguments.end(), std::string_view("--modules"));
+         option != arguments.end(); option = std::find(option, arguments.end(), std::string_view("--modules"))) {
         if (option + 1 == arguments.end()) {
             PrintUsage(stderr);
             return 2;
         }
-        modules = *(option + 1);
-        arguments.erase(option, option + 2);
+        modules.emplace_back(*(option + 1));
+        option = arguments.erase(option, option + 2);
     }
     const Arguments args(arguments);
     if (args.empty()) {

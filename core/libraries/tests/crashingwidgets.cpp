@@ -1,6 +1,10 @@
 // A widget library that ends the process while it initialises, and leaves no core file behind.
+#include "widgets/widgetlibrary.h"
+
 #include <cstdlib>
 #include <sys/resource.h>
+
+HMI_WIDGET_LIBRARY_INTERFACE
 
 extern "C" int WidgetsLibInit()
 {

@@ -20,6 +20,8 @@ const CWidgetRunTimeClass kClasses[] = {
 
 } // namespace
 
+HMI_WIDGET_LIBRARY_INTERFACE
+
 extern "C" int WidgetsLibInit()
 {
     RegisterWidgetsLib("dialwidgets", 1, kClasses);

@@ -1,4 +1,6 @@
-// A widget library with one widget kind, built the way a third party builds one.
+// A widget library with one widget kind, built the way a third party builds one. Built with
+// LIBRARY_NAME it is another library with a class of the same key; with STATED_INTERFACE_VERSION
+// it claims that version of the interface, or none when that is 0.
 #include "catalogue/propertytable.h"
 #include "widgets/widgetlibrary.h"
 
@@ -31,7 +33,17 @@ const CWidgetRunTimeClass kClasses[] = {
 
 } // namespace
 
+#ifndef STATED_INTERFACE_VERSION
+HMI_WIDGET_LIBRARY_INTERFACE
+#elif STATED_INTERFACE_VERSION
+extern "C" __attribute__((visibility("default"))) const int WidgetsLibInterfaceVersion = STATED_INTERFACE_VERSION;
+#endif
+
+#ifndef LIBRARY_NAME
+#define LIBRARY_NAME "samplewidgets"
+#endif
+
 extern "C" int WidgetsLibInit()
 {
-    return RegisterWidgetsLib("samplewidgets", 1, kClasses);
+    return RegisterWidgetsLib(LIBRARY_NAME, 1, kClasses);
 }

@@ -1,6 +1,7 @@
 #include "libraries/widgetlibraryloader.h"
 
 #include "libraries/librarycrashguard.h"
+#include "libraries/widgetlibraryfolders.h"
 #include "tests/support/childcost.h"
 #include "tests/support/registrytest.h"
 #include "tests/support/tempdir.h"
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <dlfcn.h>
 #include <filesystem>
 #include <unistd.h>
@@ -47,7 +49,7 @@ Outcomes OutcomesOf(const WidgetLibraryLoadReport& report)
 
 // Libraries that crashed a start are remembered in a state folder of each test's own.
 struct LoaderTest : EmptyRegistryTest {
-    WidgetLibraryLoadReport Load(const std::string& folder) { return LoadWidgetLibraries(folder, state.Path("")); }
+    WidgetLibraryLoadReport Load(const std::string& folder) { return LoadWidgetLibraries({folder}, state.Path("")); }
     const TempDir state;
 };
 
@@ -57,18 +59,26 @@ TEST_F(LoaderTest, EveryFileIsAccountedForInNameOrder)
 {
     const WidgetLibraryLoadReport report = Load(kModules);
     ASSERT_EQ(OutcomesOf(report), (Outcomes{{"decliningwidgets.so", LibraryOutcome::Declined},
+                                            {"futurewidgets.so", LibraryOutcome::Incompatible},
                                             {"noentrywidgets.so", LibraryOutcome::NoEntryPoint},
                                             {"notalibrary.so", LibraryOutcome::NotLoaded},
                                             {"samplewidgets.so", LibraryOutcome::Loaded},
-                                            {"throwingwidgets.so", LibraryOutcome::Threw}}));
-    // The reasons are checked where the editor shows them.
+                                            {"throwingwidgets.so", LibraryOutcome::Threw},
+                                            {"unversionedwidgets.so", LibraryOutcome::Incompatible}}));
+    // The other reasons are checked where the editor shows them.
+    EXPECT_EQ(report.libraries[1].reason, "it was built for widget-library interface version 1000; this program "
+                                          "needs version " + std::to_string(kWidgetLibraryInterfaceVersion));
+    EXPECT_EQ(report.libraries[1].interfaceVersion, 1000);
+    EXPECT_EQ(report.libraries[6].reason.substr(0, 50), "it states no widget-library interface version; thi");
+    EXPECT_EQ(report.libraries[4].interfaceVersion, kWidgetLibraryInterfaceVersion);
 
     ASSERT_EQ(RegisteredWidgetLibs().size(), 1u);
     EXPECT_EQ(RegisteredWidgetLibs()[0].m_strName, "samplewidgets");
     EXPECT_TRUE(IsLoaded("samplewidgets.so"));
     EXPECT_TRUE(IsLoaded("noentrywidgets.so")) << "a library without an entry point stays loaded";
     // A class record of unloaded code would crash the editor.
-    EXPECT_FALSE(IsLoaded("decliningwidgets.so") || IsLoaded("throwingwidgets.so"));
+    EXPECT_FALSE(IsLoaded("decliningwidgets.so") || IsLoaded("throwingwidgets.so") || IsLoaded("futurewidgets.so") ||
+                 IsLoaded("unversionedwidgets.so"));
     EXPECT_FALSE(IsRegistered("dial"));
 }
 
@@ -109,9 +119,39 @@ TEST_F(LoaderTest, ARelativeFolderIsTakenFromTheCurrentDirectory)
     std::filesystem::current_path(modules.parent_path());
     const WidgetLibraryLoadReport report = Load(modules.filename().string());
     std::filesystem::current_path(previous);
-    EXPECT_EQ(report.folder, kModules);
-    EXPECT_EQ(report.libraries.size(), 5u);
+    EXPECT_EQ(report.folders, std::vector{kModules});
+    EXPECT_EQ(report.libraries.size(), 7u);
     EXPECT_TRUE(IsRegistered("gauge"));
+}
+
+// Two libraries offer a class under the same key: the one in the earlier folder of the search
+// path counts, and the later one is loaded all the same.
+TEST_F(LoaderTest, TheEarlierFolderOfTheSearchPathWinsAClassKey)
+{
+    namespace fs = std::filesystem;
+    const std::string more = KELVO_MORE_MODULES_DIR;
+    const TempDir elsewhere, data;
+    fs::create_directories(data.Path("kelvo-hmi-editor"));
+    fs::create_directory_symlink(kModules, data.Path("kelvo-hmi-editor/modules"));
+    const fs::path previous = fs::current_path();
+    fs::current_path(elsewhere.Path("")); // with no ./modules
+    const auto winner = [&](const char* dataHome, const std::string& listed) {
+        const CRegistryScope empty(CRegistryScope::Start::Empty);
+        ::setenv("XDG_DATA_HOME", dataHome, 1);
+        ::setenv("KELVO_WIDGET_MODULES", listed.c_str(), 1);
+        const WidgetLibraryLoadReport report = LoadWidgetLibraries(WidgetLibraryFolders({kModules}), state.Path(""));
+        EXPECT_EQ(report.libraries.size(), 8u) << "each library loaded once";
+        const auto& libraries = RegisteredWidgetLibs();
+        return libraries.size() == 2 && libraries[0].m_pEntries[0].m_pRuntimeClass == CHmiWidget::GetWidgetClass("gauge")
+                   ? libraries[0].m_strName + " from " + fs::path(report.libraries[0].folder).parent_path().string()
+                   : "not two libraries";
+    };
+    // The environment's folders come before the command line's, the user's before both.
+    EXPECT_EQ(winner("", ":/nowhere:" + more + ":"), "othergauges from " + fs::path(more).parent_path().string());
+    EXPECT_EQ(winner(data.Path("").c_str(), more), "samplewidgets from " + data.Path("kelvo-hmi-editor"));
+    fs::current_path(previous);
+    ::unsetenv("XDG_DATA_HOME");
+    ::unsetenv("KELVO_WIDGET_MODULES");
 }
 
 TEST_F(LoaderTest, AMissingOrEmptyFolderGivesJustTheBuiltIns)

@@ -26,6 +26,8 @@ const CWidgetRunTimeClass kClasses[] = {
 
 } // namespace
 
+HMI_WIDGET_LIBRARY_INTERFACE
+
 extern "C" int WidgetsLibInit()
 {
     return RegisterWidgetsLib("driftingwidgets", 1, kClasses);

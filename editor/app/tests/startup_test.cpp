@@ -77,7 +77,7 @@ private slots:
     {
         const CRegistryScope registry;
         RegisterBuiltinCanvasControls();
-        LoadWidgetLibraries(KELVO_DIAL_MODULES_DIR, {});
+        LoadWidgetLibraries({KELVO_DIAL_MODULES_DIR}, {});
         EditorUnderTest editor;
         CToolbox& toolbox = editor.frame.Toolbox();
         QListWidgetItem* dial = toolbox.item(toolbox.count() - 1);
@@ -109,16 +109,18 @@ private slots:
     }
 
     // A library crashes the real program; the next start skips it, and the report, opened from
-    // the Help menu, says so and what became of the others. Asked for, it is let in again.
+    // the Help menu, says so and what became of the others, those of --modules included. Asked
+    // for, it is let in again.
     void theLibraryReportTellsWhatBecameOfEachLibrary()
     {
         const QDir run(sandbox.filePath(QStringLiteral("run")));
-        QVERIFY(run.mkpath(QStringLiteral("modules")));
+        QVERIFY(run.mkpath(QStringLiteral("modules")) && run.mkpath(QStringLiteral("more")));
         const QString modules = QStringLiteral(KELVO_TEST_MODULES_DIR "/");
         for (const QString& library : {QStringLiteral(KELVO_CRASHING_MODULES_DIR "/crashingwidgets.so"),
                                        modules + "notalibrary.so", modules + "samplewidgets.so",
                                        modules + "throwingwidgets.so"})
             QVERIFY(QFile::link(library, run.filePath("modules/" + QFileInfo(library).fileName())));
+        QVERIFY(QFile::link(modules + "futurewidgets.so", run.filePath("more/futurewidgets.so")));
         QProcess crashed;
         RunEditorProgram(crashed, run.path(), {});
         QCOMPARE(crashed.exitStatus(), QProcess::CrashExit);
@@ -126,7 +128,8 @@ private slots:
         const QString previous = QDir::currentPath();
         QDir::setCurrent(run.path());
         CTamloApp editor(prompts, QStringLiteral("library-test"));
-        const CTamloApp::StartResult started = editor.Start({QStringLiteral("kelvo-hmi-editor")});
+        const CTamloApp::StartResult started =
+            editor.Start({QStringLiteral("kelvo-hmi-editor"), QStringLiteral("--modules"), run.filePath("more")});
         QDir::setCurrent(previous);
         QCOMPARE(started, CTamloApp::StartResult::Started);
         CMainFrame& frame = *editor.MainFrame();
@@ -143,13 +146,17 @@ private slots:
         QStringList rows;
         for (int row = 0; row < list->topLevelItemCount(); ++row) {
             const QTreeWidgetItem* item = list->topLevelItem(row);
-            rows << item->text(0) + " | " + item->text(1) + " | " + item->text(2);
+            rows << QStringList{item->text(0), item->text(1), item->text(3), item->text(4)}.join(" | ");
         }
-        QCOMPARE(rows, QStringList({"crashingwidgets.so | skipped after a crash | "
+        QCOMPARE(rows, QStringList({"crashingwidgets.so | – | skipped after a crash | "
                                     "it ended the editor while it was being loaded at an earlier start",
-                                    "notalibrary.so | cannot be loaded | file too short",
-                                    "samplewidgets.so | loaded | registered 1 widget class",
-                                    "throwingwidgets.so | threw | the dial calibration file is missing"}));
+                                    "notalibrary.so | – | cannot be loaded | file too short",
+                                    "samplewidgets.so | 1 | loaded | registered 1 widget class",
+                                    "throwingwidgets.so | 1 | threw | the dial calibration file is missing",
+                                    "futurewidgets.so | 1000 | incompatible | it was built for widget-library "
+                                    "interface version 1000; this program needs version 1"}));
+        QCOMPARE(list->topLevelItem(0)->text(2), run.filePath("modules"));
+        QCOMPARE(list->topLevelItem(4)->text(2), run.filePath("more"));
 
         const std::string state = ToModelPath(EditorStateFolder());
         QCOMPARE(CLibraryCrashGuard::CrashedLibraries(state).size(), std::size_t(1));

@@ -95,6 +95,8 @@ const CWidgetRunTimeClass kClasses[] = {
 
 } // namespace
 
+HMI_WIDGET_LIBRARY_INTERFACE
+
 extern "C" int WidgetsLibInit()
 {
     if (!RegisterWidgetsLib("dialwidgets", 1, kClasses))
