@@ -49,8 +49,9 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
         // The version a library states; a dash for none, or for one that was never opened.
         const QString version =
             library.interfaceVersion ? QString::number(library.interfaceVersion) : QStringLiteral("–");
-        m_list->addTopLevelItem(
-            new QTreeWidgetItem({ToQtPath(library.file), version, ToQtPath(library.folder), outcome, reason}));
+        auto* item = new QTreeWidgetItem({ToQtPath(library.file), version, ToQtPath(library.folder), outcome, reason});
+        item->setToolTip(kReasonColumn, reason); // a long reason is cut off in its column
+        m_list->addTopLevelItem(item);
     }
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CWidgetLibraryDialog::UpdateLoadAgainButton);
