@@ -11,7 +11,7 @@ seconds=${1:-60}
 shift || true
 targets=("$@")
 if [ ${#targets[@]} -eq 0 ]; then
-    targets=(windowfile numberparsers projectargument windowlist rtdb hmidb history datalog evaluator)
+    targets=(windowfile numberparsers projectargument windowlist rtdb hmidb history datalog evaluator expression)
 fi
 
 bash scripts/install-deps.sh

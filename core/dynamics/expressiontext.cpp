@@ -103,9 +103,16 @@ bool IsVariableReference(std::string_view text)
 
 std::size_t ReplaceVariableReference(std::string& text, std::string_view from, std::string_view to)
 {
+    // A new name that the text after it would lengthen ("$a.b.c" renamed to "$x" reads as
+    // "$x.c") would change what the expression says: such a place keeps the old name.
+    const auto standsAlone = [&](const TextToken& token) {
+        const std::string joined = std::string(to) + text.substr(token.offset + token.length, 64);
+        const std::vector<TextToken> rescanned = FindVariableReferences(joined);
+        return !rescanned.empty() && rescanned.front().offset == 0 && rescanned.front().length == to.size();
+    };
     std::vector<TextToken> matches;
     for (const TextToken& token : FindVariableReferences(text))
-        if (std::string_view(text).substr(token.offset, token.length) == from)
+        if (std::string_view(text).substr(token.offset, token.length) == from && standsAlone(token))
             matches.push_back(token);
     // From the end, so that the offsets still ahead stay right.
     for (auto match = matches.rbegin(); match != matches.rend(); ++match)

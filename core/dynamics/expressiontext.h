@@ -34,5 +34,6 @@ std::vector<TextToken> FindFunctionCalls(std::string_view text);
 // Whether the text is one whole reference and nothing else, as the variable picker writes it.
 bool IsVariableReference(std::string_view text);
 
-// Replaces every whole reference `from` by `to`; returns how many it replaced.
+// Replaces every whole reference `from` by `to`; returns how many it replaced. A place where the
+// text after it would join the new name into a longer reference keeps the old name.
 std::size_t ReplaceVariableReference(std::string& text, std::string_view from, std::string_view to);
