@@ -19,6 +19,7 @@
 #include "editor/problems/problemspane.h"
 #include "editor/problems/renamevariabledialog.h"
 #include "editor/problems/searchresults.h"
+#include "editor/preferences/preferencesdialog.h"
 #include "editor/preview/variablesdock.h"
 #include "editor/projectdialogs/modeltext.h"
 #include "editor/projectdialogs/projectwindowdialog.h"
@@ -76,6 +77,7 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     , m_prompts(prompts)
     , m_settings(settings)
     , m_session(session)
+    , m_preferences(settings)
     , m_recentFiles(settings)
     , m_mdiArea(new QMdiArea(this))
     , m_cursorPosition(new QLabel(this))
@@ -562,6 +564,18 @@ void CMainFrame::CreateToolsMenu()
               QStringLiteral("Rename a variable reference in every window of the project"),
               &CMainFrame::ToolsRenameVariable)
         ->setObjectName(QStringLiteral("actionRenameVariable"));
+    tools->addSeparator();
+    QAction* preferences = AddAction(tools, QStringLiteral("&Preferences..."),
+                                     QStringLiteral("Choose how the editor works: undo history, grid and snapping, language"),
+                                     &CMainFrame::ToolsPreferences);
+    preferences->setObjectName(QStringLiteral("actionPreferences"));
+    preferences->setMenuRole(QAction::PreferencesRole);
+}
+
+void CMainFrame::ToolsPreferences()
+{
+    CPreferencesDialog dialog(m_preferences, this);
+    dialog.exec();
 }
 
 std::string CMainFrame::ProjectFolder()

@@ -2,6 +2,8 @@
 
 #include "recentfilelist.h"
 
+#include "editor/preferences/editorpreferences.h"
+
 #include "project/scriptfunctions.h"
 #include "libraries/widgetlibraryloader.h"
 
@@ -48,6 +50,9 @@ class CMainFrame : public QMainWindow {
 public:
     CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSession& session, QWidget* parent = nullptr);
     ~CMainFrame() override;
+
+    // The user's preferences; the canvases and the undo history follow their changes.
+    CEditorPreferences& Preferences() { return m_preferences; }
 
     CChildFrame* NewDocument();
     // Opens a window file, or shows it if it is open already. Null when it cannot be read
@@ -157,12 +162,14 @@ private:
     void EditDelete();
     void EditSelectAll();
     void HelpWidgetLibraries();
+    void ToolsPreferences();
     // Returns from the placing tool to the selection tool.
     void CancelTool();
 
     CEditorPrompts& m_prompts;
     QSettings& m_settings;
     CEditorSession& m_session;
+    CEditorPreferences m_preferences;
     CRecentFileList m_recentFiles;
     QMdiArea* m_mdiArea;
     QLabel* m_cursorPosition; // where the mouse stands on the canvas, in window coordinates
