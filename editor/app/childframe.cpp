@@ -30,10 +30,11 @@ std::optional<QByteArray> DiskDigest(const QString& path)
 } // namespace
 
 CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, CEditorSession& session,
-                         QWidget* parent)
+                         CEditorPreferences& preferences, QWidget* parent)
     : QMdiSubWindow(parent)
     , m_document(std::move(document))
     , m_prompts(prompts)
+    , m_preferences(preferences)
     , m_view(new CTamloView(*m_document, session.Tools()))
     , m_diskNotice(new QLabel)
 {

@@ -12,6 +12,7 @@
 class CEditorPrompts;
 class CEditorSession;
 class CTamloDoc;
+class CEditorPreferences;
 class CTamloView;
 class QLabel;
 
@@ -23,11 +24,12 @@ class CChildFrame : public QMdiSubWindow, public CDocumentObserver {
     Q_OBJECT
 public:
     CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& prompts, CEditorSession& session,
-                QWidget* parent = nullptr);
+                CEditorPreferences& preferences, QWidget* parent = nullptr);
     ~CChildFrame() override;
 
     CTamloDoc& Document() const { return *m_document; }
     CTamloView& View() const { return *m_view; }
+    CEditorPreferences& Preferences() const { return m_preferences; }
     // The window file's name, or a numbered name while it has never been saved.
     QString DisplayName() const;
     QString FilePath() const;
@@ -62,6 +64,7 @@ private:
 
     std::unique_ptr<CTamloDoc> m_document;
     CEditorPrompts& m_prompts;
+    CEditorPreferences& m_preferences;
     CTamloView* m_view;
     QString m_untitledName;
     std::optional<QByteArray> m_diskDigest; // of the file as read or written last; none without one

@@ -484,7 +484,7 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
 
 CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
 {
-    auto* child = new CChildFrame(std::move(document), m_prompts, m_session);
+    auto* child = new CChildFrame(std::move(document), m_prompts, m_session, m_preferences);
     m_problems->WatchWindow(child->Document());
     CTamloView& view = child->View();
     view.SetContextMenu(m_canvasMenu);
