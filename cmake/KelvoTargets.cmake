@@ -27,6 +27,11 @@ function(kelvo_add_executable name)
     target_compile_options(${name} PRIVATE -Wall -Wextra)
 endfunction()
 
+# Every test draws with the same fonts, whatever the machine has installed.
+set(CACHE_DIR ${PROJECT_BINARY_DIR}/fontconfig-cache)
+configure_file(${PROJECT_SOURCE_DIR}/tests/support/fonts.conf.in ${PROJECT_BINARY_DIR}/tests-fonts.conf @ONLY)
+set(KELVO_TEST_ENVIRONMENT "FONTCONFIG_FILE=${PROJECT_BINARY_DIR}/tests-fonts.conf")
+
 # kelvo_add_test(NAME [GUI] SOURCES ... LIBS ... [DATA_DIR dir]): a GoogleTest program run by
 # ctest. GUI gives the tests a QGuiApplication (offscreen unless a platform is set), which
 # fonts need. DATA_DIR reaches the tests as the compile definition KELVO_TEST_DATA_DIR.
@@ -45,7 +50,7 @@ function(kelvo_add_test name)
     if(ARG_DATA_DIR)
         target_compile_definitions(${name} PRIVATE KELVO_TEST_DATA_DIR="${ARG_DATA_DIR}")
     endif()
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT "${KELVO_TEST_ENVIRONMENT}")
 endfunction()
 
 # kelvo_add_static_library(NAME SOURCES ... LIBS ...): one area of the editor, linked into the
@@ -82,5 +87,5 @@ function(kelvo_add_qt_test name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime;${KELVO_TEST_ENVIRONMENT}")
 endfunction()
