@@ -212,38 +212,67 @@ std::string MaxFileSizeText()
     return std::to_string(kMaxFileSize >> 20) + " MiB";
 }
 
-FileResult ReadWholeFile(const std::string& path, std::string& bytes)
+CFileReader::CFileReader(const std::string& path) : m_path(path)
 {
     // Non-blocking, so that a FIFO is refused at once instead of waiting for a writer.
-    const OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    if (!file)
-        return Fail("Cannot open", path, errno);
-    struct stat info;
-    if (::fstat(file.Fd(), &info) != 0)
-        return Fail("Cannot open", path, errno);
-    if (const char* why = WhyNotRegular(info))
-        return FileResult::Failure(Describe("Cannot open", path, why));
-    if (std::uint64_t(info.st_size) > kMaxFileSize)
-        return FailTooLarge(path);
-    bytes.clear();
-    bytes.reserve(std::size_t(info.st_size));
-    char buffer[1 << 16];
-    for (;;) {
-        const ssize_t got = ::read(file.Fd(), buffer, sizeof buffer);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return Fail("Cannot read", path, errno);
-        if (got == 0)
-            return FileResult::Success();
-        // One byte beyond the limit at most is kept: enough to tell a file that grew too large
-        // while it was read.
-        bytes.append(buffer, std::min<std::uint64_t>(std::uint64_t(got), kMaxFileSize + 1 - bytes.size()));
-        if (bytes.size() > kMaxFileSize) {
-            bytes = std::string();
-            return FailTooLarge(path);
-        }
+    m_fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (m_fd < 0) {
+        m_result = Fail("Cannot open", path, errno);
+        return;
     }
+    struct stat info;
+    if (::fstat(m_fd, &info) != 0)
+        m_result = Fail("Cannot open", path, errno);
+    else if (const char* why = WhyNotRegular(info))
+        m_result = FileResult::Failure(Describe("Cannot open", path, why));
+    else if (std::uint64_t(info.st_size) > kMaxFileSize)
+        m_result = FailTooLarge(path);
+    else
+        m_size = std::uint64_t(info.st_size);
+}
+
+CFileReader::~CFileReader()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+}
+
+long CFileReader::Read(char* buffer, std::size_t size)
+{
+    if (!m_result)
+        return -1;
+    // A file that grew too large while it was read is told by the bytes read beyond the limit.
+    // The request keeps its size: some files (the kernel's) refuse reads of other sizes.
+    ssize_t got;
+    do
+        got = ::read(m_fd, buffer, size);
+    while (got < 0 && errno == EINTR);
+    if (got < 0) {
+        m_result = Fail("Cannot read", m_path, errno);
+        return -1;
+    }
+    m_read += std::uint64_t(got);
+    if (m_read > kMaxFileSize) {
+        m_result = FailTooLarge(m_path);
+        return -1;
+    }
+    return long(got);
+}
+
+FileResult ReadWholeFile(const std::string& path, std::string& bytes)
+{
+    CFileReader file(path);
+    bytes.clear();
+    if (!file.Result())
+        return file.Result();
+    bytes.reserve(std::size_t(file.Size()));
+    char buffer[1 << 16];
+    long got;
+    while ((got = file.Read(buffer, sizeof buffer)) > 0)
+        bytes.append(buffer, std::size_t(got));
+    if (got < 0)
+        bytes = std::string();
+    return file.Result();
 }
 
 FileResult WriteFileAtomically(const std::string& path, std::string_view bytes)

@@ -25,9 +25,33 @@ inline constexpr std::uint64_t kMaxFileSize = std::uint64_t(64) << 20;
 // kMaxFileSize for messages and documentation: "64 MiB".
 std::string MaxFileSizeText();
 
-// Reads a whole file into memory. Fails with the reason when the path is missing or unreadable,
-// when it is not a regular file (a folder, a device, a FIFO: opening never waits for a writer),
-// or when the file holds more than kMaxFileSize bytes, even if it grows while it is read.
+// Reads a file piece by piece, so that a reader that parses as it goes never holds the whole
+// file. Opening fails with the reason when the path is missing or unreadable, when it is not a
+// regular file (a folder, a device, a FIFO: opening never waits for a writer), or when the file
+// holds more than kMaxFileSize bytes; reading fails too once the file has grown beyond that.
+class CFileReader {
+public:
+    explicit CFileReader(const std::string& path);
+    ~CFileReader();
+    CFileReader(const CFileReader&) = delete;
+    CFileReader& operator=(const CFileReader&) = delete;
+
+    // Success while the file is open and nothing has failed; otherwise why not.
+    const FileResult& Result() const { return m_result; }
+    // The size the file had when it was opened.
+    std::uint64_t Size() const { return m_size; }
+    // Reads up to size bytes: the number read, 0 at the end of the file, -1 on failure.
+    long Read(char* buffer, std::size_t size);
+
+private:
+    std::string m_path;
+    FileResult m_result;
+    int m_fd = -1;
+    std::uint64_t m_size = 0;
+    std::uint64_t m_read = 0;
+};
+
+// Reads a whole file into memory, failing as CFileReader does.
 FileResult ReadWholeFile(const std::string& path, std::string& bytes);
 
 // Replaces a file's content without ever leaving it half written: the bytes go to a new file

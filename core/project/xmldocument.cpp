@@ -272,13 +272,30 @@ XmlElement XmlDocument::Root() const
 
 XmlChildStream::XmlChildStream(std::string_view text)
 {
+    if (!FitsTheParser(text)) {
+        m_ended = true;
+        Fail("The file is too large to be read.", 0);
+        return;
+    }
+    Start([text] { return xmlReaderForMemory(text.data(), int(text.size()), nullptr, nullptr, kParseOptions); });
+}
+
+XmlChildStream::XmlChildStream(CFileReader& file)
+{
+    const auto read = [](void* context, char* buffer, int size) {
+        return int(static_cast<CFileReader*>(context)->Read(buffer, std::size_t(std::max(size, 0))));
+    };
+    Start([&file, read] { return xmlReaderForIO(read, nullptr, &file, nullptr, nullptr, kParseOptions); });
+}
+
+void XmlChildStream::Start(const std::function<_xmlTextReader*()>& createReader)
+{
     LIBXML_TEST_VERSION
     const ThreadErrorRoute route(&XmlChildStream::KeepFirstError, this);
-    m_reader = FitsTheParser(text) ? xmlReaderForMemory(text.data(), int(text.size()), nullptr, nullptr, kParseOptions)
-                                   : nullptr;
+    m_reader = createReader();
     if (!m_reader) {
         m_ended = true;
-        Fail(FitsTheParser(text) ? "Out of memory." : "The file is too large to be read.", 0);
+        Fail("Out of memory.", 0);
         return;
     }
     xmlTextReaderSetStructuredErrorHandler(m_reader, &XmlChildStream::KeepFirstError, this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -8,6 +9,7 @@ struct _xmlDoc;
 struct _xmlError;
 struct _xmlNode;
 struct _xmlTextReader;
+class CFileReader;
 
 // Read access to a parsed XML file, shared by every reader of project and window files.
 // Blank text between elements is dropped and no network is touched. Attribute values and text
@@ -80,6 +82,9 @@ class XmlChildStream {
 public:
     // The text must outlive the stream.
     explicit XmlChildStream(std::string_view text);
+    // Parses the file as it is read, so that its text is never held whole. When reading fails,
+    // the stream fails too, and the file's Result says why.
+    explicit XmlChildStream(CFileReader& file);
     ~XmlChildStream();
     XmlChildStream(const XmlChildStream&) = delete;
     XmlChildStream& operator=(const XmlChildStream&) = delete;
@@ -97,13 +102,15 @@ public:
     int ErrorLine() const { return m_errorLine; }
 
 private:
+    // Creates the reader with the errors routed to this stream, and reads up to the root element.
+    void Start(const std::function<_xmlTextReader*()>& createReader);
     static void KeepFirstError(void* stream, _xmlError* error);
     // Whether a reader call moved on; a failed one records the error.
     bool MovedOn(int readerResult);
     void Fail(std::string error, int line);
     void ReadToTheEnd();
 
-    _xmlTextReader* m_reader;
+    _xmlTextReader* m_reader = nullptr;
     std::string m_rootName;
     std::string m_error;
     int m_errorLine = 0;

@@ -96,9 +96,10 @@ HmiWidgetPtr ReadWidget(const XmlElement& element)
 
 } // namespace
 
-FileResult ReadWidgetElements(std::string_view text, const std::function<void(HmiWidgetPtr)>& reader, int& errorLine)
+namespace {
+
+FileResult ReadWidgetStream(XmlChildStream& stream, const std::function<void(HmiWidgetPtr)>& reader, int& errorLine)
 {
-    XmlChildStream stream(text);
     const auto failed = [&] {
         errorLine = stream.ErrorLine();
         return FileResult::Failure(stream.Error());
@@ -114,13 +115,14 @@ FileResult ReadWidgetElements(std::string_view text, const std::function<void(Hm
     return stream.IsValid() ? FileResult::Success() : failed();
 }
 
-FileResult ReadWindowText(std::string_view text, const WidgetSink& sink)
+// Reads the stream's widgets and hands them to the sink only once the whole text has been read:
+// a file that turns out not to be XML at its end gives no widgets at all.
+FileResult ReadWindowStream(XmlChildStream& stream, const WidgetSink& sink)
 {
-    // A file that turns out not to be XML at its end gives no widgets at all.
     std::vector<HmiWidgetPtr> widgets;
     CReadNoticeCollector notices;
     int errorLine = 0;
-    FileResult result = ReadWidgetElements(text, [&](HmiWidgetPtr widget) {
+    FileResult result = ReadWidgetStream(stream, [&](HmiWidgetPtr widget) {
         if (widget)
             widgets.push_back(std::move(widget));
     }, errorLine);
@@ -132,13 +134,29 @@ FileResult ReadWindowText(std::string_view text, const WidgetSink& sink)
     return result;
 }
 
+} // namespace
+
+FileResult ReadWidgetElements(std::string_view text, const std::function<void(HmiWidgetPtr)>& reader, int& errorLine)
+{
+    XmlChildStream stream(text);
+    return ReadWidgetStream(stream, reader, errorLine);
+}
+
+FileResult ReadWindowText(std::string_view text, const WidgetSink& sink)
+{
+    XmlChildStream stream(text);
+    return ReadWindowStream(stream, sink);
+}
+
 FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
 {
-    std::string bytes;
-    FileResult result = ReadWholeFile(path, bytes);
-    if (!result)
-        return result;
-    result = ReadWindowText(bytes, sink);
+    CFileReader file(path);
+    if (!file.Result())
+        return file.Result();
+    XmlChildStream stream(file);
+    FileResult result = ReadWindowStream(stream, sink);
+    if (!file.Result())
+        return file.Result();
     if (!result)
         result.error = "Cannot open " + path + ": " + result.error;
     return result;
