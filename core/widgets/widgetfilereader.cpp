@@ -1,5 +1,6 @@
 #include "widgetfilereader.h"
 
+#include "base/logcategories.h"
 #include "dynamics/dynamictype.h"
 #include "hmiwidgetcustom.h"
 #include "project/readnotices.h"
@@ -66,18 +67,25 @@ bool ReadEvents(CHmiWidget& widget, const XmlElement& section)
 HmiWidgetPtr ReadWidget(const XmlElement& element)
 {
     const std::string classKey = element.Attribute("class");
-    if (classKey.empty())
+    std::string name = element.Attribute("name");
+    if (classKey.empty()) {
+        qCDebug(lcFile, "widget '%s' skipped: it has no class", name.c_str());
         return nullptr;
+    }
     const CHmiRuntimeClass* runtimeClass = CHmiWidget::GetWidgetClass(classKey);
     HmiWidgetPtr widget = runtimeClass->CreateObject();
     if (!widget)
         return nullptr;
-    if (runtimeClass == &CHmiWidgetCustom::classCHmiWidgetCustom)
+    if (runtimeClass == &CHmiWidgetCustom::classCHmiWidgetCustom) {
+        qCDebug(lcFile, "widget '%s': no class '%s' is registered; read as a custom widget", name.c_str(),
+                classKey.c_str());
         static_cast<CHmiWidgetCustom&>(*widget).ClassName = classKey;
+    }
 
-    std::string name = element.Attribute("name");
-    if (name.empty())
+    if (name.empty()) {
+        qCDebug(lcFile, "a widget of class '%s' skipped: it has no name", classKey.c_str());
         return nullptr;
+    }
     widget->SetWidgetName(std::move(name));
 
     for (XmlElement section : ChildElements(element)) {
@@ -88,8 +96,11 @@ HmiWidgetPtr ReadWidget(const XmlElement& element)
             ok = ReadDynamics(*widget, section);
         else if (section.Is("events"))
             ok = ReadEvents(*widget, section);
-        if (!ok)
+        if (!ok) {
+            qCDebug(lcFile, "widget '%s' skipped: its <%s> holds an entry without a name or a value",
+                    widget->GetWidgetName().c_str(), section.Name().c_str());
             return nullptr;
+        }
     }
     return widget;
 }
@@ -136,10 +147,20 @@ FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
 {
     std::string bytes;
     FileResult result = ReadWholeFile(path, bytes);
-    if (!result)
+    if (!result) {
+        qCDebug(lcFile, "%s", result.error.c_str());
         return result;
-    result = ReadWindowText(bytes, sink);
+    }
+    std::size_t count = 0;
+    result = ReadWindowText(bytes, [&](HmiWidgetPtr widget) {
+        ++count;
+        sink(std::move(widget));
+    });
     if (!result)
         result.error = "Cannot open " + path + ": " + result.error;
+    if (result)
+        qCDebug(lcFile, "read %s: %zu widgets", path.c_str(), count);
+    else
+        qCDebug(lcFile, "%s", result.error.c_str());
     return result;
 }
