@@ -3,6 +3,7 @@
 #include "librarycrashguard.h"
 #include "modulesfolder.h"
 
+#include "base/logcategories.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmiwidget.h"
 #include "widgets/widgetlibrary.h"
@@ -99,6 +100,11 @@ WidgetLibraryLoad Load(const ModuleFile& file, const std::string& folder, const 
     return outcome(LibraryOutcome::Declined, "WidgetsLibInit returned 0");
 }
 
+void LogOutcome(const WidgetLibraryLoad& library)
+{
+    qCDebug(lcLibraries, "%s: %s: %s", library.path.c_str(), OutcomeText(library.outcome), library.reason.c_str());
+}
+
 } // namespace
 
 const char* OutcomeText(LibraryOutcome outcome)
@@ -133,9 +139,13 @@ WidgetLibraryLoadReport LoadWidgetLibraries(const std::vector<std::string>& fold
         std::error_code error;
         const std::string folder = std::filesystem::absolute(given, error).string();
         report.folders.push_back(folder);
+        qCDebug(lcLibraries, "looking for widget libraries in %s%s", folder.c_str(),
+                std::filesystem::is_directory(folder, error) ? "" : " (no such folder)");
         for (const ModuleFile& file : ListModulesFolder(folder)) {
-            if (!seen.insert(file.path).second)
+            if (!seen.insert(file.path).second) {
+                qCDebug(lcLibraries, "%s: already loaded from an earlier folder", file.path.c_str());
                 continue;
+            }
             const auto unloaded = [&](LibraryOutcome outcome, std::string reason) {
                 report.libraries.push_back({file.name, file.path, folder, 0, outcome, std::move(reason)});
             };
@@ -146,6 +156,7 @@ WidgetLibraryLoadReport LoadWidgetLibraries(const std::vector<std::string>& fold
                          "it ended the editor while it was being loaded at an earlier start");
             else
                 report.libraries.push_back(Load(file, folder, guard));
+            LogOutcome(report.libraries.back());
         }
     }
     return report;

@@ -1,5 +1,6 @@
 #include "valueset.h"
 
+#include "base/logcategories.h"
 #include "base/textcodec.h"
 #include "previewvalues.h"
 
@@ -117,6 +118,8 @@ FileResult LoadValueSet(CPreviewValues& values, const std::string& path)
                                   values.Variables()[variable].reference + "; left out");
     for (const auto& [variable, generator] : set.generators)
         values.SetGenerator(variable, generator);
+    qCDebug(lcPreview, "read the value set %s: %zu values, %zu generators, %zu notes", path.c_str(),
+            set.values.size(), set.generators.size(), set.notices.size());
     FileResult result;
     result.notices = std::move(set.notices);
     return result;

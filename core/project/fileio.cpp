@@ -2,6 +2,8 @@
 
 #include "openfile.h"
 
+#include "base/logcategories.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <climits>
@@ -187,6 +189,7 @@ public:
             return Fail("Cannot write", m_target, errno);
         if (::fsync(m_fd) != 0)
             return Fail("Cannot flush", m_target, errno);
+        m_size = bytes.size();
         return FileResult::Success();
     }
 
@@ -195,12 +198,14 @@ public:
         if (::rename(m_temporary.c_str(), m_target.c_str()) != 0)
             return Fail("Cannot replace", m_target, errno);
         m_committed = true;
+        qCDebug(lcFile, "wrote %s (%zu bytes)", m_target.c_str(), m_size);
         return FileResult::Success();
     }
 
 private:
     std::string m_target;
     std::string m_temporary;
+    std::size_t m_size = 0;
     int m_fd = -1;
     bool m_committed = false;
 };

@@ -1,5 +1,6 @@
 #include "xmldocument.h"
 
+#include "base/logcategories.h"
 #include "base/textcodec.h"
 #include "fileio.h"
 #include "readnotices.h"
@@ -208,9 +209,17 @@ XmlDocument XmlDocument::Load(const std::string& path, int options)
 {
     // Reading the bytes ourselves keeps libxml2 from printing its own I/O errors.
     std::string bytes;
-    if (const FileResult read = ReadWholeFile(path, bytes); !read)
+    if (const FileResult read = ReadWholeFile(path, bytes); !read) {
+        qCDebug(lcProject, "%s", read.error.c_str());
         return XmlDocument(nullptr, read.error);
-    return Parse(bytes, options);
+    }
+    XmlDocument document = Parse(bytes, options);
+    // The readers go on to ignore a file whose root is not theirs; the name says which it is.
+    if (const XmlElement root = document.Root())
+        qCDebug(lcProject, "read %s: <%s>", path.c_str(), root.Name().c_str());
+    else
+        qCDebug(lcProject, "cannot read %s: %s", path.c_str(), document.Error().c_str());
+    return document;
 }
 
 XmlDocument XmlDocument::Parse(std::string_view text)

@@ -1,5 +1,6 @@
 #include "widgetfilereader.h"
 
+#include "base/logcategories.h"
 #include "dynamics/dynamictype.h"
 #include "hmiwidgetcustom.h"
 #include "project/readnotices.h"
@@ -66,18 +67,25 @@ bool ReadEvents(CHmiWidget& widget, const XmlElement& section)
 HmiWidgetPtr ReadWidget(const XmlElement& element)
 {
     const std::string classKey = element.Attribute("class");
-    if (classKey.empty())
+    std::string name = element.Attribute("name");
+    if (classKey.empty()) {
+        qCDebug(lcFile, "widget '%s' skipped: it has no class", name.c_str());
         return nullptr;
+    }
     const CHmiRuntimeClass* runtimeClass = CHmiWidget::GetWidgetClass(classKey);
     HmiWidgetPtr widget = runtimeClass->CreateObject();
     if (!widget)
         return nullptr;
-    if (runtimeClass == &CHmiWidgetCustom::classCHmiWidgetCustom)
+    if (runtimeClass == &CHmiWidgetCustom::classCHmiWidgetCustom) {
+        qCDebug(lcFile, "widget '%s': no class '%s' is registered; read as a custom widget", name.c_str(),
+                classKey.c_str());
         static_cast<CHmiWidgetCustom&>(*widget).ClassName = classKey;
+    }
 
-    std::string name = element.Attribute("name");
-    if (name.empty())
+    if (name.empty()) {
+        qCDebug(lcFile, "a widget of class '%s' skipped: it has no name", classKey.c_str());
         return nullptr;
+    }
     widget->SetWidgetName(std::move(name));
 
     for (XmlElement section : ChildElements(element)) {
@@ -88,15 +96,14 @@ HmiWidgetPtr ReadWidget(const XmlElement& element)
             ok = ReadDynamics(*widget, section);
         else if (section.Is("events"))
             ok = ReadEvents(*widget, section);
-        if (!ok)
+        if (!ok) {
+            qCDebug(lcFile, "widget '%s' skipped: its <%s> holds an entry without a name or a value",
+                    widget->GetWidgetName().c_str(), section.Name().c_str());
             return nullptr;
+        }
     }
     return widget;
 }
-
-} // namespace
-
-namespace {
 
 FileResult ReadWidgetStream(XmlChildStream& stream, const std::function<void(HmiWidgetPtr)>& reader, int& errorLine)
 {
@@ -151,13 +158,25 @@ FileResult ReadWindowText(std::string_view text, const WidgetSink& sink)
 FileResult ReadWindowFile(const std::string& path, const WidgetSink& sink)
 {
     CFileReader file(path);
-    if (!file.Result())
+    if (!file.Result()) {
+        qCDebug(lcFile, "%s", file.Result().error.c_str());
         return file.Result();
+    }
     XmlChildStream stream(file);
-    FileResult result = ReadWindowStream(stream, sink);
-    if (!file.Result())
+    std::size_t count = 0;
+    FileResult result = ReadWindowStream(stream, [&](HmiWidgetPtr widget) {
+        ++count;
+        sink(std::move(widget));
+    });
+    if (!file.Result()) {
+        qCDebug(lcFile, "%s", file.Result().error.c_str());
         return file.Result();
+    }
     if (!result)
         result.error = "Cannot open " + path + ": " + result.error;
+    if (result)
+        qCDebug(lcFile, "read %s: %zu widgets", path.c_str(), count);
+    else
+        qCDebug(lcFile, "%s", result.error.c_str());
     return result;
 }

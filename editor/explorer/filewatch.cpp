@@ -1,5 +1,7 @@
 #include "filewatch.h"
 
+#include "base/logcategories.h"
+
 #include <QFileInfo>
 
 CFileWatch::CFileWatch(QObject* parent)
@@ -25,6 +27,7 @@ void CFileWatch::Watch(const QStringList& paths)
 
 void CFileWatch::FileChanged(const QString& path)
 {
+    qCDebug(lcProject, "%s changed on disk", qUtf8Printable(path));
     // The watcher drops a file that was removed or renamed away; a new file in its place is
     // the one to watch now.
     if (!m_watcher.files().contains(path) && QFileInfo::exists(path))

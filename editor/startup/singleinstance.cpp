@@ -1,5 +1,7 @@
 #include "singleinstance.h"
 
+#include "logcategories.h"
+
 #include "project/trust.h"
 
 #include <QDir>
@@ -112,17 +114,23 @@ CInstanceGuard::ListenResult CInstanceGuard::Listen()
     if (m_server.isListening())
         return ListenResult::Listening;
     m_failureReason = PrivateFolderProblem(QFileInfo(m_name).path());
-    if (!m_failureReason.isEmpty())
+    if (!m_failureReason.isEmpty()) {
+        qCDebug(lcHandover, "%s", qUtf8Printable(m_failureReason));
         return ListenResult::Failed;
+    }
     // Listening puts the new socket file over any old one, a running editor's included, so the
     // name is only taken over when no editor of this user answers on it.
-    if (AnEditorOfThisUserListens(m_name))
+    if (AnEditorOfThisUserListens(m_name)) {
+        qCDebug(lcHandover, "an editor of this user listens on %s", qUtf8Printable(m_name));
         return ListenResult::AnotherListens;
+    }
     QLocalServer::removeServer(m_name);
     if (!m_server.listen(m_name)) {
         m_failureReason = QStringLiteral("Cannot listen on %1: %2").arg(m_name, m_server.errorString());
+        qCDebug(lcHandover, "%s", qUtf8Printable(m_failureReason));
         return ListenResult::Failed;
     }
+    qCDebug(lcHandover, "listening on %s", qUtf8Printable(m_name));
     m_listenerCheck.start();
     return ListenResult::Listening;
 }
@@ -145,11 +153,21 @@ bool CInstanceGuard::SendRecord(const QString& serverName, quint32 identifier, c
 {
     QLocalSocket socket;
     socket.connectToServer(serverName);
-    if (!socket.waitForConnected(timeoutMs) || !PeerIsThisUser(socket))
+    if (!socket.waitForConnected(timeoutMs)) {
+        qCDebug(lcHandover, "no editor answers on %s: %s", qUtf8Printable(serverName),
+                qUtf8Printable(socket.errorString()));
         return false;
+    }
+    if (!PeerIsThisUser(socket)) {
+        qCDebug(lcHandover, "the program on %s runs as another user: nothing sent", qUtf8Printable(serverName));
+        return false;
+    }
     const QByteArray record = EncodeRecord(identifier, text);
-    if (socket.write(record) != record.size() || !socket.waitForBytesWritten(timeoutMs))
+    if (socket.write(record) != record.size() || !socket.waitForBytesWritten(timeoutMs)) {
+        qCDebug(lcHandover, "cannot send to %s: %s", qUtf8Printable(serverName), qUtf8Printable(socket.errorString()));
         return false;
+    }
+    qCDebug(lcHandover, "sent record %u with '%s' to %s", identifier, text.constData(), qUtf8Printable(serverName));
     // The bytes are with the system now; the listener reads them after this side has gone.
     socket.disconnectFromServer();
     return true;
@@ -159,11 +177,14 @@ void CInstanceGuard::AcceptConnections()
 {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
         if (!PeerIsThisUser(*socket)) {
+            qCDebug(lcHandover, "refused a connection from a program of another user");
             delete socket;
             continue;
         }
-        if (m_connections.size() == kMaxOpenConnections)
+        if (m_connections.size() == kMaxOpenConnections) {
+            qCDebug(lcHandover, "%lld connections open: the oldest is dropped", qlonglong(kMaxOpenConnections));
             m_connections.takeFirst()->abort();
+        }
         m_connections.append(socket);
         connect(socket, &QObject::destroyed, this, [this, socket] { m_connections.removeOne(socket); });
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
@@ -181,6 +202,7 @@ void CInstanceGuard::ReadRecord(QLocalSocket* socket)
     const auto identifier = qFromLittleEndian<quint32>(header.constData());
     const auto length = qFromLittleEndian<quint32>(header.constData() + sizeof(quint32));
     if (length == 0 || length > kMaxTextLength) {
+        qCDebug(lcHandover, "dropped a record that gives its length as %u", length);
         socket->abort();
         return;
     }
@@ -191,10 +213,13 @@ void CInstanceGuard::ReadRecord(QLocalSocket* socket)
     socket->disconnectFromServer();
     if (text.indexOf('\0') == qsizetype(length) - 1)
         Dispatch(identifier, text.chopped(1));
+    else
+        qCDebug(lcHandover, "ignored a record whose text is not %u bytes ending in a zero", length);
 }
 
 void CInstanceGuard::Dispatch(quint32 identifier, const QByteArray& text)
 {
+    qCDebug(lcHandover, "received record %u with '%s'", identifier, text.constData());
     if (identifier != kOpenFileRecord) {
         emit beepRequested();
         return;

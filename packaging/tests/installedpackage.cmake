@@ -1,11 +1,11 @@
-# Installs the build into a staging folder, builds a widget library against that installation
-# alone, and has the installed kelvo-hmi load it. Run by ctest with -DBUILD_DIR, -DSOURCE_DIR,
-# -DWORK_DIR, -DLIBRARY_PROJECT, -DWIDGET_SOURCE, -DGENERATOR, -DCXX_COMPILER, -DCXX_LAUNCHER
-# and -DSANITIZED.
+# Installs the build into a staging folder, builds the SDK example and a use of every installed
+# header against that installation alone, and has the installed kelvo-hmi load the example's
+# library, draw its widget and save it. Run by ctest with -DBUILD_DIR, -DSOURCE_DIR, -DWORK_DIR,
+# -DEXAMPLE_DIR, -DHEADERS_PROJECT, -DREFERENCE_IMAGE, -DSAME_PIXELS, -DGENERATOR, -DCXX_COMPILER,
+# -DCXX_LAUNCHER and -DSANITIZED.
 set(stage ${WORK_DIR}/stage)
-set(library ${WORK_DIR}/library)
+set(example ${WORK_DIR}/example)
 file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${library})
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
@@ -14,6 +14,13 @@ function(run)
     endif()
     set(output "${output}" PARENT_SCOPE)
     set(errors "${errors}" PARENT_SCOPE)
+endfunction()
+
+# Configures and builds a project against the staged installation only.
+function(build_against_stage source binary)
+    run(${CMAKE_COMMAND} -S ${source} -B ${binary} -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${stage}
+        -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_LAUNCHER})
+    run(${CMAKE_COMMAND} --build ${binary})
 endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${stage} --strip)
@@ -31,21 +38,25 @@ if(NOT SANITIZED)
     endforeach()
 endif()
 
-# The library's source is copied out, so that nothing it includes can come from the source tree.
-configure_file(${WIDGET_SOURCE} ${library}/widgets.cpp COPYONLY)
-run(${CMAKE_COMMAND} -S ${LIBRARY_PROJECT} -B ${library}/build -G ${GENERATOR}
-    -DCMAKE_PREFIX_PATH=${stage} -DCMAKE_CXX_COMPILER=${CXX_COMPILER}
-    -DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_LAUNCHER} -DWIDGET_SOURCE=${library}/widgets.cpp)
-run(${CMAKE_COMMAND} --build ${library}/build)
+# The example is copied out (its files, not a build folder someone left in it), so that nothing
+# it includes can come from the source tree.
+file(GLOB example_files LIST_DIRECTORIES false ${EXAMPLE_DIR}/*)
+file(COPY ${example_files} DESTINATION ${example})
+build_against_stage(${example} ${example}/build)
+build_against_stage(${HEADERS_PROJECT} ${WORK_DIR}/headers)
 
-# Loaded, the library's class saves its own properties (a custom widget would keep the file's).
-file(WRITE ${library}/window.xml [[<?xml version="1.0" encoding="GB2312"?>
-<hmiwidget>
-<widget name="g" class="gauge"><properties></properties></widget>
-</hmiwidget>
-]])
-run(${stage}/bin/kelvo-hmi --modules ${library}/build/modules roundtrip ${library}/window.xml ${library}/saved.xml)
-file(READ ${library}/saved.xml saved)
-if(errors OR NOT saved MATCHES "<property name=\"needle\" type=\"ulong\" value=\"255\"")
-    message(FATAL_ERROR "The installed kelvo-hmi did not load the library:\n${errors}${saved}")
+set(kelvo_hmi ${stage}/bin/kelvo-hmi --modules ${example}/build/modules)
+# Loaded, the library's class draws the tanks; a custom widget would draw nothing.
+run(${kelvo_hmi} render ${example}/tank.xml ${WORK_DIR}/tank.png)
+execute_process(COMMAND ${SAME_PIXELS} ${WORK_DIR}/tank.png ${REFERENCE_IMAGE}
+                RESULT_VARIABLE different OUTPUT_VARIABLE difference ERROR_VARIABLE difference)
+if(errors OR different)
+    message(FATAL_ERROR "The installed kelvo-hmi did not draw the example as ${REFERENCE_IMAGE}:\n"
+                        "${errors}${difference}")
+endif()
+# And saves them with every property of its own (a custom widget would keep the file's only).
+run(${kelvo_hmi} roundtrip ${example}/tank.xml ${WORK_DIR}/saved.xml)
+file(READ ${WORK_DIR}/saved.xml saved)
+if(errors OR NOT saved MATCHES "name=\"tank1\".*<property name=\"alarmlevel\" type=\"long\" value=\"90\" />")
+    message(FATAL_ERROR "The installed kelvo-hmi did not save the example's widget as its class:\n${errors}${saved}")
 endif()

@@ -1,0 +1,3 @@
+#include "logcategories.h"
+
+Q_LOGGING_CATEGORY(lcHandover, "kelvo.handover", QtWarningMsg)
