@@ -1,5 +1,8 @@
 # One helper per kind of target, so that every library, tool and test is declared alike.
 
+# Every test draws with the same fonts, whatever else the machine has installed.
+set(KELVO_TEST_FONTS ${PROJECT_SOURCE_DIR}/tests/support/fonts.conf)
+
 # kelvo_add_library(NAME): a shared library whose sources the area folders add with
 # target_sources. Its sources include each other from the folder that declares it
 # ("widgets/hmiwidget.h" in core/), which is its only include root; the headers it installs
@@ -45,7 +48,7 @@ function(kelvo_add_test name)
     if(ARG_DATA_DIR)
         target_compile_definitions(${name} PRIVATE KELVO_TEST_DATA_DIR="${ARG_DATA_DIR}")
     endif()
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT "FONTCONFIG_FILE=${KELVO_TEST_FONTS}")
 endfunction()
 
 # kelvo_add_static_library(NAME SOURCES ... LIBS ...): one area of the editor, linked into the
@@ -82,5 +85,5 @@ function(kelvo_add_qt_test name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime;FONTCONFIG_FILE=${KELVO_TEST_FONTS}")
 endfunction()
