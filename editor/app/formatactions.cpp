@@ -22,17 +22,24 @@ struct AlignItem {
 };
 
 constexpr std::array<AlignItem, 9> kAlignItems = {{
-    {"actionAlignLeft", QT_TRANSLATE_NOOP("CFormatActions", "Align Left"), QT_TRANSLATE_NOOP("CFormatActions", "Set Align Left\nAlign Left"), AlignCommand::Left},
-    {"actionCenterHorizontal", QT_TRANSLATE_NOOP("CFormatActions", "Center Horizontal"), QT_TRANSLATE_NOOP("CFormatActions", "Set Align Horizontal\nAlign Horizontal"),
-     AlignCommand::CenterHorizontal},
-    {"actionAlignRight", QT_TRANSLATE_NOOP("CFormatActions", "Align Right"), QT_TRANSLATE_NOOP("CFormatActions", "Set Align Right\nAlign Right"), AlignCommand::Right},
-    {"actionAlignTop", QT_TRANSLATE_NOOP("CFormatActions", "Align Top"), QT_TRANSLATE_NOOP("CFormatActions", "Set Align Top\nAlign Top"), AlignCommand::Top},
-    {"actionCenterVertical", QT_TRANSLATE_NOOP("CFormatActions", "Center Vertical"), QT_TRANSLATE_NOOP("CFormatActions", "Set Center Vertical\nCenter Vertical"),
-     AlignCommand::CenterVertical},
-    {"actionAlignBottom", QT_TRANSLATE_NOOP("CFormatActions", "Align Bottom"), QT_TRANSLATE_NOOP("CFormatActions", "Set Align Bottom\nAlign Bottom"), AlignCommand::Bottom},
-    {"actionSameWidth", QT_TRANSLATE_NOOP("CFormatActions", "Make Same Width"), QT_TRANSLATE_NOOP("CFormatActions", "Make Same Width\nSame Width"), AlignCommand::SameWidth},
-    {"actionSameHeight", QT_TRANSLATE_NOOP("CFormatActions", "Make Same Height"), QT_TRANSLATE_NOOP("CFormatActions", "Make Same Height\nSame Height"), AlignCommand::SameHeight},
-    {"actionSameSize", QT_TRANSLATE_NOOP("CFormatActions", "Make Same Size"), QT_TRANSLATE_NOOP("CFormatActions", "Make Same Size\nSame Size"), AlignCommand::SameSize},
+    {"actionAlignLeft", QT_TRANSLATE_NOOP("CFormatActions", "Align Left"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Set Align Left\nAlign Left"), AlignCommand::Left},
+    {"actionCenterHorizontal", QT_TRANSLATE_NOOP("CFormatActions", "Center Horizontal"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Set Align Horizontal\nAlign Horizontal"), AlignCommand::CenterHorizontal},
+    {"actionAlignRight", QT_TRANSLATE_NOOP("CFormatActions", "Align Right"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Set Align Right\nAlign Right"), AlignCommand::Right},
+    {"actionAlignTop", QT_TRANSLATE_NOOP("CFormatActions", "Align Top"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Set Align Top\nAlign Top"), AlignCommand::Top},
+    {"actionCenterVertical", QT_TRANSLATE_NOOP("CFormatActions", "Center Vertical"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Set Center Vertical\nCenter Vertical"), AlignCommand::CenterVertical},
+    {"actionAlignBottom", QT_TRANSLATE_NOOP("CFormatActions", "Align Bottom"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Set Align Bottom\nAlign Bottom"), AlignCommand::Bottom},
+    {"actionSameWidth", QT_TRANSLATE_NOOP("CFormatActions", "Make Same Width"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Make Same Width\nSame Width"), AlignCommand::SameWidth},
+    {"actionSameHeight", QT_TRANSLATE_NOOP("CFormatActions", "Make Same Height"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Make Same Height\nSame Height"), AlignCommand::SameHeight},
+    {"actionSameSize", QT_TRANSLATE_NOOP("CFormatActions", "Make Same Size"),
+     QT_TRANSLATE_NOOP("CFormatActions", "Make Same Size\nSame Size"), AlignCommand::SameSize},
 }};
 
 constexpr int kHorizontalAlignCount = 3;
@@ -58,29 +65,29 @@ CFormatActions::CFormatActions(CEditorPrompts& prompts, ActiveView activeView, Q
         SpaceWidgets(view.Document(), view.Selection().Widgets(), SpacingDirection::TopToBottom);
     };
     // The context menu labels the two spacing commands the other way round.
-    m_spaceHorizontal =
-        AddAction("actionSpaceHorizontal", QT_TR_NOOP("Space Down"), QT_TR_NOOP("Set Space Down\nSpace Down"), spaceHorizontally);
-    m_spaceVertical =
-        AddAction("actionSpaceVertical", QT_TR_NOOP("Space Across"), QT_TR_NOOP("Set Space Across\nSpace Across"), spaceVertically);
-    m_contextSpaceHorizontal =
-        AddAction("contextSpaceHorizontal", QT_TR_NOOP("Space Across"), QT_TR_NOOP("Set Space Down\nSpace Down"), spaceHorizontally);
-    m_contextSpaceVertical =
-        AddAction("contextSpaceVertical", QT_TR_NOOP("Space Down"), QT_TR_NOOP("Set Space Across\nSpace Across"), spaceVertically);
+    m_spaceHorizontal = AddAction("actionSpaceHorizontal", QT_TR_NOOP("Space Down"),
+                                  QT_TR_NOOP("Set Space Down\nSpace Down"), spaceHorizontally);
+    m_spaceVertical = AddAction("actionSpaceVertical", QT_TR_NOOP("Space Across"),
+                                QT_TR_NOOP("Set Space Across\nSpace Across"), spaceVertically);
+    m_contextSpaceHorizontal = AddAction("contextSpaceHorizontal", QT_TR_NOOP("Space Across"),
+                                         QT_TR_NOOP("Set Space Down\nSpace Down"), spaceHorizontally);
+    m_contextSpaceVertical = AddAction("contextSpaceVertical", QT_TR_NOOP("Space Down"),
+                                       QT_TR_NOOP("Set Space Across\nSpace Across"), spaceVertically);
 
     m_lock = AddAction("actionLockControl", QT_TR_NOOP("Lock Control"), QT_TR_NOOP("Lock Controls\nLock Controls"),
                        [](CTamloView& view) { view.SetLocked(!view.IsLocked()); });
     m_lock->setCheckable(true);
-    m_moveToTop = AddAction("actionMoveToTop", QT_TR_NOOP("Move to Top"), QT_TR_NOOP("Move to Top\nMove to Top"), [](CTamloView& view) {
-        MoveWidgetToTop(view.Document(), view.Selection().Widgets());
-    });
-    m_moveToBottom =
-        AddAction("actionMoveToBottom", QT_TR_NOOP("Move to Bottom"), QT_TR_NOOP("Move to Bottom\nMove to Bottom"), [](CTamloView& view) {
-            MoveWidgetToBottom(view.Document(), view.Selection().Widgets());
-        });
-    m_zoom = AddAction("actionZoom", QT_TR_NOOP("Zoom..."), QT_TR_NOOP("Zoom Widget of  Selected"), [this](CTamloView& view) {
-        if (const std::optional<int> percent = m_prompts.AskZoomPercent(&view))
-            ZoomWidgets(view.Document(), view.Selection().Widgets(), *percent);
-    });
+    m_moveToTop = AddAction("actionMoveToTop", QT_TR_NOOP("Move to Top"), QT_TR_NOOP("Move to Top\nMove to Top"),
+                            [](CTamloView& view) { MoveWidgetToTop(view.Document(), view.Selection().Widgets()); });
+    m_moveToBottom = AddAction("actionMoveToBottom", QT_TR_NOOP("Move to Bottom"),
+                               QT_TR_NOOP("Move to Bottom\nMove to Bottom"), [](CTamloView& view) {
+                                   MoveWidgetToBottom(view.Document(), view.Selection().Widgets());
+                               });
+    m_zoom = AddAction("actionZoom", QT_TR_NOOP("Zoom..."), QT_TR_NOOP("Zoom Widget of  Selected"),
+                       [this](CTamloView& view) {
+                           if (const std::optional<int> percent = m_prompts.AskZoomPercent(&view))
+                               ZoomWidgets(view.Document(), view.Selection().Widgets(), *percent);
+                       });
     SyncWithActiveView();
 }
 

@@ -180,7 +180,8 @@ void CDynPropertyDialog::accept()
     if (!CurrentExpressionText().trimmed().isEmpty()) {
         m_outcome = Outcome::Bound;
     } else if (m_wasBound) {
-        const auto answer = QMessageBox::question(this, windowTitle(), tr("Express is empty,are you sure to delete it?"));
+        const auto answer =
+            QMessageBox::question(this, windowTitle(), tr("Express is empty,are you sure to delete it?"));
         if (answer != QMessageBox::Yes)
             return;
         m_outcome = Outcome::Deleted;

@@ -18,7 +18,8 @@ QString ProjectContext::ChooseDirectory(QWidget* parent, const QString& title, c
 QString ProjectContext::ChoosePicture(QWidget* parent, const QString& startFolder)
 {
     return QFileDialog::getOpenFileName(parent, QString(), startFolder,
-                                        QCoreApplication::translate("ProjectContext", "Pictures (*.bmp *.png *.jpg *.jpeg *.gif);;All files (*)"));
+                                        QCoreApplication::translate("ProjectContext", "Pictures (*.bmp *.png *.jpg "
+                                                                                      "*.jpeg *.gif);;All files (*)"));
 }
 
 QColor ProjectContext::ChooseColor(QWidget* parent, const QColor& initial)

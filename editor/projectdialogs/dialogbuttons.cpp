@@ -14,8 +14,10 @@ QPushButton* MakePictureButton(QStyle::StandardPixmap image, const QString& text
 
 OkCancelButtons AddOkCancelButtons(QDialog& dialog, QBoxLayout& layout)
 {
-    OkCancelButtons buttons{MakePictureButton(QStyle::SP_DialogOkButton, QCoreApplication::translate("DialogButtons", "OK"), &dialog),
-                            MakePictureButton(QStyle::SP_DialogCancelButton, QCoreApplication::translate("DialogButtons", "Cancel"), &dialog)};
+    OkCancelButtons buttons{
+        MakePictureButton(QStyle::SP_DialogOkButton, QCoreApplication::translate("DialogButtons", "OK"), &dialog),
+        MakePictureButton(QStyle::SP_DialogCancelButton, QCoreApplication::translate("DialogButtons", "Cancel"),
+                          &dialog)};
     buttons.ok->setDefault(true);
     QObject::connect(buttons.cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     layout.addWidget(buttons.ok);

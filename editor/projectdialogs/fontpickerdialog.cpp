@@ -46,7 +46,8 @@ CFontPickerDialog::CFontPickerDialog(const HmiFont& font, HmiColor color, Projec
                                      QWidget* parent)
     : QDialog(parent), m_initial(font), m_color(color), m_chooseColor(std::move(chooseColor)),
       m_face(new QComboBox(this)), m_height(new QSpinBox(this)),
-      m_bold(FlagBox(tr("Bold"), font.weight >= kLeastBoldWeight, this)), m_italic(FlagBox(tr("Italic"), font.italic, this)),
+      m_bold(FlagBox(tr("Bold"), font.weight >= kLeastBoldWeight, this)),
+      m_italic(FlagBox(tr("Italic"), font.italic, this)),
       m_underline(FlagBox(tr("Underline"), font.underline, this)),
       m_strikeOut(FlagBox(tr("Strikeout"), font.strikeOut, this)), m_colorButton(new QPushButton(tr("Color..."), this))
 {

@@ -64,13 +64,15 @@ QString PrivateFolderProblem(const QString& folder)
 {
     const QByteArray local = QFile::encodeName(folder);
     if (::mkdir(local.constData(), 0700) != 0 && errno != EEXIST)
-        return QCoreApplication::translate("CInstanceGuard", "Cannot create %1: %2").arg(folder, qt_error_string(errno));
+        return QCoreApplication::translate("CInstanceGuard", "Cannot create %1: %2")
+            .arg(folder, qt_error_string(errno));
     struct stat info;
     if (::lstat(local.constData(), &info) != 0)
         return QCoreApplication::translate("CInstanceGuard", "Cannot use %1: %2").arg(folder, qt_error_string(errno));
     const std::string problem = S_ISDIR(info.st_mode) ? TrustProblem(info) : "not a folder";
     return problem.empty() ? QString()
-                           : QCoreApplication::translate("CInstanceGuard", "Cannot use %1: it is %2").arg(folder, QString::fromStdString(problem));
+                           : QCoreApplication::translate("CInstanceGuard", "Cannot use %1: it is %2")
+                                 .arg(folder, QString::fromStdString(problem));
 }
 
 // The display as a part of a file name. Every start in one session finds the same display in
