@@ -1,15 +1,19 @@
 #!/usr/bin/env bash
-# Installs every build and test dependency from Debian's packages. When all of them are
+# Installs every build and test dependency from Debian's packages; with --editor also what the
+# running editor shows its user (Qt's own translations, a font for Chinese). When all of them are
 # installed already it does nothing, so a daily start needs neither root nor a network.
 set -euo pipefail
 
 packages=(
     cmake make g++ pkg-config
-    qt6-base-dev libxml2-dev libgtest-dev
+    qt6-base-dev libxml2-dev libgtest-dev qt6-tools-dev qt6-l10n-tools
     locales
     xvfb xauth x11-utils xdotool imagemagick fonts-dejavu-core
     desktop-file-utils appstream
 )
+if [ "${1:-}" = "--editor" ]; then
+    packages+=(qt6-translations-l10n fonts-wqy-microhei)
+fi
 
 missing=()
 for package in "${packages[@]}"; do

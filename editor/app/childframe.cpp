@@ -114,7 +114,7 @@ void CChildFrame::CheckDiskCopy()
 {
     const bool ours = DiskCopyIsOurs();
     if (!ours)
-        m_diskNotice->setText(QStringLiteral("%1 was changed on disk by another program. Saving this window "
+        m_diskNotice->setText(tr("%1 was changed on disk by another program. Saving this window "
                                              "would overwrite that change.").arg(DisplayName()));
     m_diskNotice->setVisible(!ours);
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-const QString kWindowFileFilter = QStringLiteral("HMI window files (*.xml);;All files (*)");
+const char* const kWindowFileFilter = QT_TRANSLATE_NOOP("CEditorPrompts", "HMI window files (*.xml);;All files (*)");
 
 } // namespace
 
@@ -29,7 +29,7 @@ CEditorPrompts::SaveAnswer CEditorPrompts::AskSaveChanges(QWidget* parent, const
 {
     const auto answer =
         QMessageBox::question(parent, QStringLiteral("Kelvo HMI Editor"),
-                              QStringLiteral("Save changes to %1?").arg(documentName),
+                              tr("Save changes to %1?").arg(documentName),
                               QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     if (answer == QMessageBox::Save)
         return SaveAnswer::Save;
@@ -40,27 +40,27 @@ bool CEditorPrompts::AskOverwriteChangedFile(QWidget* parent, const QString& doc
 {
     const auto answer = QMessageBox::question(
         parent, QStringLiteral("Kelvo HMI Editor"),
-        QStringLiteral("%1 was changed on disk by another program.\n\nOverwrite it?").arg(documentName),
+        tr("%1 was changed on disk by another program.\n\nOverwrite it?").arg(documentName),
         QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     return answer == QMessageBox::Yes;
 }
 
 QString CEditorPrompts::AskSaveFileName(QWidget* parent, const QString& suggestedPath)
 {
-    return QFileDialog::getSaveFileName(parent, QStringLiteral("Save As"), suggestedPath, kWindowFileFilter);
+    return QFileDialog::getSaveFileName(parent, tr("Save As"), suggestedPath, tr(kWindowFileFilter));
 }
 
 QString CEditorPrompts::AskOpenFileName(QWidget* parent, const QString& folder)
 {
-    return QFileDialog::getOpenFileName(parent, QStringLiteral("Open"), folder, kWindowFileFilter);
+    return QFileDialog::getOpenFileName(parent, tr("Open"), folder, tr(kWindowFileFilter));
 }
 
 std::optional<int> CEditorPrompts::AskZoomPercent(QWidget* parent)
 {
     // Any whole number is taken; one of zero or less leaves the widgets as they are.
     bool ok = false;
-    const int percent = QInputDialog::getInt(parent, QStringLiteral("Metafile Holistic Zoom"),
-                                             QStringLiteral("Scale (%):"), 100, std::numeric_limits<int>::min(),
+    const int percent = QInputDialog::getInt(parent, tr("Metafile Holistic Zoom"),
+                                             tr("Scale (%):"), 100, std::numeric_limits<int>::min(),
                                              std::numeric_limits<int>::max(), 1, &ok);
     return ok ? std::optional<int>(percent) : std::nullopt;
 }
@@ -74,8 +74,8 @@ QString CEditorPrompts::AskVariableReference(QWidget* parent)
     for (const std::string& reference : database.AllReferenceTexts())
         references << FromModel(reference);
     bool ok = false;
-    const QString reference = QInputDialog::getItem(parent, QStringLiteral("Find References"),
-                                                    QStringLiteral("Variable reference:"), references, 0, true, &ok);
+    const QString reference = QInputDialog::getItem(parent, tr("Find References"),
+                                                    tr("Variable reference:"), references, 0, true, &ok);
     return ok ? reference.trimmed() : QString();
 }
 

@@ -4,6 +4,7 @@
 #include "editor/extensions/projectcontext.h"
 #include "editor/recovery/recoverydialog.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -13,6 +14,7 @@ class QWidget;
 // Every question the editor asks the user, in one place, so that tests can answer them
 // without modal dialogs. The editor uses the standard dialogs; tests install their own.
 class CEditorPrompts {
+    Q_DECLARE_TR_FUNCTIONS(CEditorPrompts)
 public:
     enum class SaveAnswer { Save, Discard, Cancel };
 

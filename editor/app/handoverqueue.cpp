@@ -3,6 +3,8 @@
 #include "editorprompts.h"
 #include "mainframe.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace {
@@ -15,7 +17,8 @@ QString ListOf(QStringList messages)
     messages.removeDuplicates();
     QString text = messages.mid(0, kMaxListedMessages).join(QStringLiteral("\n\n"));
     if (messages.size() > kMaxListedMessages)
-        text += QStringLiteral("\n\n... and %1 more.").arg(messages.size() - kMaxListedMessages);
+        text += QCoreApplication::translate("CHandOverQueue", "\n\n... and %1 more.")
+                    .arg(messages.size() - kMaxListedMessages);
     return text;
 }
 

@@ -1,9 +1,14 @@
 #include "editorcommandline.h"
+#include "editorlanguage.h"
 #include "editorprompts.h"
 #include "firstpaintexit.h"
 #include "tamloapp.h"
 
+#include "editor/preferences/editorpreferences.h"
+
 #include <QApplication>
+#include <QLocale>
+#include <QSettings>
 
 #include <cstdio>
 #include <optional>
@@ -32,6 +37,10 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kelvo HMI Editor"));
     CFirstPaintExit::InstallWhenAsked(application);
+    // Before any window is built, so that every text is created in the chosen language.
+    const QString preferredLanguage = CEditorPreferences(*CTamloApp::OpenSettings()).Get().language;
+    const CEditorLanguage language(preferredLanguage, QLocale::system().uiLanguages(),
+                                   CTamloApp::InstalledDataFolder() + QStringLiteral("/translations"));
     CEditorPrompts prompts;
     CTamloApp editor(prompts);
     switch (editor.Start(QApplication::arguments())) {

@@ -90,7 +90,7 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     CreateDocks();
     CreateActions();
     CreateMenus();
-    statusBar()->showMessage(QStringLiteral("Ready"));
+    statusBar()->showMessage(tr("Ready"));
     m_cursorPosition->setObjectName(QStringLiteral("cursorPosition"));
     const int positionWidth = m_cursorPosition->fontMetrics().horizontalAdvance(QStringLiteral("00000, 00000"));
     m_cursorPosition->setMinimumWidth(positionWidth);
@@ -124,7 +124,7 @@ CMainFrame::~CMainFrame()
 void CMainFrame::CreateDocks()
 {
     m_explorer = new CProjectExplorer;
-    auto* explorerDock = new QDockWidget(QStringLiteral("Project"), this);
+    auto* explorerDock = new QDockWidget(tr("Project"), this);
     explorerDock->setObjectName(QStringLiteral("explorerDock"));
     explorerDock->setWidget(m_explorer);
     addDockWidget(Qt::LeftDockWidgetArea, explorerDock);
@@ -133,7 +133,7 @@ void CMainFrame::CreateDocks()
     connect(m_explorer, &CProjectExplorer::findReferencesRequested, this, &CMainFrame::FindReferences);
 
     m_toolbox = new CToolbox(m_session.Tools());
-    auto* toolboxDock = new QDockWidget(QStringLiteral("Toolbox"), this);
+    auto* toolboxDock = new QDockWidget(tr("Toolbox"), this);
     toolboxDock->setObjectName(QStringLiteral("toolboxDock"));
     toolboxDock->setWidget(m_toolbox);
     addDockWidget(Qt::LeftDockWidgetArea, toolboxDock);
@@ -146,7 +146,7 @@ void CMainFrame::CreateDocks()
     m_propertyPane = new CPropertyPane;
     layout->addWidget(m_nameCombo);
     layout->addWidget(m_propertyPane, 1);
-    auto* propertyDock = new QDockWidget(QStringLiteral("Properties"), this);
+    auto* propertyDock = new QDockWidget(tr("Properties"), this);
     propertyDock->setObjectName(QStringLiteral("propertyDock"));
     propertyDock->setWidget(properties);
     addDockWidget(Qt::RightDockWidgetArea, propertyDock);
@@ -163,7 +163,7 @@ void CMainFrame::CreateDocks()
 void CMainFrame::CreatePreviewDock()
 {
     m_variables = new CVariablesDock;
-    auto* dock = new QDockWidget(QStringLiteral("Variables"), this);
+    auto* dock = new QDockWidget(tr("Variables"), this);
     dock->setObjectName(QStringLiteral("variablesDock"));
     dock->setWidget(m_variables);
     addDockWidget(Qt::RightDockWidgetArea, dock);
@@ -191,8 +191,8 @@ void CMainFrame::PreviewRunningChanged(bool running)
         m_variables->parentWidget()->show();
         m_variables->parentWidget()->raise();
     }
-    statusBar()->showMessage(running ? QStringLiteral("Preview: F5 or Esc returns to editing")
-                                     : QStringLiteral("Ready"));
+    statusBar()->showMessage(running ? tr("Preview: F5 or Esc returns to editing")
+                                     : tr("Ready"));
 }
 
 void CMainFrame::ConnectRowDialogs()
@@ -247,60 +247,60 @@ QAction* CMainFrame::AddCanvasAction(const QString& text, const QString& statusT
 
 void CMainFrame::CreateActions()
 {
-    m_undoAction = AddCanvasAction(QStringLiteral("Undo(&U)\tCtrl+Z"), QStringLiteral("Undo the last action"),
+    m_undoAction = AddCanvasAction(tr("Undo(&U)\tCtrl+Z"), tr("Undo the last action"),
                                    QKeySequence::Undo, &CMainFrame::EditUndo);
-    m_cutAction = AddCanvasAction(QStringLiteral("Cu&t"),
-                                  QStringLiteral("Cut the selection and put it on the Clipboard"), QKeySequence::Cut,
+    m_cutAction = AddCanvasAction(tr("Cu&t"),
+                                  tr("Cut the selection and put it on the Clipboard"), QKeySequence::Cut,
                                   &CMainFrame::EditCut);
-    m_copyAction = AddCanvasAction(QStringLiteral("&Copy"),
-                                   QStringLiteral("Copy the selection and put it on the Clipboard"), QKeySequence::Copy,
+    m_copyAction = AddCanvasAction(tr("&Copy"),
+                                   tr("Copy the selection and put it on the Clipboard"), QKeySequence::Copy,
                                    &CMainFrame::EditCopy);
-    m_pasteAction = AddCanvasAction(QStringLiteral("&Paste"), QStringLiteral("Insert Clipboard contents"),
+    m_pasteAction = AddCanvasAction(tr("&Paste"), tr("Insert Clipboard contents"),
                                     QKeySequence::Paste, &CMainFrame::EditPaste);
-    m_deleteAction = AddCanvasAction(QStringLiteral("&Delete"), QStringLiteral("Delete the selection"),
+    m_deleteAction = AddCanvasAction(tr("&Delete"), tr("Delete the selection"),
                                      QKeySequence::Delete, &CMainFrame::EditDelete);
-    m_selectAllAction = AddCanvasAction(QStringLiteral("Select &All"),
-                                        QStringLiteral("Select every widget of the window"),
+    m_selectAllAction = AddCanvasAction(tr("Select &All"),
+                                        tr("Select every widget of the window"),
                                         QKeySequence::SelectAll, &CMainFrame::EditSelectAll);
     // Escape also works while the toolbox, where the placing tool was chosen, has the focus.
-    QAction* cancel = AddCanvasAction(QStringLiteral("Cancel"), QStringLiteral("Stop placing widgets"),
+    QAction* cancel = AddCanvasAction(tr("Cancel"), tr("Stop placing widgets"),
                                       QKeySequence::Cancel, &CMainFrame::CancelTool);
     m_toolbox->addAction(cancel);
 }
 
 void CMainFrame::CreateMenus()
 {
-    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
-    m_newAction = AddAction(file, QStringLiteral("&New"), QStringLiteral("Create a new document"),
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    m_newAction = AddAction(file, tr("&New"), tr("Create a new document"),
                             &CMainFrame::FileNew);
     m_newAction->setShortcut(QKeySequence::New);
-    m_openAction = AddAction(file, QStringLiteral("&Open..."), QStringLiteral("Open an existing document"),
+    m_openAction = AddAction(file, tr("&Open..."), tr("Open an existing document"),
                              &CMainFrame::FileOpen);
     m_openAction->setShortcut(QKeySequence::Open);
-    AddAction(file, QStringLiteral("Open P&roject..."), QStringLiteral("Choose the project folder"),
+    AddAction(file, tr("Open P&roject..."), tr("Choose the project folder"),
               &CMainFrame::FileOpenProject)
         ->setObjectName(QStringLiteral("actionOpenProject"));
-    QAction* openProject = AddAction(file, QStringLiteral("Open Project Window..."), QStringLiteral("Open Project"),
+    QAction* openProject = AddAction(file, tr("Open Project Window..."), tr("Open Project"),
                                      &CMainFrame::FileOpenProjectWindow);
     openProject->setObjectName(QStringLiteral("actionOpenProjectWindow"));
-    m_saveAction = AddAction(file, QStringLiteral("&Save"), QStringLiteral("Save the active document"),
+    m_saveAction = AddAction(file, tr("&Save"), tr("Save the active document"),
                              &CMainFrame::FileSave);
     m_saveAction->setShortcut(QKeySequence::Save);
-    m_saveAsAction = AddAction(file, QStringLiteral("Save &As..."),
-                               QStringLiteral("Save the active document with a new name"), &CMainFrame::FileSaveAs);
+    m_saveAsAction = AddAction(file, tr("Save &As..."),
+                               tr("Save the active document with a new name"), &CMainFrame::FileSaveAs);
     m_saveAsAction->setShortcut(QKeySequence::SaveAs);
     m_recentSeparator = file->addSeparator();
     for (QAction*& recent : m_recentFileActions) {
         recent = file->addAction(QString());
-        recent->setStatusTip(QStringLiteral("Open this document"));
+        recent->setStatusTip(tr("Open this document"));
         connect(recent, &QAction::triggered, this, [this, recent] { OpenDocument(recent->data().toString()); });
     }
     file->addSeparator();
-    m_exitAction = file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
-    m_exitAction->setStatusTip(QStringLiteral("Quit the application"));
+    m_exitAction = file->addAction(tr("E&xit"), this, &QWidget::close);
+    m_exitAction->setStatusTip(tr("Quit the application"));
     m_exitAction->setShortcut(QKeySequence::Quit);
 
-    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     edit->addAction(m_undoAction);
     edit->addSeparator();
     edit->addAction(m_cutAction);
@@ -310,11 +310,11 @@ void CMainFrame::CreateMenus()
     edit->addSeparator();
     edit->addAction(m_selectAllAction);
     edit->addSeparator();
-    AddAction(edit, QStringLiteral("Find &References..."),
-              QStringLiteral("List every use of a variable in the project's windows"), &CMainFrame::EditFindReferences)
+    AddAction(edit, tr("Find &References..."),
+              tr("List every use of a variable in the project's windows"), &CMainFrame::EditFindReferences)
         ->setObjectName(QStringLiteral("actionFindReferences"));
 
-    QToolBar* standard = addToolBar(QStringLiteral("Standard"));
+    QToolBar* standard = addToolBar(tr("Standard"));
     standard->setObjectName(QStringLiteral("standardToolBar"));
     const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
     m_newAction->setIcon(icon(QStyle::SP_FileIcon));
@@ -326,29 +326,29 @@ void CMainFrame::CreateMenus()
     standard->addSeparator();
     standard->addActions({m_undoAction, m_deleteAction});
 
-    QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
+    QMenu* view = menuBar()->addMenu(tr("&View"));
     view->addAction(standard->toggleViewAction());
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
     view->addSeparator();
     view->addAction(m_preview->PreviewAction());
     view->addSeparator();
-    QAction* statusBarToggle = view->addAction(QStringLiteral("&Status Bar"));
+    QAction* statusBarToggle = view->addAction(tr("&Status Bar"));
     statusBarToggle->setCheckable(true);
     statusBarToggle->setChecked(true);
-    statusBarToggle->setStatusTip(QStringLiteral("Show or hide the status bar"));
+    statusBarToggle->setStatusTip(tr("Show or hide the status bar"));
     connect(statusBarToggle, &QAction::toggled, statusBar(), &QStatusBar::setVisible);
 
     menuBar()->addMenu(m_formatActions->CreateFormatMenu(this));
     CreateToolsMenu();
 
-    m_windowMenu = menuBar()->addMenu(QStringLiteral("&Window"));
+    m_windowMenu = menuBar()->addMenu(tr("&Window"));
     connect(m_windowMenu, &QMenu::aboutToShow, this, &CMainFrame::UpdateWindowMenu);
     UpdateWindowMenu();
 
-    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
-    AddAction(help, QStringLiteral("&Widget Libraries..."),
-              QStringLiteral("Show which widget libraries were loaded at start-up, and why others were not"),
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    AddAction(help, tr("&Widget Libraries..."),
+              tr("Show which widget libraries were loaded at start-up, and why others were not"),
               &CMainFrame::HelpWidgetLibraries);
 }
 
@@ -359,11 +359,11 @@ void CMainFrame::SetWidgetLibraries(WidgetLibraryLoadReport report)
                      [](const WidgetLibraryLoad& library) { return library.Failed(); }))
         return;
     // A notice, not a message box: nothing stops the start, and the report is there when wanted.
-    auto* notice = new QPushButton(QStringLiteral("Not all widget libraries were loaded"));
+    auto* notice = new QPushButton(tr("Not all widget libraries were loaded"));
     notice->setObjectName(QStringLiteral("widgetLibraryNotice"));
     notice->setFlat(true);
     notice->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    notice->setStatusTip(QStringLiteral("Show why, in Help > Widget Libraries"));
+    notice->setStatusTip(tr("Show why, in Help > Widget Libraries"));
     connect(notice, &QPushButton::clicked, this, &CMainFrame::HelpWidgetLibraries);
     statusBar()->insertPermanentWidget(0, notice);
 }
@@ -382,10 +382,10 @@ void CMainFrame::HelpWidgetLibraries()
 void CMainFrame::UpdateWindowMenu()
 {
     m_windowMenu->clear();
-    QAction* cascade = m_windowMenu->addAction(QStringLiteral("&Cascade"), m_mdiArea, &QMdiArea::cascadeSubWindows);
-    cascade->setStatusTip(QStringLiteral("Arrange windows so they overlap"));
-    QAction* tile = m_windowMenu->addAction(QStringLiteral("&Tile"), m_mdiArea, &QMdiArea::tileSubWindows);
-    tile->setStatusTip(QStringLiteral("Arrange windows as non-overlapping tiles"));
+    QAction* cascade = m_windowMenu->addAction(tr("&Cascade"), m_mdiArea, &QMdiArea::cascadeSubWindows);
+    cascade->setStatusTip(tr("Arrange windows so they overlap"));
+    QAction* tile = m_windowMenu->addAction(tr("&Tile"), m_mdiArea, &QMdiArea::tileSubWindows);
+    tile->setStatusTip(tr("Arrange windows as non-overlapping tiles"));
     const QList<CChildFrame*> children = Children();
     if (!children.isEmpty())
         m_windowMenu->addSeparator();
@@ -394,7 +394,7 @@ void CMainFrame::UpdateWindowMenu()
         QAction* entry = m_windowMenu->addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(child->DisplayName()));
         entry->setCheckable(true);
         entry->setChecked(child == ActiveChild());
-        entry->setStatusTip(QStringLiteral("Activate this window"));
+        entry->setStatusTip(tr("Activate this window"));
         connect(entry, &QAction::triggered, this, [this, child] { m_mdiArea->setActiveSubWindow(child); });
     }
 }
@@ -473,11 +473,11 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
     if (!result.notices.empty()) {
         // A window of thousands of widgets can leave a note for each; the message stays on screen.
         constexpr std::size_t kShownNotices = 10;
-        message = QStringLiteral("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
+        message = tr("%1 was opened. Please note:").arg(QDir::toNativeSeparators(absolute));
         for (std::size_t i = 0; i < std::min(result.notices.size(), kShownNotices); ++i)
             message += QStringLiteral("\n\n") + QString::fromStdString(result.notices[i]);
         if (result.notices.size() > kShownNotices)
-            message += QStringLiteral("\n\n... and %1 more notes.").arg(result.notices.size() - kShownNotices);
+            message += tr("\n\n... and %1 more notes.").arg(result.notices.size() - kShownNotices);
     }
     return AddChild(std::move(document));
 }
@@ -540,7 +540,7 @@ void CMainFrame::CreateProjectDocks()
     m_searchResults->setObjectName(QStringLiteral("searchResults"));
     QDockWidget* above = nullptr;
     for (CPlaceList* list : std::initializer_list<CPlaceList*>{m_problems, m_searchResults}) {
-        auto* dock = new QDockWidget(list == m_problems ? QStringLiteral("Problems") : QStringLiteral("Search Results"),
+        auto* dock = new QDockWidget(list == m_problems ? tr("Problems") : tr("Search Results"),
                                      this);
         dock->setObjectName(list->objectName() + QStringLiteral("Dock"));
         dock->setWidget(list);
@@ -555,18 +555,18 @@ void CMainFrame::CreateProjectDocks()
 
 void CMainFrame::CreateToolsMenu()
 {
-    QMenu* tools = menuBar()->addMenu(QStringLiteral("&Tools"));
-    AddAction(tools, QStringLiteral("&Check Project"),
-              QStringLiteral("List what the panel would not find or not show in the project's windows"),
+    QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+    AddAction(tools, tr("&Check Project"),
+              tr("List what the panel would not find or not show in the project's windows"),
               &CMainFrame::ToolsCheckProject)
         ->setObjectName(QStringLiteral("actionCheckProject"));
-    AddAction(tools, QStringLiteral("&Rename Variable..."),
-              QStringLiteral("Rename a variable reference in every window of the project"),
+    AddAction(tools, tr("&Rename Variable..."),
+              tr("Rename a variable reference in every window of the project"),
               &CMainFrame::ToolsRenameVariable)
         ->setObjectName(QStringLiteral("actionRenameVariable"));
     tools->addSeparator();
-    QAction* preferences = AddAction(tools, QStringLiteral("&Preferences..."),
-                                     QStringLiteral("Choose how the editor works: undo history, grid and snapping, language"),
+    QAction* preferences = AddAction(tools, tr("&Preferences..."),
+                                     tr("Choose how the editor works: undo history, grid and snapping, language"),
                                      &CMainFrame::ToolsPreferences);
     preferences->setObjectName(QStringLiteral("actionPreferences"));
     preferences->setMenuRole(QAction::PreferencesRole);
@@ -582,7 +582,7 @@ std::string CMainFrame::ProjectFolder()
 {
     const std::string& folder = GetProjectPath();
     if (folder.empty())
-        m_prompts.ShowError(this, QStringLiteral("There is no project folder: open a window of a project first."));
+        m_prompts.ShowError(this, tr("There is no project folder: open a window of a project first."));
     return folder;
 }
 
@@ -615,7 +615,7 @@ void CMainFrame::FindReferences(const QString& reference)
     const std::string text = ToModel(reference.trimmed());
     if (!IsVariableReference(text))
         return m_prompts.ShowError(
-            this, QStringLiteral("\"%1\" is not a variable reference such as $plc.level or $setpoint.").arg(reference));
+            this, tr("\"%1\" is not a variable reference such as $plc.level or $setpoint.").arg(reference));
     if (const std::string folder = ProjectFolder(); !folder.empty()) {
         m_searchResults->FindReferences(folder, text, OpenWindows());
         m_searchResults->parentWidget()->show();
@@ -631,7 +631,7 @@ void CMainFrame::ToolsRenameVariable()
     CRenameVariableDialog dialog(folder, OpenWindows(), QString(), this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    statusBar()->showMessage(QStringLiteral("Renamed: %1 files written").arg(dialog.WrittenFiles().size()));
+    statusBar()->showMessage(tr("Renamed: %1 files written").arg(dialog.WrittenFiles().size()));
     if (m_problems->HasChecked()) // the windows, and perhaps the declarations, changed
         m_problems->CheckProject(folder);
     UpdateEditActions();
@@ -647,7 +647,7 @@ void CMainFrame::ShowPlace(const PlaceLink& link)
         return !document.IsWidgetDeleted(w.get()) && w->GetWidgetName() == link.widget;
     });
     if (widget == document.Widgets().end())
-        return statusBar()->showMessage(QStringLiteral("The window has no widget named \"%1\" any more.")
+        return statusBar()->showMessage(tr("The window has no widget named \"%1\" any more.")
                                             .arg(FromModel(link.widget)));
     ChildActivated(child);
     child->View().Selection().Select(widget->get(), false);
@@ -779,7 +779,7 @@ void CMainFrame::FileOpenProject()
 {
     const std::string& project = GetProjectPath();
     const QString folder = m_prompts.projectDialogs.chooseDirectory(
-        this, QStringLiteral("Please select project path!"), project.empty() ? QDir::currentPath() : ToQtPath(project));
+        this, tr("Please select project path!"), project.empty() ? QDir::currentPath() : ToQtPath(project));
     if (folder.isEmpty())
         return;
     SetProjectPath(ToModelPath(QDir::fromNativeSeparators(folder)));

@@ -23,8 +23,8 @@ CPreviewActions::CPreviewActions(CVariablesDock& dock, ActiveView activeView, QO
     : QObject(parent), m_dock(dock), m_activeView(std::move(activeView)), m_action(new QAction(this))
 {
     m_action->setObjectName(QStringLiteral("actionPreview"));
-    m_action->setText(QStringLiteral("&Preview"));
-    m_action->setStatusTip(QStringLiteral("Show the window with the values of the Variables dock (F5 or Esc returns)"));
+    m_action->setText(tr("&Preview"));
+    m_action->setStatusTip(tr("Show the window with the values of the Variables dock (F5 or Esc returns)"));
     m_action->setShortcut(Qt::Key_F5);
     m_action->setCheckable(true);
     connect(m_action, &QAction::triggered, this, &CPreviewActions::Toggle);
@@ -116,8 +116,8 @@ void CPreviewActions::ShowClick(const QPoint& point)
         return event.name == "click" && !event.code.empty();
     });
     const QString name = FromModel(widget->GetWidgetName());
-    emit message(click == events.end() ? QStringLiteral("%1 has no click script").arg(name)
-                                       : QStringLiteral("%1 would run on click: %2")
+    emit message(click == events.end() ? tr("%1 has no click script").arg(name)
+                                       : tr("%1 would run on click: %2")
                                              .arg(name, FromModel(click->code).simplified()));
 }
 

@@ -101,7 +101,7 @@ void CRecoveryKeeper::ReportFailure(const QString& error)
     if (error == m_reportedFailure)
         return;
     m_reportedFailure = error;
-    m_frame.statusBar()->showMessage(QStringLiteral("Cannot keep a recovery copy: %1").arg(error));
+    m_frame.statusBar()->showMessage(tr("Cannot keep a recovery copy: %1").arg(error));
 }
 
 void CRecoveryKeeper::EndSession()

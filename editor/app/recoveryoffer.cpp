@@ -9,13 +9,15 @@
 #include "editor/recovery/recoverystore.h"
 #include "widgets/tamlodoc.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 bool RestoreWindow(const RecoveryCopy& copy, CMainFrame& frame, CEditorPrompts& prompts)
 {
     auto document = std::make_unique<CTamloDoc>();
     if (const FileResult result = document->Load(ToModelPath(copy.contentPath)); !result) {
-        prompts.ShowError(&frame, QStringLiteral("Cannot restore %1:\n%2")
+        prompts.ShowError(&frame, QCoreApplication::translate("RecoveryOffer", "Cannot restore %1:\n%2")
                                       .arg(copy.record.displayName, QString::fromStdString(result.error)));
         return false;
     }

@@ -26,14 +26,6 @@ namespace {
 
 const QString kDemoStartWindow = QStringLiteral("main.xml");
 
-// The installed data (the demo project, hmifuncs.xml), found from the program's folder as the
-// installation lays them out, so that an installation works under any prefix.
-QString InstalledDataFolder()
-{
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
-                           QStringLiteral(KELVO_DATA_FROM_PROGRAM));
-}
-
 } // namespace
 
 CTamloApp::CTamloApp(CEditorPrompts& prompts, const QString& instanceName)
@@ -46,6 +38,17 @@ CTamloApp::CTamloApp(CEditorPrompts& prompts, const QString& instanceName)
 CTamloApp::~CTamloApp()
 {
     m_mainFrame.reset();
+}
+
+QString CTamloApp::InstalledDataFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
+                           QStringLiteral(KELVO_DATA_FROM_PROGRAM));
+}
+
+std::unique_ptr<QSettings> CTamloApp::OpenSettings()
+{
+    return std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
 }
 
 QString CTamloApp::DemoProjectFolder()
@@ -80,7 +83,7 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     WidgetLibraryLoadReport libraries =
         LoadWidgetLibraries(WidgetLibraryFolders(modulesFolders), ToModelPath(stateFolder));
 
-    m_settings = std::make_unique<QSettings>(QStringLiteral("Quenzil"), QStringLiteral("Kelvo HMI Editor"));
+    m_settings = OpenSettings();
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings, m_session);
     m_mainFrame->SetWidgetLibraries(std::move(libraries));
     auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
@@ -100,7 +103,7 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
         return StartResult::Failed;
     m_mainFrame->show();
     if (listening == CInstanceGuard::ListenResult::Failed)
-        m_prompts.ShowError(m_mainFrame.get(), QStringLiteral("Later starts of the editor cannot hand their files "
+        m_prompts.ShowError(m_mainFrame.get(), tr("Later starts of the editor cannot hand their files "
                                                               "to this one:\n%1").arg(m_guard.FailureReason()));
     StartRecovery();
     return m_ended ? StartResult::Ended : StartResult::Started;
@@ -112,7 +115,7 @@ void CTamloApp::StartRecovery()
     FileResult result;
     std::unique_ptr<CRecoverySession> session = CRecoverySession::Create(root, result);
     if (!session) {
-        m_prompts.ShowError(m_mainFrame.get(), QStringLiteral("Unsaved changes cannot be kept for recovery:\n%1")
+        m_prompts.ShowError(m_mainFrame.get(), tr("Unsaved changes cannot be kept for recovery:\n%1")
                                                    .arg(QString::fromStdString(result.error)));
         return;
     }

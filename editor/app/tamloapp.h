@@ -37,6 +37,12 @@ public:
 
     // The demo project that the editor opens when it is started without a file.
     static QString DemoProjectFolder();
+    // The installed data (the demo project, hmifuncs.xml, the translations), found from the
+    // program's folder as the installation lays them out, so that an installation works under
+    // any prefix. The build tree lays out the translations alike.
+    static QString InstalledDataFolder();
+    // The editor's settings: recent files, window layout, preferences.
+    static std::unique_ptr<QSettings> OpenSettings();
 
 private:
     bool HandOverToRunningEditor(const QString& fileArgument) const;

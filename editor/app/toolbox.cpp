@@ -43,7 +43,7 @@ QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
 CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), m_tools(tools)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
-    addItem(QStringLiteral("Pointer"));
+    addItem(tr("Pointer"));
     for (const std::string_view key : BuiltinToolboxOrder())
         if (const CWidgetRunTimeClass* entry = CHmiWidget::FindWidgetClassEntry(key))
             AddClass(*entry);

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kReasonColumn = 4;
-const QString kLoadedAtNextStart = QStringLiteral("it will be loaded at the next start");
+const char* const kLoadedAtNextStart = QT_TRANSLATE_NOOP("CWidgetLibraryDialog", "it will be loaded at the next start");
 
 } // namespace
 
@@ -25,25 +25,25 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
     , m_report(std::move(report))
     , m_list(new QTreeWidget)
 {
-    setWindowTitle(QStringLiteral("Widget Libraries"));
+    setWindowTitle(tr("Widget Libraries"));
     QStringList folders;
     for (const std::string& folder : m_report.folders)
         folders.append(ToQtPath(folder));
     const QString searched = folders.join(QStringLiteral(", "));
     auto* text = new QLabel(
         m_report.libraries.empty()
-            ? QStringLiteral("No widget library was found at start-up in %1.").arg(searched)
-            : QStringLiteral("What became of the widget libraries at start-up, looked for in this order in %1:")
+            ? tr("No widget library was found at start-up in %1.").arg(searched)
+            : tr("What became of the widget libraries at start-up, looked for in this order in %1:")
                   .arg(searched));
     text->setWordWrap(true);
 
-    m_list->setHeaderLabels({QStringLiteral("File"), QStringLiteral("Interface"), QStringLiteral("Folder"),
-                             QStringLiteral("Outcome"), QStringLiteral("Reason")});
+    m_list->setHeaderLabels({tr("File"), tr("Interface"), tr("Folder"),
+                             tr("Outcome"), tr("Reason")});
     m_list->setRootIsDecorated(false);
     for (const WidgetLibraryLoad& library : m_report.libraries) {
         // A library let in again since the start is no longer skipped by the next one.
         const QString reason = library.outcome == LibraryOutcome::SkippedAfterCrash && !SkippedAtNextStart(library)
-                                   ? kLoadedAtNextStart
+                                   ? tr(kLoadedAtNextStart)
                                    : QString::fromStdString(library.reason);
         const QString outcome = QString::fromLatin1(OutcomeText(library.outcome));
         // The version a library states; a dash for none, or for one that was never opened.
@@ -57,9 +57,9 @@ CWidgetLibraryDialog::CWidgetLibraryDialog(WidgetLibraryLoadReport report, QWidg
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CWidgetLibraryDialog::UpdateLoadAgainButton);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    m_loadAgain = buttons->addButton(QStringLiteral("&Load Again at Next Start"), QDialogButtonBox::ActionRole);
+    m_loadAgain = buttons->addButton(tr("&Load Again at Next Start"), QDialogButtonBox::ActionRole);
     m_loadAgain->setToolTip(
-        QStringLiteral("Load the chosen library at the next start, although it crashed an earlier one"));
+        tr("Load the chosen library at the next start, although it crashed an earlier one"));
     connect(m_loadAgain, &QPushButton::clicked, this, &CWidgetLibraryDialog::LoadAgainAtNextStart);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -12,7 +12,7 @@
 
 CDynColorDialog::CDynColorDialog(QWidget* parent) : QDialog(parent), m_form(new QFormLayout)
 {
-    setWindowTitle("Dynamic Color Property Setting");
+    setWindowTitle(tr("Dynamic Color Property Setting"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

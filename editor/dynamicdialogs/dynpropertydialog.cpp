@@ -55,7 +55,7 @@ CDynPropertyDialog::CDynPropertyDialog(const CHmiWidgetProp& prop, DynamicDialog
       m_settingsButton(new QPushButton(tr("Settings..."), this)),
       m_preview(new QLabel(this))
 {
-    setWindowTitle("Dynamic Property");
+    setWindowTitle(tr("Dynamic Property"));
     const CHmiDynamicType* bound = prop.GetDynamicType();
     int typeIndex = TypeIndex(DefaultTypeFor(prop));
     for (const char* typeName : kTypeNames) {
@@ -180,7 +180,8 @@ void CDynPropertyDialog::accept()
     if (!CurrentExpressionText().trimmed().isEmpty()) {
         m_outcome = Outcome::Bound;
     } else if (m_wasBound) {
-        const auto answer = QMessageBox::question(this, windowTitle(), "Express is empty,are you sure to delete it?");
+        const auto answer =
+            QMessageBox::question(this, windowTitle(), tr("Express is empty,are you sure to delete it?"));
         if (answer != QMessageBox::Yes)
             return;
         m_outcome = Outcome::Deleted;

@@ -29,7 +29,7 @@ CDynTextDialog::CDynTextDialog(CHmiDynText& binding, QWidget* parent)
       m_intWidth(DigitsBox("intWidth", binding.intWidth, this)),
       m_decWidth(DigitsBox("decWidth", binding.decWidth, this))
 {
-    setWindowTitle("Dynamic Text Property Setting");
+    setWindowTitle(tr("Dynamic Text Property Setting"));
     m_decWidth->setEnabled(binding.HasDecimalWidth());
     auto* form = new QFormLayout;
     form->addRow(tr("Integer width:"), m_intWidth);

@@ -25,7 +25,7 @@ CEventEditDialog::CEventEditDialog(const QString& code, std::vector<ScriptFuncti
       m_help(new QLabel(this)),
       m_insertButton(new QPushButton(tr("Insert"), this))
 {
-    setWindowTitle("Event Edit");
+    setWindowTitle(tr("Event Edit"));
     m_codeEdit->SetCode(code);
     m_insertButton->setObjectName("insertFunction");
     m_help->setWordWrap(true);

@@ -22,7 +22,7 @@ enum Role {
     ReferenceRole,                 // the reference text of a variable item
 };
 
-const QString kWindowsHeading = QStringLiteral("Windows");
+const char* const kWindowsHeading = QT_TRANSLATE_NOOP("CProjectExplorer", "Windows");
 constexpr int kRefreshDelayMs = 200;
 
 QString FromFileName(const std::string& name)
@@ -66,10 +66,10 @@ void MarkAside(QTreeWidgetItem& item, const QString& why)
 CProjectExplorer::CProjectExplorer(QWidget* parent)
     : QTreeWidget(parent)
     , m_watch(new CFileWatch(this))
-    , m_findReferences(new QAction(QStringLiteral("Find References"), this))
+    , m_findReferences(new QAction(tr("Find References"), this))
 {
     m_findReferences->setObjectName(QStringLiteral("findReferencesAction"));
-    m_findReferences->setStatusTip(QStringLiteral("List the windows and widgets that use this variable"));
+    m_findReferences->setStatusTip(tr("List the windows and widgets that use this variable"));
     m_refreshSoon.setSingleShot(true);
     m_refreshSoon.setInterval(kRefreshDelayMs);
     connect(m_watch, &CFileWatch::changed, &m_refreshSoon, qOverload<>(&QTimer::start));
@@ -93,7 +93,7 @@ void CProjectExplorer::Refresh()
         if (item->isExpanded())
             expanded << ItemKey(item);
     if (topLevelItemCount() == 0)
-        expanded << kWindowsHeading; // the windows are what a project is opened for
+        expanded << tr(kWindowsHeading); // the windows are what a project is opened for
     const QString current = currentItem() ? ItemKey(currentItem()) : QString();
     const int scrolled = verticalScrollBar()->value();
 
@@ -102,14 +102,14 @@ void CProjectExplorer::Refresh()
     const QString folder = FromFileName(contents.Folder());
     // The folder's own name, also for a project given as "./".
     const QString folderName = QFileInfo(QDir(folder).absolutePath()).fileName();
-    setHeaderLabel(folder.isEmpty() ? QStringLiteral("No project") : folderName);
+    setHeaderLabel(folder.isEmpty() ? tr("No project") : folderName);
     headerItem()->setToolTip(0, QDir::toNativeSeparators(folder));
     AddWindows(contents);
     AddVariables(contents.Variables().RealtimeRoot());
     AddVariables(contents.Variables().HmiRoot());
-    AddNames(QStringLiteral("History databases"), contents.HistoryDatabases(), FromModel);
-    AddNames(QStringLiteral("Data logs"), contents.DataLogs(), FromModel);
-    AddNames(QStringLiteral("Pictures"), contents.Pictures(), FromFileName);
+    AddNames(tr("History databases"), contents.HistoryDatabases(), FromModel);
+    AddNames(tr("Data logs"), contents.DataLogs(), FromModel);
+    AddNames(tr("Pictures"), contents.Pictures(), FromFileName);
 
     for (QTreeWidgetItem* item : AllItems(*this)) {
         const QString key = ItemKey(item);
@@ -134,7 +134,7 @@ QTreeWidgetItem* CProjectExplorer::AddHeading(const QString& text)
 
 void CProjectExplorer::AddWindows(const CProjectContents& contents)
 {
-    QTreeWidgetItem* heading = AddHeading(kWindowsHeading);
+    QTreeWidgetItem* heading = AddHeading(tr(kWindowsHeading));
     const QIcon icon = style()->standardIcon(QStyle::SP_FileIcon);
     for (const ProjectWindow& window : contents.Windows()) {
         const QString file = FromFileName(window.filename);
@@ -146,9 +146,9 @@ void CProjectExplorer::AddWindows(const CProjectContents& contents)
         item->setToolTip(0, file);
         item->setData(0, WindowPathRole, FromFileName(contents.Folder()) + file);
         if (!window.listed)
-            MarkAside(*item, QStringLiteral("%1 is not in the window list (hmiwindow.xml)").arg(file));
+            MarkAside(*item, tr("%1 is not in the window list (hmiwindow.xml)").arg(file));
         else if (!window.present)
-            MarkAside(*item, QStringLiteral("The window file %1 is missing").arg(file));
+            MarkAside(*item, tr("The window file %1 is missing").arg(file));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "projectcontext.h"
 
 #include <QColorDialog>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -17,7 +18,8 @@ QString ProjectContext::ChooseDirectory(QWidget* parent, const QString& title, c
 QString ProjectContext::ChoosePicture(QWidget* parent, const QString& startFolder)
 {
     return QFileDialog::getOpenFileName(parent, QString(), startFolder,
-                                        "Pictures (*.bmp *.png *.jpg *.jpeg *.gif);;All files (*)");
+                                        QCoreApplication::translate("ProjectContext", "Pictures (*.bmp *.png *.jpg "
+                                                                                      "*.jpeg *.gif);;All files (*)"));
 }
 
 QColor ProjectContext::ChooseColor(QWidget* parent, const QColor& initial)

@@ -7,6 +7,7 @@
 #include "project/variabledatabase.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -62,7 +63,7 @@ QToolButton* ActionButton(const QString& text)
 
 QString ProblemLine(const BindingProblem& problem)
 {
-    return QStringLiteral("%1\t%2\t%3 at %4 of '%5'")
+    return QCoreApplication::translate("CVariablesDock", "%1\t%2\t%3 at %4 of '%5'")
         .arg(FromModel(problem.widget->GetWidgetName()), FromModel(problem.property),
              QString::fromStdString(problem.error.message))
         .arg(problem.error.position)
@@ -83,7 +84,7 @@ CVariablesDock::CVariablesDock(QWidget* parent)
     m_filtered->setSourceModel(m_model);
     m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filtered->setFilterKeyColumn(CVariablesModel::Reference);
-    m_filter->setPlaceholderText(QStringLiteral("Filter variables"));
+    m_filter->setPlaceholderText(tr("Filter variables"));
     m_filter->setClearButtonEnabled(true);
     connect(m_filter, &QLineEdit::textChanged, m_filtered, &QSortFilterProxyModel::setFilterFixedString);
 
@@ -104,16 +105,16 @@ CVariablesDock::CVariablesDock(QWidget* parent)
     });
 
     m_problemList->setObjectName(QStringLiteral("previewProblems"));
-    m_problemList->setHeaderLabels({QStringLiteral("Widget"), QStringLiteral("Binding"), QStringLiteral("Error")});
+    m_problemList->setHeaderLabels({tr("Widget"), tr("Binding"), tr("Error")});
     m_problemList->setRootIsDecorated(false);
     m_problemList->hide();
 
-    auto* save = ActionButton(QStringLiteral("Save"));
-    save->setToolTip(QStringLiteral("Keep the values and generators in the project's %1").arg(kValueSetFileName));
-    auto* load = ActionButton(QStringLiteral("Load"));
-    load->setToolTip(QStringLiteral("Take the values and generators of the project's %1").arg(kValueSetFileName));
-    auto* reset = ActionButton(QStringLiteral("Reset"));
-    reset->setToolTip(QStringLiteral("Every variable back at its init value, without generators"));
+    auto* save = ActionButton(tr("Save"));
+    save->setToolTip(tr("Keep the values and generators in the project's %1").arg(kValueSetFileName));
+    auto* load = ActionButton(tr("Load"));
+    load->setToolTip(tr("Take the values and generators of the project's %1").arg(kValueSetFileName));
+    auto* reset = ActionButton(tr("Reset"));
+    reset->setToolTip(tr("Every variable back at its init value, without generators"));
     connect(save, &QToolButton::clicked, this, &CVariablesDock::SaveValues);
     connect(load, &QToolButton::clicked, this, &CVariablesDock::LoadValues);
     connect(reset, &QToolButton::clicked, this, [this] {
@@ -175,19 +176,19 @@ void CVariablesDock::ShowProblems(const std::vector<BindingProblem>& problems)
 void CVariablesDock::SaveValues()
 {
     if (!m_values || m_folder.empty())
-        return Tell(QStringLiteral("There is no project to keep the values in."));
+        return Tell(tr("There is no project to keep the values in."));
     const FileResult saved = SaveValueSet(*m_values, m_folder + kValueSetFileName);
-    Tell(saved ? QStringLiteral("Saved in %1.").arg(FromModel(m_folder + kValueSetFileName))
+    Tell(saved ? tr("Saved in %1.").arg(FromModel(m_folder + kValueSetFileName))
                : QString::fromStdString(saved.error));
 }
 
 void CVariablesDock::LoadValues()
 {
     if (!m_values || m_folder.empty())
-        return Tell(QStringLiteral("There is no project to take the values from."));
+        return Tell(tr("There is no project to take the values from."));
     const FileResult loaded = LoadValueSet(*m_values, m_folder + kValueSetFileName);
     m_model->SetValues(m_values.get()); // the generators changed as well
-    QStringList lines{loaded ? QStringLiteral("Loaded %1.").arg(FromModel(m_folder + kValueSetFileName))
+    QStringList lines{loaded ? tr("Loaded %1.").arg(FromModel(m_folder + kValueSetFileName))
                              : QString::fromStdString(loaded.error)};
     for (const std::string& notice : loaded.notices)
         lines << QString::fromStdString(notice);

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+
 namespace {
 
 const QString kNoGenerator = QStringLiteral("none");
@@ -24,7 +26,7 @@ QVariant OtherNames(const PreviewVariable& variable)
     QStringList names;
     for (const std::string& name : variable.others)
         names << FromModel(name);
-    return QStringLiteral("Also named %1").arg(names.join(QStringLiteral(", ")));
+    return QCoreApplication::translate("CVariablesModel", "Also named %1").arg(names.join(QStringLiteral(", ")));
 }
 
 // A generator as it starts when chosen for a variable that has none: toggling between 0 and 1,
@@ -75,10 +77,12 @@ int CVariablesModel::columnCount(const QModelIndex& parent) const
 
 QVariant CVariablesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const char* const kHeaders[] = {"Variable", "Type", "Value", "Generator", "Low", "High", "Period (ms)"};
+    static const char* const kHeaders[] = {QT_TR_NOOP("Variable"), QT_TR_NOOP("Type"),      QT_TR_NOOP("Value"),
+                                           QT_TR_NOOP("Generator"), QT_TR_NOOP("Low"), QT_TR_NOOP("High"),
+                                           QT_TR_NOOP("Period (ms)")};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
         return {};
-    return QString::fromLatin1(kHeaders[section]);
+    return tr(kHeaders[section]);
 }
 
 QVariant CVariablesModel::data(const QModelIndex& index, int role) const
@@ -129,7 +133,7 @@ bool CVariablesModel::setData(const QModelIndex& index, const QVariant& value, i
     const PreviewVariable& target = m_values->Variables()[variable];
     const bool generated = target.generator.has_value();
     if (!m_values->SetValue(variable, ToModel(value.toString()))) {
-        emit valueRefused(QStringLiteral("%1 holds a number: \"%2\" is none.")
+        emit valueRefused(tr("%1 holds a number: \"%2\" is none.")
                               .arg(FromModel(target.reference), value.toString()));
         return false;
     }

@@ -7,6 +7,7 @@
 #include "widgets/tamlodoc.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFile>
 #include <QStyle>
 #include <QTimer>
@@ -20,9 +21,10 @@ namespace {
 // Edits come in bursts (typing, dragging): the window is checked once they pause.
 constexpr int kRecheckDelayMs = 300;
 
-QString CountText(std::size_t count, const char* what)
+// "1 error", "3 errors": the texts for one and for more are given apart, as each language words them.
+QString CountText(std::size_t count, const char* one, const char* more)
 {
-    return QStringLiteral("%1 %2%3").arg(count).arg(QLatin1String(what)).arg(count == 1 ? "" : "s");
+    return QCoreApplication::translate("CProblemsPane", count == 1 ? one : more).arg(count);
 }
 
 } // namespace
@@ -68,11 +70,11 @@ private:
 };
 
 CProblemsPane::CProblemsPane(QWidget* parent)
-    : CPlaceList({QStringLiteral("Severity"), QStringLiteral("File"), QStringLiteral("Widget"),
-                  QStringLiteral("Where"), QStringLiteral("Rule"), QStringLiteral("Message")},
+    : CPlaceList({tr("Severity"), tr("File"), tr("Widget"),
+                  tr("Where"), tr("Rule"), tr("Message")},
                  parent)
 {
-    ClearPlaces(QStringLiteral("Tools > Check Project lists what the panel would not find or not show."));
+    ClearPlaces(tr("Tools > Check Project lists what the panel would not find or not show."));
 }
 
 void CProblemsPane::CheckProject(const std::string& folder)
@@ -118,9 +120,10 @@ void CProblemsPane::ShowFindings()
     const auto errors = std::size_t(std::count_if(m_findings.begin(), m_findings.end(), [](const Finding& finding) {
         return finding.rule->severity == Severity::Error;
     }));
-    ClearPlaces(m_findings.empty() ? QStringLiteral("No problems found.")
-                                   : CountText(errors, "error") + QStringLiteral(", ") +
-                                         CountText(m_findings.size() - errors, "warning"));
+    ClearPlaces(m_findings.empty() ? tr("No problems found.")
+                                   : CountText(errors, QT_TR_NOOP("%1 error"), QT_TR_NOOP("%1 errors")) + tr(", ") +
+                                         CountText(m_findings.size() - errors, QT_TR_NOOP("%1 warning"),
+                                                   QT_TR_NOOP("%1 warnings")));
     const QIcon errorIcon = style()->standardIcon(QStyle::SP_MessageBoxCritical);
     const QIcon warningIcon = style()->standardIcon(QStyle::SP_MessageBoxWarning);
     for (const Finding& finding : m_findings) {
@@ -128,7 +131,7 @@ void CProblemsPane::ShowFindings()
         PlaceLink link{{}, finding.widget, finding.place};
         if (IsWindowContentFinding(finding))
             link.path = QFile::decodeName(QByteArray::fromStdString(m_folder + Gb2312ToUtf8OrKeep(finding.file)));
-        QTreeWidgetItem* row = AddPlace({error ? QStringLiteral("error") : QStringLiteral("warning"),
+        QTreeWidgetItem* row = AddPlace({error ? tr("error") : tr("warning"),
                                          FromModel(finding.file), FromModel(finding.widget),
                                          QString::fromStdString(finding.place.Text()),
                                          QLatin1String(finding.rule->id), FromModel(finding.message)},

@@ -40,30 +40,30 @@ CRenameVariableDialog::CRenameVariableDialog(std::string folder, std::vector<Ope
     , m_open(std::move(open))
     , m_from(new QLineEdit(from))
     , m_to(new QLineEdit)
-    , m_declarations(new QCheckBox(QStringLiteral("Also rename in rtdb.xml / hmidb.xml")))
+    , m_declarations(new QCheckBox(tr("Also rename in rtdb.xml / hmidb.xml")))
     , m_changes(new QTreeWidget)
     , m_status(new QLabel)
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Apply | QDialogButtonBox::Close))
 {
-    setWindowTitle(QStringLiteral("Rename Variable"));
+    setWindowTitle(tr("Rename Variable"));
     m_from->setObjectName(QStringLiteral("oldReference"));
     m_to->setObjectName(QStringLiteral("newReference"));
-    m_to->setPlaceholderText(QStringLiteral("$plc.level or $setpoint"));
+    m_to->setPlaceholderText(tr("$plc.level or $setpoint"));
     m_declarations->setObjectName(QStringLiteral("renameDeclarations"));
     m_changes->setObjectName(QStringLiteral("renameChanges"));
-    m_changes->setHeaderLabels({QStringLiteral("File"), QStringLiteral("Widget"), QStringLiteral("Where"),
-                                QStringLiteral("Before"), QStringLiteral("After")});
+    m_changes->setHeaderLabels({tr("File"), tr("Widget"), tr("Where"),
+                                tr("Before"), tr("After")});
     m_changes->setRootIsDecorated(false);
     m_status->setObjectName(QStringLiteral("renameStatus"));
     m_status->setWordWrap(true);
-    auto* preview = new QPushButton(QStringLiteral("&Preview"));
+    auto* preview = new QPushButton(tr("&Preview"));
     preview->setObjectName(QStringLiteral("renamePreview"));
     m_applyButton = m_buttons->button(QDialogButtonBox::Apply);
     m_applyButton->setEnabled(false);
 
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("&Old reference:"), m_from);
-    form->addRow(QStringLiteral("&New reference:"), m_to);
+    form->addRow(tr("&Old reference:"), m_from);
+    form->addRow(tr("&New reference:"), m_to);
     form->addRow(QString(), m_declarations);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
@@ -94,11 +94,11 @@ void CRenameVariableDialog::Preview()
     ForgetPreview();
     const std::string from = ToModel(m_from->text().trimmed()), to = ToModel(m_to->text().trimmed());
     if (!IsVariableReference(from) || !IsVariableReference(to))
-        return m_status->setText(QStringLiteral("Both must be variable references such as $plc.level or $setpoint."));
+        return m_status->setText(tr("Both must be variable references such as $plc.level or $setpoint."));
     if (from == to)
-        return m_status->setText(QStringLiteral("The new reference is the old one."));
+        return m_status->setText(tr("The new reference is the old one."));
     if (const FileResult planned = m_run.Plan(m_folder, from, to, m_declarations->isChecked(), m_open); !planned)
-        return m_status->setText(QStringLiteral("Nothing can be renamed: %1").arg(QString::fromStdString(planned.error)));
+        return m_status->setText(tr("Nothing can be renamed: %1").arg(QString::fromStdString(planned.error)));
     for (const ReferenceChange& change : m_run.Changes()) {
         const auto [before, after] = DifferingLine(change.before, change.after);
         auto* row = new QTreeWidgetItem(m_changes, {FromModel(change.use.file), FromModel(change.use.widget),
@@ -111,8 +111,8 @@ void CRenameVariableDialog::Preview()
     m_changes->header()->resizeSection(3, kTextColumnWidth); // long expressions share the rest
     const std::size_t files = m_run.FilesToWrite().size();
     m_status->setText(m_run.Changes().empty() && files == 0
-                          ? QStringLiteral("No window uses %1.").arg(m_from->text().trimmed())
-                          : QStringLiteral("%1 changes; %2 files to write, open windows change in memory.")
+                          ? tr("No window uses %1.").arg(m_from->text().trimmed())
+                          : tr("%1 changes; %2 files to write, open windows change in memory.")
                                 .arg(m_run.Changes().size())
                                 .arg(files));
     m_applyButton->setEnabled(!m_run.Changes().empty() || files > 0);
@@ -122,7 +122,7 @@ void CRenameVariableDialog::Apply()
 {
     if (const FileResult applied = m_run.Apply(m_written); !applied) {
         m_applyButton->setEnabled(false);
-        return m_status->setText(QStringLiteral("Nothing was renamed: %1").arg(QString::fromStdString(applied.error)));
+        return m_status->setText(tr("Nothing was renamed: %1").arg(QString::fromStdString(applied.error)));
     }
     accept();
 }

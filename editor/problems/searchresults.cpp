@@ -8,7 +8,7 @@
 #include <set>
 
 CSearchResults::CSearchResults(QWidget* parent)
-    : CPlaceList({QStringLiteral("File"), QStringLiteral("Widget"), QStringLiteral("Where"), QStringLiteral("Uses")},
+    : CPlaceList({tr("File"), tr("Widget"), tr("Where"), tr("Uses")},
                  parent)
 {
 }
@@ -19,7 +19,7 @@ FileResult CSearchResults::FindReferences(const std::string& folder, const std::
     std::vector<ReferenceUse> uses;
     const FileResult found = FindReferencesInProject(folder, reference, open, uses);
     if (!found) {
-        ClearPlaces(QStringLiteral("Cannot look for %1: %2").arg(FromModel(reference), QString::fromStdString(found.error)));
+        ClearPlaces(tr("Cannot look for %1: %2").arg(FromModel(reference), QString::fromStdString(found.error)));
         return found;
     }
     std::set<std::string> files;
@@ -28,7 +28,7 @@ FileResult CSearchResults::FindReferences(const std::string& folder, const std::
         files.insert(use.file);
         count += use.count;
     }
-    ClearPlaces(QStringLiteral("%1 uses of %2 in %3 windows").arg(count).arg(FromModel(reference)).arg(files.size()));
+    ClearPlaces(tr("%1 uses of %2 in %3 windows").arg(count).arg(FromModel(reference)).arg(files.size()));
     for (const ReferenceUse& use : uses) {
         const QString path = QFile::decodeName(QByteArray::fromStdString(GetProjectPath() + Gb2312ToUtf8OrKeep(use.file)));
         AddPlace({FromModel(use.file), FromModel(use.widget), QString::fromStdString(use.place.Text()),

@@ -1,6 +1,7 @@
 #include "dialogbuttons.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QPushButton>
 
@@ -13,8 +14,10 @@ QPushButton* MakePictureButton(QStyle::StandardPixmap image, const QString& text
 
 OkCancelButtons AddOkCancelButtons(QDialog& dialog, QBoxLayout& layout)
 {
-    OkCancelButtons buttons{MakePictureButton(QStyle::SP_DialogOkButton, "OK", &dialog),
-                            MakePictureButton(QStyle::SP_DialogCancelButton, "Cancel", &dialog)};
+    OkCancelButtons buttons{
+        MakePictureButton(QStyle::SP_DialogOkButton, QCoreApplication::translate("DialogButtons", "OK"), &dialog),
+        MakePictureButton(QStyle::SP_DialogCancelButton, QCoreApplication::translate("DialogButtons", "Cancel"),
+                          &dialog)};
     buttons.ok->setDefault(true);
     QObject::connect(buttons.cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     layout.addWidget(buttons.ok);

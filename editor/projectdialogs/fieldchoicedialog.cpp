@@ -75,8 +75,8 @@ CFieldChoiceDialog::CFieldChoiceDialog(const QString& title, const std::vector<F
         entry->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         entry->setCheckState(choice.checked ? Qt::Checked : Qt::Unchecked);
     }
-    auto* moveUp = MakePictureButton(QStyle::SP_ArrowUp, "Move up", this);
-    auto* moveDown = MakePictureButton(QStyle::SP_ArrowDown, "Move down", this);
+    auto* moveUp = MakePictureButton(QStyle::SP_ArrowUp, tr("Move up"), this);
+    auto* moveDown = MakePictureButton(QStyle::SP_ArrowDown, tr("Move down"), this);
     connect(moveUp, &QPushButton::clicked, this, [this] { MoveCurrent(-1); });
     connect(moveDown, &QPushButton::clicked, this, [this] { MoveCurrent(1); });
 

@@ -46,25 +46,26 @@ CFontPickerDialog::CFontPickerDialog(const HmiFont& font, HmiColor color, Projec
                                      QWidget* parent)
     : QDialog(parent), m_initial(font), m_color(color), m_chooseColor(std::move(chooseColor)),
       m_face(new QComboBox(this)), m_height(new QSpinBox(this)),
-      m_bold(FlagBox("Bold", font.weight >= kLeastBoldWeight, this)), m_italic(FlagBox("Italic", font.italic, this)),
-      m_underline(FlagBox("Underline", font.underline, this)),
-      m_strikeOut(FlagBox("Strikeout", font.strikeOut, this)), m_colorButton(new QPushButton("Color...", this))
+      m_bold(FlagBox(tr("Bold"), font.weight >= kLeastBoldWeight, this)),
+      m_italic(FlagBox(tr("Italic"), font.italic, this)),
+      m_underline(FlagBox(tr("Underline"), font.underline, this)),
+      m_strikeOut(FlagBox(tr("Strikeout"), font.strikeOut, this)), m_colorButton(new QPushButton(tr("Color..."), this))
 {
-    setWindowTitle("Font");
+    setWindowTitle(tr("Font"));
     // The face is kept as written, also one this machine does not have.
     m_face->setEditable(true);
     m_face->addItems(QFontDatabase::families());
     m_face->setCurrentText(FromModel(font.face));
     m_height->setRange(0, kLargestHeight);
     m_height->setValue(std::abs(font.height));
-    m_height->setSuffix(" px");
+    m_height->setSuffix(tr(" px"));
     connect(m_colorButton, &QPushButton::clicked, this, &CFontPickerDialog::ChooseColor);
     ShowColor();
 
     auto* form = new QFormLayout;
-    form->addRow("Font", m_face);
-    form->addRow("Height", m_height);
-    form->addRow("Color", m_colorButton);
+    form->addRow(tr("Font"), m_face);
+    form->addRow(tr("Height"), m_height);
+    form->addRow(tr("Color"), m_colorButton);
     for (QCheckBox* flag : {m_bold, m_italic, m_underline, m_strikeOut})
         form->addRow(flag);
     auto* buttons = new QHBoxLayout;

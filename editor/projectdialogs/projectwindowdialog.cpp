@@ -26,14 +26,14 @@ CProjectWindowDialog::CProjectWindowDialog(ProjectContext::DirectoryChooser choo
     : QDialog(parent), m_chooseDirectory(std::move(chooseDirectory)), m_list(new QTreeWidget(this)),
       m_path(new QLineEdit(this))
 {
-    setWindowTitle("Project Window Information");
+    setWindowTitle(tr("Project Window Information"));
     m_list->setRootIsDecorated(false);
     m_list->setAllColumnsShowFocus(true);
-    m_list->setHeaderLabels({"window name", "window caption", "file name"});
+    m_list->setHeaderLabels({tr("window name"), tr("window caption"), tr("file name")});
     m_list->header()->setDefaultSectionSize(kColumnWidth);
     m_list->header()->setDefaultAlignment(Qt::AlignCenter);
     m_path->setReadOnly(true);
-    auto* browse = MakePictureButton(QStyle::SP_DirOpenIcon, "Browse...", this);
+    auto* browse = MakePictureButton(QStyle::SP_DirOpenIcon, tr("Browse..."), this);
     connect(browse, &QPushButton::clicked, this, &CProjectWindowDialog::Browse);
 
     auto* pathRow = new QHBoxLayout;
@@ -68,7 +68,7 @@ void CProjectWindowDialog::ShowProject()
 
 void CProjectWindowDialog::Browse()
 {
-    const QString folder = m_chooseDirectory(this, "Please select project path!", QDir::currentPath());
+    const QString folder = m_chooseDirectory(this, tr("Please select project path!"), QDir::currentPath());
     if (folder.isEmpty())
         return;
     SetProjectPath(QFile::encodeName(QDir::fromNativeSeparators(folder)).toStdString());

@@ -32,7 +32,7 @@ QTableWidgetItem* CenteredCell(const std::string& text)
 CVariableDialog::CVariableDialog(const CHmiVariableDatabase& database, QWidget* parent)
     : QDialog(parent), m_tree(new QTreeWidget(this)), m_list(new QTableWidget(this))
 {
-    setWindowTitle("HMI Database");
+    setWindowTitle(tr("HMI Database"));
     m_tree->setHeaderHidden(true);
     m_list->setShowGrid(true);
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);

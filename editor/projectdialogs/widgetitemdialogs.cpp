@@ -17,6 +17,7 @@
 #include "widgets/optiontree.h"
 #include "widgets/tamlodoc.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <functional>
@@ -87,11 +88,13 @@ void ImportPicture(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, c
     const QString chosen = context.choosePicture(parent, QFile::decodeName(QByteArray::fromStdString(folder)));
     if (chosen.isEmpty())
         return;
+    if (folder.empty())
+        return context.reportError(parent, QCoreApplication::translate(
+                                               "WidgetItemDialogs",
+                                               "The window has no folder for its pictures yet: save it first."));
     // Brought in here rather than by the widget, so that a failure is told to the user.
     std::string name;
-    const FileResult imported =
-        folder.empty() ? FileResult::Failure("The window has no folder for its pictures yet: save it first.")
-                       : ImportPictureFile(ToModel(chosen), folder, name);
+    const FileResult imported = ImportPictureFile(ToModel(chosen), folder, name);
     if (!imported)
         context.reportError(parent, QString::fromStdString(imported.error));
     else
@@ -112,14 +115,15 @@ void ChooseFont(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const Pro
 void EditAlarmFields(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const ProjectContext& context)
 {
     auto& alarms = static_cast<CHmiWidgetAlarmWnd&>(widget);
-    EditDisplayFields(parent, "Setting Alarm Field", AlarmFieldChoices(alarms.m_strDispFields), alarms, context);
+    EditDisplayFields(parent, QCoreApplication::translate("WidgetItemDialogs", "Setting Alarm Field"),
+                      AlarmFieldChoices(alarms.m_strDispFields), alarms, context);
 }
 
 void EditHistoryFields(QWidget* parent, CHmiWidget& widget, COptionTreeItem&, const ProjectContext& context)
 {
     auto& history = static_cast<CHmiWidgetHisList&>(widget);
     // A database the project does not list has no variables to offer.
-    EditDisplayFields(parent, "History Data Variable",
+    EditDisplayFields(parent, QCoreApplication::translate("WidgetItemDialogs", "History Data Variable"),
                       HistoryFieldChoices(history.m_strDispFields, GetHistoryVariableNames(history.HistoryName())),
                       history, context);
 }

@@ -10,18 +10,18 @@
 
 CRecoveryDialog::CRecoveryDialog(const QList<RecoveryCopy>& copies, QWidget* parent) : QDialog(parent)
 {
-    setWindowTitle(QStringLiteral("Restore Unsaved Windows"));
-    auto* text = new QLabel(QStringLiteral("The editor ended without saving these windows. Restore them?\n"
+    setWindowTitle(tr("Restore Unsaved Windows"));
+    auto* text = new QLabel(tr("The editor ended without saving these windows. Restore them?\n"
                                            "Restored windows open as modified; saving writes their window files."));
 
     auto* list = new QTreeWidget;
     list->setObjectName(QStringLiteral("recoveryList"));
-    list->setHeaderLabels({QStringLiteral("Window"), QStringLiteral("Window file"), QStringLiteral("Copied at")});
+    list->setHeaderLabels({tr("Window"), tr("Window file"), tr("Copied at")});
     list->setRootIsDecorated(false);
     list->setSelectionMode(QAbstractItemView::NoSelection);
     for (const RecoveryCopy& copy : copies) {
         const RecoveryRecord& record = copy.record;
-        const QString file = record.windowPath.isEmpty() ? QStringLiteral("(never saved)")
+        const QString file = record.windowPath.isEmpty() ? tr("(never saved)")
                                                          : QDir::toNativeSeparators(record.windowPath);
         list->addTopLevelItem(new QTreeWidgetItem(
             {record.displayName, file, record.copiedAt.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))}));
@@ -29,9 +29,9 @@ CRecoveryDialog::CRecoveryDialog(const QList<RecoveryCopy>& copies, QWidget* par
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 
     auto* buttons = new QDialogButtonBox;
-    m_restore = buttons->addButton(QStringLiteral("&Restore"), QDialogButtonBox::AcceptRole);
-    m_discard = buttons->addButton(QStringLiteral("&Discard"), QDialogButtonBox::DestructiveRole);
-    buttons->addButton(QStringLiteral("Decide &Later"), QDialogButtonBox::RejectRole);
+    m_restore = buttons->addButton(tr("&Restore"), QDialogButtonBox::AcceptRole);
+    m_discard = buttons->addButton(tr("&Discard"), QDialogButtonBox::DestructiveRole);
+    buttons->addButton(tr("Decide &Later"), QDialogButtonBox::RejectRole);
     m_restore->setDefault(true);
     connect(buttons, &QDialogButtonBox::clicked, this, &CRecoveryDialog::Choose);
 

@@ -1,5 +1,6 @@
 #include "recoverystore.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -58,7 +59,9 @@ QByteArray EncodeRecord(const RecoveryRecord& record)
 // saved, copied when its content was written.
 RecoveryRecord DecodeRecord(const QByteArray& text, const QFileInfo& content)
 {
-    RecoveryRecord record{{}, QStringLiteral("Window %1").arg(content.completeBaseName()), content.lastModified()};
+    RecoveryRecord record{{},
+                          QCoreApplication::translate("RecoveryStore", "Window %1").arg(content.completeBaseName()),
+                          content.lastModified()};
     for (const QByteArray& line : text.split('\n')) {
         const qsizetype equals = line.indexOf('=');
         if (equals < 0)

@@ -4,6 +4,7 @@
 
 #include "project/trust.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -65,13 +66,15 @@ QString PrivateFolderProblem(const QString& folder)
 {
     const QByteArray local = QFile::encodeName(folder);
     if (::mkdir(local.constData(), 0700) != 0 && errno != EEXIST)
-        return QStringLiteral("Cannot create %1: %2").arg(folder, qt_error_string(errno));
+        return QCoreApplication::translate("CInstanceGuard", "Cannot create %1: %2")
+            .arg(folder, qt_error_string(errno));
     struct stat info;
     if (::lstat(local.constData(), &info) != 0)
-        return QStringLiteral("Cannot use %1: %2").arg(folder, qt_error_string(errno));
+        return QCoreApplication::translate("CInstanceGuard", "Cannot use %1: %2").arg(folder, qt_error_string(errno));
     const std::string problem = S_ISDIR(info.st_mode) ? TrustProblem(info) : "not a folder";
     return problem.empty() ? QString()
-                           : QStringLiteral("Cannot use %1: it is %2").arg(folder, QString::fromStdString(problem));
+                           : QCoreApplication::translate("CInstanceGuard", "Cannot use %1: it is %2")
+                                 .arg(folder, QString::fromStdString(problem));
 }
 
 // The display as a part of a file name. Every start in one session finds the same display in
@@ -126,7 +129,7 @@ CInstanceGuard::ListenResult CInstanceGuard::Listen()
     }
     QLocalServer::removeServer(m_name);
     if (!m_server.listen(m_name)) {
-        m_failureReason = QStringLiteral("Cannot listen on %1: %2").arg(m_name, m_server.errorString());
+        m_failureReason = tr("Cannot listen on %1: %2").arg(m_name, m_server.errorString());
         qCDebug(lcHandover, "%s", qUtf8Printable(m_failureReason));
         return ListenResult::Failed;
     }

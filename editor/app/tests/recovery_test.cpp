@@ -72,6 +72,7 @@ private:
         environment.insert(QStringLiteral("HOME"), sandbox.filePath(QStringLiteral("home")));
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), sandbox.filePath(QStringLiteral("runtime")));
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en")); // whatever the machine's locale
         editor.setProcessEnvironment(environment);
         editor.setWorkingDirectory(QStringLiteral(KELVO_DRIFTING_RUN_DIR));
         editor.setProcessChannelMode(QProcess::ForwardedChannels);

@@ -53,6 +53,7 @@ private:
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en")); // whatever the machine's locale
         program.setProcessEnvironment(environment);
         program.setWorkingDirectory(folder);
         program.start(QStringLiteral(KELVO_EDITOR_PROGRAM), arguments);
