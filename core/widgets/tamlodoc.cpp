@@ -116,6 +116,13 @@ void CTamloDoc::WidgetChanged(CHmiWidget& widget, DocChange what, const HmiRect&
     SetModifiedFlag();
 }
 
+void CTamloDoc::WidgetsChanged(const std::vector<HmiWidgetChange>& changes)
+{
+    CChangeBatch batch(*this);
+    for (const HmiWidgetChange& change : changes)
+        WidgetChanged(*change.widget, change.what, change.rectBefore);
+}
+
 void CTamloDoc::SetModifiedFlag(bool modified)
 {
     m_bModified = modified;

@@ -96,6 +96,8 @@ public:
     // undo step the changes are collected and told once, when the step ends.
     void WidgetChanged(CHmiWidget& widget, DocChange what);
     void WidgetChanged(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore);
+    // The same for one edit that changed several widgets, told as one change.
+    void WidgetsChanged(const std::vector<HmiWidgetChange>& changes);
 
     bool IsModified() const { return m_bModified; }
     // The observers hear of the flag when it changes.

@@ -706,10 +706,9 @@ void CMainFrame::ShowSelection(CTamloView& view)
         m_nameCombo->SelectWidget(nullptr);
         return;
     }
-    CHmiWidget* reference = selected.back();
-    if (m_propertyPane->CurrentWidget() != reference)
-        m_propertyPane->ShowWidget(reference);
-    m_nameCombo->SelectWidget(reference);
+    if (m_propertyPane->Widgets() != selected)
+        m_propertyPane->ShowWidgets(selected);
+    m_nameCombo->SelectWidget(selected.back());
 }
 
 void CMainFrame::UpdateEditActions()

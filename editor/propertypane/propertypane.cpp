@@ -1,6 +1,7 @@
 #include "propertypane.h"
 
 #include "propertypaneitem.h"
+#include "sharedrows.h"
 
 #include "base/textcodec.h"
 #include "widgets/tamlodoc.h"
@@ -67,7 +68,11 @@ CPropertyPane::CPropertyPane(QWidget* parent)
 
     connect(m_tree, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* current) { ShowDescription(current); });
-    connect(this, &CPropertyPane::itemChanged, this, &CPropertyPane::ApplyToWidget);
+    connect(this, &CPropertyPane::itemChanged, this, [this](COptionTreeItem* item) {
+        // A copy: the document's change may rebuild the pane before the edit has returned.
+        const std::vector<CHmiWidget*> widgets = m_widgets;
+        ApplyToWidgets(widgets, item);
+    });
 }
 
 // Out of line: the items are complete only here.
@@ -103,51 +108,119 @@ CPropertyPaneItem* CPropertyPane::AddItem(OptionItemKind kind, CPropertyPaneItem
 
 void CPropertyPane::Clear()
 {
-    if (m_widget)
-        m_widget->ReleasePropertyTree();
+    if (CHmiWidget* widget = CurrentWidget())
+        widget->ReleasePropertyTree();
     // Items go first, so that editors hidden by the clearing find nobody to commit to.
+    m_sharedItems.clear();
     m_items.clear();
+    m_shared.reset();
     m_tree->clear();
     m_description->clear();
-    m_widget = nullptr;
+    m_widgets.clear();
+    m_shown.clear();
     if (m_document)
         std::exchange(m_document, nullptr)->RemoveObserver(this);
 }
 
-void CPropertyPane::ShowWidget(CHmiWidget* widget)
+void CPropertyPane::ShowWidgets(std::vector<CHmiWidget*> widgets)
 {
     Clear();
-    m_widget = widget;
-    if (!widget)
+    std::erase(widgets, nullptr);
+    if (widgets.empty())
         return;
-    widget->CreateWidgetPropertyTree(*this);
-    m_document = widget->m_pDocument;
+    m_widgets = std::move(widgets);
+    m_shown.insert(m_widgets.begin(), m_widgets.end());
+    if (m_widgets.size() == 1)
+        m_widgets.front()->CreateWidgetPropertyTree(*this);
+    else
+        ShowSharedRows();
+    m_document = m_widgets.front()->m_pDocument;
     if (m_document)
         m_document->AddObserver(this);
 }
 
-void CPropertyPane::ApplyToWidget(COptionTreeItem* item)
+void CPropertyPane::ShowSharedRows()
 {
-    if (!m_widget)
+    m_shared = std::make_unique<CSharedRows>(m_widgets);
+    const std::vector<SharedRow>& rows = m_shared->Rows();
+    // Only the groups that hold a shared row, in the first widget's order.
+    std::vector<char> used(m_shared->Groups().size(), 0);
+    for (const SharedRow& row : rows)
+        used[row.group] = 1;
+    std::vector<CPropertyPaneItem*> groups(used.size(), nullptr);
+    for (std::size_t g = 0; g < groups.size(); ++g) {
+        if (!used[g])
+            continue;
+        const SharedGroup& group = m_shared->Groups()[g];
+        groups[g] = AddItem(OptionItemKind::Root, nullptr, group.caption, group.info);
+        groups[g]->Expand();
+    }
+    const QString oneWidget = tr("Works on one widget: select it alone to use this");
+    for (const SharedRow& row : rows) {
+        CPropertyPaneItem* item = AddItem(row.kind, groups[row.group], row.caption, row.info);
+        for (const std::string& choice : row.choices)
+            item->AddString(choice);
+        item->SetBindable(row.bindable);
+        item->DisableButtons(oneWidget);
+        if (row.readOnly)
+            item->SetReadOnly();
+        m_sharedItems.push_back(item);
+    }
+    ShowSharedValues();
+}
+
+void CPropertyPane::ShowSharedValues()
+{
+    const std::vector<SharedRow>& rows = m_shared->Rows();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        CPropertyPaneItem& item = *m_sharedItems[i];
+        if (rows[i].agree)
+            ShowRowValue(item, rows[i].kind, rows[i].value);
+        else
+            item.ShowMixed();
+        item.SetAdtColumnBkColor(rows[i].bound ? kHmiColorBound : kHmiColor3DFace);
+    }
+}
+
+void CPropertyPane::ApplyToWidgets(const std::vector<CHmiWidget*>& widgets, COptionTreeItem* item)
+{
+    if (widgets.empty() || !item)
         return;
-    const HmiRect before = m_widget->GetWidgetRect();
-    m_widget->UpdateWidgetPropByTree(item);
-    if (m_document)
-        m_document->WidgetChanged(*m_widget, DocChange::Properties, before);
+    const auto shared = std::find(m_sharedItems.begin(), m_sharedItems.end(), item);
+    std::vector<HmiWidgetChange> changes;
+    changes.reserve(widgets.size());
+    for (CHmiWidget* widget : widgets) {
+        const HmiRect before = widget->GetWidgetRect();
+        if (shared != m_sharedItems.end())
+            m_shared->Apply(*widget, std::size_t(shared - m_sharedItems.begin()), *item);
+        else
+            widget->UpdateWidgetPropByTree(item);
+        changes.push_back({widget, DocChange::Properties, before});
+    }
+    if (CTamloDoc* document = widgets.front()->m_pDocument)
+        document->WidgetsChanged(changes);
 }
 
 void CPropertyPane::DocumentChanged(const CDocumentChange& change)
 {
     if (change.Has(DocChange::Reloaded))
         return Clear();
-    const auto shown = std::find_if(change.widgets.begin(), change.widgets.end(),
-                                    [this](const HmiWidgetChange& entry) { return entry.widget == m_widget; });
-    if (shown == change.widgets.end())
-        return;
-    if (HasAny(shown->what, DocChange::Removed))
+    DocChange shownChanged = DocChange::None;
+    for (const HmiWidgetChange& entry : change.widgets)
+        if (m_shown.contains(entry.widget))
+            shownChanged |= entry.what;
+    if (HasAny(shownChanged, DocChange::Removed))
         Clear();
-    else if (HasAny(shown->what, DocChange::Geometry | DocChange::Properties | DocChange::Bindings))
-        m_widget->UpdateTreeByWidgetProp();
+    else if (HasAny(shownChanged, DocChange::Geometry | DocChange::Properties | DocChange::Bindings))
+        Refresh();
+}
+
+void CPropertyPane::Refresh()
+{
+    if (!m_shared)
+        return m_widgets.front()->UpdateTreeByWidgetProp();
+    m_shared->Reread(m_widgets);
+    ShowSharedValues();
 }
 
 void CPropertyPane::DocumentDestroyed()
@@ -177,15 +250,17 @@ CPropertyPaneItem* CPropertyPane::FindItem(const std::string& caption, const std
 
 bool CPropertyPane::ShowPropertyRow(std::string_view key)
 {
-    const CHmiWidgetProp* prop = m_widget ? m_widget->FindProperty(key) : nullptr;
+    const CHmiWidget* widget = CurrentWidget();
+    const CHmiWidgetProp* prop = widget ? widget->FindProperty(key) : nullptr;
     return prop && MakeCurrent(prop->m_pTreeItem);
 }
 
 bool CPropertyPane::ShowEventRow(std::string_view name)
 {
-    if (!m_widget)
+    const CHmiWidget* widget = CurrentWidget();
+    if (!widget)
         return false;
-    const std::vector<CHmiWidgetEvent>& events = m_widget->GetEvents();
+    const std::vector<CHmiWidgetEvent>& events = widget->GetEvents();
     const auto event = std::find_if(events.begin(), events.end(), [&](const auto& e) { return e.name == name; });
     if (event == events.end())
         return false;

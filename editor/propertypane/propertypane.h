@@ -10,18 +10,22 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 class CPropertyPaneItem;
+class CSharedRows;
 class CTamloDoc;
 class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-// The editor's property pane: the active widget's properties as a three-column tree (caption,
+// The editor's property pane: the selected widget's properties as a three-column tree (caption,
 // value editor, and a narrow column that shows whether the property is bound to an expression),
-// with the current row's help text underneath. It observes the shown widget's document: the rows
-// follow the widget's changes, whoever made them, and the pane empties when the widget goes.
+// with the current row's help text underneath. With several widgets selected it shows the rows
+// they share, each with the value they agree on or none, and an edit goes to all of them. It
+// observes the shown widgets' document: the rows follow the widgets' changes, whoever made them,
+// and the pane empties when a shown widget goes.
 class CPropertyPane : public QWidget, public COptionTree, public CDocumentObserver {
     Q_OBJECT
 public:
@@ -36,11 +40,19 @@ public:
     COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
                                    const std::string& info) override;
 
-    // Removes every row and forgets the shown widget.
+    // Removes every row and forgets the shown widgets.
     void Clear();
-    // Rebuilds the pane for a widget (null: leaves it empty); the user's edits then go to it.
-    void ShowWidget(CHmiWidget* widget);
-    CHmiWidget* CurrentWidget() const { return m_widget; }
+    // Rebuilds the pane for widgets of one document (none: leaves it empty); the user's edits
+    // then go to them. One widget fills the pane itself; several show the rows they share.
+    void ShowWidgets(std::vector<CHmiWidget*> widgets);
+    void ShowWidget(CHmiWidget* widget) { ShowWidgets({widget}); }
+    const std::vector<CHmiWidget*>& Widgets() const { return m_widgets; }
+    // The widget the pane shows alone; null while it shows several or none.
+    CHmiWidget* CurrentWidget() const { return m_widgets.size() == 1 ? m_widgets.front() : nullptr; }
+    // Every edit committed in the pane comes here: each widget takes the row's value through
+    // its own write-back (for a shared row, through its own row), and their document tells of
+    // all of them as one change. No undo step is recorded.
+    void ApplyToWidgets(const std::vector<CHmiWidget*>& widgets, COptionTreeItem* item);
     // Replaces the colour dialog that colour rows open.
     void SetColorChooser(ColorChooser chooser) { m_chooseColor = std::move(chooser); }
     QColor ChooseColor(const QColor& initial) { return m_chooseColor(initial, this); }
@@ -81,13 +93,19 @@ private:
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);
     bool MakeCurrent(const COptionTreeItem* item);
-    // Gives the widget the row's value and tells its document.
-    void ApplyToWidget(COptionTreeItem* item);
+    // The rows several widgets share, and their values.
+    void ShowSharedRows();
+    void ShowSharedValues();
+    // Shows the shown widgets' values again.
+    void Refresh();
 
     QTreeWidget* m_tree;
     QLabel* m_description;
     std::vector<std::unique_ptr<CPropertyPaneItem>> m_items; // in creation order
-    CHmiWidget* m_widget = nullptr;
-    CTamloDoc* m_document = nullptr; // the shown widget's, observed while it is shown
+    std::vector<CHmiWidget*> m_widgets;
+    std::unordered_set<const CHmiWidget*> m_shown; // m_widgets, looked up in the document's changes
+    std::unique_ptr<CSharedRows> m_shared;          // with several widgets shown
+    std::vector<CPropertyPaneItem*> m_sharedItems;  // the row of each shared row
+    CTamloDoc* m_document = nullptr; // the shown widgets', observed while they are shown
     ColorChooser m_chooseColor;
 };

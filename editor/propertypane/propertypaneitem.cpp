@@ -84,7 +84,10 @@ void CPropertyPaneItem::BuildEditor(const QString& info)
     case OptionItemKind::CheckBox:
         editor = m_check = new QCheckBox;
         // clicked, unlike toggled, is never sent for setChecked.
-        connect(m_check, &QCheckBox::clicked, this, [this] { emit m_pane.itemChanged(this); });
+        connect(m_check, &QCheckBox::clicked, this, [this] {
+            m_check->setTristate(false); // a partly checked box becomes checked, and stays two-state
+            emit m_pane.itemChanged(this);
+        });
         break;
     case OptionItemKind::Static:
     case OptionItemKind::Font:
@@ -205,6 +208,7 @@ void CPropertyPaneItem::CommitText()
 void CPropertyPaneItem::SetColor(HmiColor color)
 {
     m_color = color;
+    m_mixedColor = false;
     ShowColor();
 }
 
@@ -212,6 +216,11 @@ void CPropertyPaneItem::ShowColor()
 {
     if (!m_swatch)
         return;
+    if (m_mixedColor) {
+        m_swatch->setStyleSheet(QStringLiteral("border: 1px solid gray;"));
+        m_swatch->setToolTip(QObject::tr("The widgets have different colours"));
+        return;
+    }
     const QColor color = ToQColor(m_color);
     m_swatch->setStyleSheet(QStringLiteral("background-color: %1; border: 1px solid gray;").arg(color.name()));
     m_swatch->setToolTip(color.name());
@@ -220,7 +229,7 @@ void CPropertyPaneItem::ShowColor()
 void CPropertyPaneItem::ChooseColor()
 {
     const QColor chosen = m_pane.ChooseColor(ToQColor(m_color));
-    if (!chosen.isValid() || ToHmiColor(chosen) == m_color)
+    if (!chosen.isValid() || (ToHmiColor(chosen) == m_color && !m_mixedColor))
         return;
     SetColor(ToHmiColor(chosen));
     emit m_pane.itemChanged(this);
@@ -236,6 +245,7 @@ void CPropertyPaneItem::SetCheck(bool checked)
     if (!m_check)
         return;
     const QSignalBlocker block(m_check);
+    m_check->setTristate(false);
     m_check->setChecked(checked);
 }
 
@@ -264,4 +274,40 @@ void CPropertyPaneItem::SetStaticText(const std::string& text)
         return;
     m_text = text;
     m_label->setText(ToQt(text).simplified()); // event scripts have several lines; the row has one
+}
+
+void CPropertyPaneItem::ShowMixed()
+{
+    if (m_edit) {
+        SetEditText({});
+    } else if (m_check) {
+        const QSignalBlocker block(m_check);
+        m_check->setTristate(true);
+        m_check->setCheckState(Qt::PartiallyChecked);
+    } else if (m_combo) {
+        SetCurSel(-1);
+    } else if (m_swatch) {
+        m_mixedColor = true;
+        ShowColor();
+    } else if (m_label) {
+        SetStaticText({});
+    }
+}
+
+void CPropertyPaneItem::SetReadOnly()
+{
+    if (m_edit)
+        m_edit->setReadOnly(true);
+    else if (QWidget* editor = Editor())
+        editor->setEnabled(false);
+}
+
+void CPropertyPaneItem::DisableButtons(const QString& reason)
+{
+    for (QToolButton* button : {m_browse, m_bind}) {
+        if (button) {
+            button->setEnabled(false);
+            button->setToolTip(reason);
+        }
+    }
 }

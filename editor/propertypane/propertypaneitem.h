@@ -44,6 +44,15 @@ public:
     void SetCurSel(int index) override;
     void SetStaticText(const std::string& text) override;
 
+    // Shows no value, since the widgets the row stands for differ: an empty field, a partly
+    // checked box, a combo without selection, a colour swatch without colour. Any value set
+    // afterwards is shown as usual, and any value the user commits is an edit.
+    void ShowMixed();
+    // The value can be read but not edited.
+    void SetReadOnly();
+    // Disables the row's buttons, telling why: their dialogs edit one widget.
+    void DisableButtons(const QString& reason);
+
     QTreeWidgetItem* Row() const { return m_row; }
     // The value editor: line edit, combo box, check box, colour swatch or label; null on group rows.
     QWidget* Editor() const;
@@ -71,6 +80,7 @@ private:
     std::string m_text; // edit, file, variable, static and font rows
     HmiColor m_color = 0;
     int m_selection = -1;
+    bool m_mixedColor = false;
 
     // Editors live in the value cell, which the tree owns.
     QWidget* m_cell = nullptr;

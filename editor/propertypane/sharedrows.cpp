@@ -1,0 +1,159 @@
+#include "sharedrows.h"
+
+#include "widgets/hmiwidget.h"
+#include "widgets/hmiwidgetprop.h"
+
+#include <algorithm>
+
+namespace {
+
+// Names are unique in a window: giving several widgets one name is never meant.
+constexpr const char* kUniqueKeys[] = {"name"};
+
+// Property names are single words, so the keys of event rows and of a widget's own rows, which
+// have a space, never meet them.
+std::string EventKey(const std::string& name)
+{
+    return "event " + name;
+}
+
+std::string CaptionKey(const std::string& group, const std::string& caption)
+{
+    return "row " + group + '/' + caption;
+}
+
+const CHiddenOptionItem& GroupOf(const CHiddenOptionItem& item)
+{
+    const CHiddenOptionItem* group = &item;
+    while (group->parent)
+        group = group->parent;
+    return *group;
+}
+
+} // namespace
+
+CSharedRows::CSharedRows(const std::vector<CHmiWidget*>& widgets)
+{
+    if (widgets.empty())
+        return;
+    Fill(*widgets.front());
+    TakeRowsOfFilling();
+    widgets.front()->ReleasePropertyTree();
+    ReadValues(widgets, true);
+}
+
+void CSharedRows::Fill(CHmiWidget& widget)
+{
+    m_tree.Clear();
+    widget.CreateWidgetPropertyTree(m_tree);
+    // The widget was given only items of this tree.
+    for (const auto& prop : widget.GetProperties())
+        if (prop->m_pTreeItem)
+            static_cast<CHiddenOptionItem*>(prop->m_pTreeItem)->key = prop->m_strName;
+    const std::vector<CHmiWidgetEvent>& events = widget.GetEvents();
+    for (std::size_t i = 0; i < m_tree.Size(); ++i) {
+        CHiddenOptionItem& item = m_tree.Item(i);
+        if (!item.key.empty() || item.kind == OptionItemKind::Root)
+            continue;
+        const auto event = std::find_if(events.begin(), events.end(),
+                                        [&item](const CHmiWidgetEvent& e) { return e.label == item.caption; });
+        if (item.kind == OptionItemKind::Event && event != events.end())
+            item.key = EventKey(event->name);
+        else
+            item.key = CaptionKey(GroupOf(item).caption, item.caption);
+    }
+}
+
+void CSharedRows::TakeRowsOfFilling()
+{
+    std::vector<const CHiddenOptionItem*> groups;
+    for (std::size_t i = 0; i < m_tree.Size(); ++i) {
+        const CHiddenOptionItem& item = m_tree.Item(i);
+        if (item.kind == OptionItemKind::Root) {
+            if (!item.parent) {
+                groups.push_back(&item);
+                m_groups.push_back({item.caption, item.info});
+            }
+            continue;
+        }
+        if (!m_rowByKey.try_emplace(item.key, m_rows.size()).second)
+            continue; // a second row under the same key cannot be told apart from the first
+        const auto group = std::find(groups.begin(), groups.end(), &GroupOf(item));
+        SharedRow& row = m_rows.emplace_back();
+        row.key = item.key;
+        row.kind = item.kind;
+        row.group = std::size_t(group - groups.begin());
+        row.caption = item.caption;
+        row.info = item.info;
+        row.choices = item.choices;
+        row.bindable = item.bindable;
+        row.readOnly = std::find(std::begin(kUniqueKeys), std::end(kUniqueKeys), item.key) != std::end(kUniqueKeys);
+    }
+}
+
+void CSharedRows::ReadValues(const std::vector<CHmiWidget*>& widgets, bool narrow)
+{
+    std::vector<char> missing(m_rows.size(), 0);
+    std::vector<char> seen(m_rows.size());
+    for (std::size_t w = 0; w < widgets.size(); ++w) {
+        Fill(*widgets[w]);
+        std::fill(seen.begin(), seen.end(), 0);
+        for (std::size_t i = 0; i < m_tree.Size(); ++i) {
+            const CHiddenOptionItem& item = m_tree.Item(i);
+            const auto found = m_rowByKey.find(item.key);
+            if (item.kind == OptionItemKind::Root || found == m_rowByKey.end() || seen[found->second])
+                continue;
+            SharedRow& row = m_rows[found->second];
+            if (item.kind != row.kind || item.choices != row.choices)
+                continue;
+            seen[found->second] = 1;
+            const bool bound = item.mark == kHmiColorBound;
+            if (w == 0) {
+                row.value = item.value;
+                row.agree = true;
+                row.bound = bound;
+            } else {
+                row.agree = row.agree && SameRowValue(row.kind, row.value, item.value);
+                row.bound = row.bound || bound;
+            }
+            row.bindable = row.bindable && item.bindable;
+        }
+        widgets[w]->ReleasePropertyTree();
+        for (std::size_t r = 0; r < m_rows.size(); ++r) {
+            if (!seen[r]) {
+                missing[r] = 1;
+                m_rows[r].agree = false;
+            }
+        }
+    }
+    if (!narrow || std::find(missing.begin(), missing.end(), 1) == missing.end())
+        return;
+    std::vector<SharedRow> kept;
+    m_rowByKey.clear();
+    for (std::size_t r = 0; r < m_rows.size(); ++r) {
+        if (!missing[r]) {
+            m_rowByKey.emplace(m_rows[r].key, kept.size());
+            kept.push_back(std::move(m_rows[r]));
+        }
+    }
+    m_rows = std::move(kept);
+}
+
+void CSharedRows::Reread(const std::vector<CHmiWidget*>& widgets)
+{
+    ReadValues(widgets, false);
+}
+
+void CSharedRows::Apply(CHmiWidget& widget, std::size_t row, const COptionTreeItem& committed)
+{
+    Fill(widget);
+    for (std::size_t i = 0; i < m_tree.Size(); ++i) {
+        CHiddenOptionItem& own = m_tree.Item(i);
+        if (own.key == m_rows[row].key && own.kind == m_rows[row].kind) {
+            TakeRowValue(own, committed);
+            widget.UpdateWidgetPropByTree(&own);
+            break;
+        }
+    }
+    widget.ReleasePropertyTree();
+}

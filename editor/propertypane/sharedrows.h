@@ -1,0 +1,63 @@
+#pragma once
+
+#include "hiddenoptiontree.h"
+
+#include <cstddef>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+class CHmiWidget;
+
+// A row that every one of several widgets has: the same key (a property's name, an event's
+// name, or else the caption under its group) and the same kind of item, for a combo also the
+// same list. Its value is the widgets' common one, unless they differ.
+struct SharedRow {
+    std::string key;
+    OptionItemKind kind;
+    std::size_t group; // index into CSharedRows::Groups()
+    std::string caption;
+    std::string info;
+    std::vector<std::string> choices;
+    bool bindable = false;
+    bool bound = false;    // some widget binds it to an expression
+    bool readOnly = false; // a value that no two widgets may share
+    bool agree = true;     // every widget holds value
+    OptionRowValue value;
+};
+
+// A group row (root item) that holds shared rows.
+struct SharedGroup {
+    std::string caption;
+    std::string info;
+};
+
+// The rows that several widgets share, in the order of the first widget. Each widget fills a
+// hidden option tree of its own, one after the other, exactly as it fills the property pane;
+// an edit of a shared row goes to each widget's own row and through the widget's own write-back,
+// so every rule a widget keeps for its rows holds for each widget alone.
+class CSharedRows {
+public:
+    explicit CSharedRows(const std::vector<CHmiWidget*>& widgets);
+
+    const std::vector<SharedRow>& Rows() const { return m_rows; }
+    const std::vector<SharedGroup>& Groups() const { return m_groups; }
+    // Reads the widgets' values of the same rows again, after they changed.
+    void Reread(const std::vector<CHmiWidget*>& widgets);
+    // Gives the widget's own row the value committed in a row of the same kind, and lets the
+    // widget take it as it takes a user's edit.
+    void Apply(CHmiWidget& widget, std::size_t row, const COptionTreeItem& committed);
+
+private:
+    // Lets the widget fill the hidden tree and gives each row its key.
+    void Fill(CHmiWidget& widget);
+    void TakeRowsOfFilling();
+    // Compares the filled rows with the shared ones; without narrowing, a row the widget lacks
+    // counts as one whose value differs.
+    void ReadValues(const std::vector<CHmiWidget*>& widgets, bool narrow);
+
+    CHiddenOptionTree m_tree;
+    std::vector<SharedRow> m_rows;
+    std::vector<SharedGroup> m_groups;
+    std::unordered_map<std::string, std::size_t> m_rowByKey;
+};
