@@ -13,6 +13,8 @@
 #include "editor/app/tamloview.h"
 #include "editor/model/editcommands.h"
 #include "editor/model/editorsession.h"
+#include "editor/propertypane/propertypane.h"
+#include "editor/propertypane/propertypaneitem.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/tamlodoc.h"
@@ -25,6 +27,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QProcess>
+#include <QTreeWidget>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -411,6 +414,70 @@ void MeasureBulkEdits(int widgetCount)
     MeasurePaste(document);
 }
 
+// A band over the whole window and a drag of all the widgets by one step, first without and
+// then with a property pane that follows the selection as the main frame's does; then the
+// pane filled for all the widgets alone, and one edit in the pane, which goes to every widget
+// and which the pane then shows again. Each against the band without a pane.
+void MeasurePaneOfAll(int widgetCount)
+{
+    CTamloDoc document;
+    FillDocument(document, widgetCount);
+    CCanvasTools tools;
+    CTamloView view(document, tools);
+    view.show();
+    CPropertyPane pane;
+    QCoreApplication::processEvents();
+    const QPoint margin(view.width() - kPressInset, view.height() - kPressInset);
+    // Each round bands over all from the window widget alone selected, then drags all back or forth.
+    const auto measureRounds = [&](Timing& band, Timing& drag) {
+        std::vector<double> bands;
+        std::vector<double> drags;
+        for (int i = 0; i < kBandRepetitions; ++i) {
+            view.Selection().Select(nullptr, false);
+            QCoreApplication::processEvents();
+            bands.push_back(TimeOnce([&] { Drag(view, margin, QPoint(0, 0), 1); }));
+            const HmiRect& rect = view.Selection().Widgets().back()->GetWidgetRect();
+            const QPoint from((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+            drags.push_back(TimeOnce([&] { Drag(view, from, from + (i % 2 == 0 ? QPoint(1, 1) : QPoint(-1, -1)), 1); }));
+        }
+        band = Summarise(bands);
+        drag = Summarise(drags);
+    };
+    Timing bareBand;
+    Timing bareDrag;
+    measureRounds(bareBand, bareDrag);
+    QObject::connect(&view, &CTamloView::selectionChanged, &pane,
+                     [&] { pane.ShowWidgets(view.Selection().Widgets()); });
+    Timing paneBand;
+    Timing paneDrag;
+    measureRounds(paneBand, paneDrag);
+
+    const std::vector<CHmiWidget*> all = view.Selection().Widgets();
+    // The pane finds the shared rows once control returns to the event loop.
+    const Timing filled = Measure(kBandRepetitions, [&] {
+        pane.ShowWidgets(all);
+        QCoreApplication::processEvents();
+    });
+    int speed = 1;
+    const Timing edit = Measure(kBandRepetitions, [&] {
+        CPropertyPaneItem* row = pane.FindItem("Flash speed");
+        row->SetEditText(std::to_string(++speed));
+        emit pane.itemChanged(row);
+        QCoreApplication::processEvents();
+    });
+    int rows = 0;
+    for (int group = 0; group < pane.Tree()->topLevelItemCount(); ++group)
+        rows += pane.Tree()->topLevelItem(group)->childCount();
+
+    PrintRow(widgetCount, "band over all, no pane", bareBand, bareBand);
+    PrintRow(widgetCount, "band over all, pane follows", paneBand, bareBand);
+    PrintRow(widgetCount, "drag of all, no pane", bareDrag, bareBand);
+    PrintRow(widgetCount, "drag of all, pane follows", paneDrag, bareBand);
+    PrintRow(widgetCount, "pane filled for all", filled, bareBand);
+    std::printf("%7s  (the pane shows %d rows the %zu widgets share)\n", "", rows, all.size());
+    PrintRow(widgetCount, "pane edit given to all", edit, bareBand);
+}
+
 // Opening a window file in the editor's main frame until its canvas has painted, against
 // reading the same file into a document.
 void MeasureOpening(int widgetCount)
@@ -520,6 +587,7 @@ int main(int argc, char* argv[])
     MeasureHugeWidgets();
     std::printf("\nEditor cases (ratio to the first row of each group)\n");
     MeasureBulkEdits(kEditorWidgetCount);
+    MeasurePaneOfAll(kEditorWidgetCount);
     MeasureOpening(kEditorWidgetCount);
     MeasureStartUp();
     return 0;

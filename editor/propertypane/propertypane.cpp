@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -39,6 +40,7 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     : QWidget(parent)
     , m_tree(new QTreeWidget(this))
     , m_description(new QLabel(this))
+    , m_sharedRowsDue(new QTimer(this))
     , m_chooseColor([](const QColor& initial, QWidget* owner) { return QColorDialog::getColor(initial, owner); })
 {
     m_tree->setColumnCount(3);
@@ -66,6 +68,9 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_description);
 
+    m_sharedRowsDue->setSingleShot(true);
+    m_sharedRowsDue->setInterval(0);
+    connect(m_sharedRowsDue, &QTimer::timeout, this, &CPropertyPane::ShowSharedRows);
     connect(m_tree, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* current) { ShowDescription(current); });
     connect(this, &CPropertyPane::itemChanged, this, [this](COptionTreeItem* item) {
@@ -116,6 +121,7 @@ void CPropertyPane::Clear()
     m_shared.reset();
     m_tree->clear();
     m_description->clear();
+    m_sharedRowsDue->stop();
     m_widgets.clear();
     m_shown.clear();
     if (m_document)
@@ -133,7 +139,7 @@ void CPropertyPane::ShowWidgets(std::vector<CHmiWidget*> widgets)
     if (m_widgets.size() == 1)
         m_widgets.front()->CreateWidgetPropertyTree(*this);
     else
-        ShowSharedRows();
+        m_sharedRowsDue->start();
     m_document = m_widgets.front()->m_pDocument;
     if (m_document)
         m_document->AddObserver(this);
@@ -141,7 +147,17 @@ void CPropertyPane::ShowWidgets(std::vector<CHmiWidget*> widgets)
 
 void CPropertyPane::ShowSharedRows()
 {
-    m_shared = std::make_unique<CSharedRows>(m_widgets);
+    if (m_shared) {
+        m_shared->Reread(m_widgets);
+    } else {
+        m_shared = std::make_unique<CSharedRows>(m_widgets);
+        AddSharedRows();
+    }
+    ShowSharedValues();
+}
+
+void CPropertyPane::AddSharedRows()
+{
     const std::vector<SharedRow>& rows = m_shared->Rows();
     // Only the groups that hold a shared row, in the first widget's order.
     std::vector<char> used(m_shared->Groups().size(), 0);
@@ -166,7 +182,6 @@ void CPropertyPane::ShowSharedRows()
             item->SetReadOnly();
         m_sharedItems.push_back(item);
     }
-    ShowSharedValues();
 }
 
 void CPropertyPane::ShowSharedValues()
@@ -217,10 +232,10 @@ void CPropertyPane::DocumentChanged(const CDocumentChange& change)
 
 void CPropertyPane::Refresh()
 {
-    if (!m_shared)
-        return m_widgets.front()->UpdateTreeByWidgetProp();
-    m_shared->Reread(m_widgets);
-    ShowSharedValues();
+    if (CHmiWidget* widget = CurrentWidget())
+        widget->UpdateTreeByWidgetProp();
+    else
+        m_sharedRowsDue->start();
 }
 
 void CPropertyPane::DocumentDestroyed()

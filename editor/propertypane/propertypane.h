@@ -17,6 +17,7 @@ class CPropertyPaneItem;
 class CSharedRows;
 class CTamloDoc;
 class QLabel;
+class QTimer;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -43,7 +44,9 @@ public:
     // Removes every row and forgets the shown widgets.
     void Clear();
     // Rebuilds the pane for widgets of one document (none: leaves it empty); the user's edits
-    // then go to them. One widget fills the pane itself; several show the rows they share.
+    // then go to them. One widget fills the pane itself; several show the rows they share, which
+    // are found once control returns to the event loop, so that the canvas shows a large
+    // selection before every widget has been read.
     void ShowWidgets(std::vector<CHmiWidget*> widgets);
     void ShowWidget(CHmiWidget* widget) { ShowWidgets({widget}); }
     const std::vector<CHmiWidget*>& Widgets() const { return m_widgets; }
@@ -93,10 +96,11 @@ private:
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);
     bool MakeCurrent(const COptionTreeItem* item);
-    // The rows several widgets share, and their values.
+    // Finds the rows the shown widgets share, or reads their values again, and shows them.
     void ShowSharedRows();
+    void AddSharedRows();
     void ShowSharedValues();
-    // Shows the shown widgets' values again.
+    // Shows the shown widgets' values again; several widgets are read again from the event loop.
     void Refresh();
 
     QTreeWidget* m_tree;
@@ -106,6 +110,7 @@ private:
     std::unordered_set<const CHmiWidget*> m_shown; // m_widgets, looked up in the document's changes
     std::unique_ptr<CSharedRows> m_shared;          // with several widgets shown
     std::vector<CPropertyPaneItem*> m_sharedItems;  // the row of each shared row
+    QTimer* m_sharedRowsDue;                        // runs ShowSharedRows once, however often started
     CTamloDoc* m_document = nullptr; // the shown widgets', observed while they are shown
     ColorChooser m_chooseColor;
 };

@@ -145,7 +145,8 @@ private slots:
         Drag(view, QPoint(20, 20), QPoint(35, 25));
         QCOMPARE(RectOf(a), (HmiRect{25, 15, 65, 55}));
         QVERIFY(child->isWindowModified());
-        // b moved too: the pane shows the top both have, and no left.
+        // b moved too: the pane shows the top both have, and no left, once it has read them.
+        QCoreApplication::processEvents();
         QCOMPARE(editor->frame.PropertyPane().FindItem("Top")->GetEditText(), std::string("15"));
         QCOMPARE(editor->frame.PropertyPane().FindItem("Left")->GetEditText(), std::string());
         // A save leaves the keys with the canvas; the name list still shows the reference after Undo.
