@@ -13,16 +13,20 @@
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "tests/support/registryscope.h"
 #include "catalogue/hmiwidgetgradrect.h"
+#include "catalogue/hmiwidgetrect.h"
 #include "widgets/hmiimagedc.h"
 #include "widgets/windowpainter.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QPaintEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QToolButton>
 
 #include <functional>
 
@@ -53,6 +57,12 @@ QRegion Area(const HmiRect& rect, int room = 0)
 {
     return QRect(rect.left, rect.top, rect.Width(), rect.Height()).adjusted(-room, -room, room, room);
 }
+
+// The changes a document told, each with the widgets it named.
+struct ChangeLog : CDocumentObserver {
+    void DocumentChanged(const CDocumentChange& change) override { changes.push_back(change); }
+    std::vector<CDocumentChange> changes;
+};
 
 // Lets the canvas repaint what it was asked to, at the pace the platform allows.
 void LetTheCanvasPaint()
@@ -368,6 +378,67 @@ private slots:
         names.setCurrentIndex(names.findText(QStringLiteral("pump")));
         emit names.activated(names.currentIndex());
         QCOMPARE(Selected(), std::vector<CHmiWidget*>{a});
+    }
+
+    // A band selects two rectangles: the pane shows a value where they agree and none where they
+    // differ; an edit goes to both, each under its own rules, as one change and no undo step.
+    void severalSelectedWidgetsAreEditedTogether()
+    {
+        auto* a = static_cast<CHmiWidgetRect*>(AddRect(*document, {10, 10, 50, 50}));
+        auto* b = static_cast<CHmiWidgetRect*>(AddRect(*document, {100, 10, 160, 40}));
+        a->m_bVisible = 0;
+        a->m_fillColor = 0x000000FF;
+        Drag(view, QPoint(5, 5), QPoint(200, 60));
+        CPropertyPane& pane = editor->frame.PropertyPane();
+        QCoreApplication::processEvents();
+        QCOMPARE(pane.Widgets(), (std::vector<CHmiWidget*>{a, b}));
+        const auto cell = [&pane](const char* caption) { return pane.FindItem(caption)->Editor(); };
+        const auto text = [&](const char* caption) { return qobject_cast<QLineEdit*>(cell(caption))->text(); };
+        QCOMPARE(text("Top"), QStringLiteral("10"));
+        QCOMPARE(text("Left"), QString());
+        QCOMPARE(qobject_cast<QCheckBox*>(cell("Visible"))->checkState(), Qt::PartiallyChecked);
+        QVERIFY(!cell("fillcolor")->styleSheet().contains("background"));
+        QVERIFY(cell("edgecolor")->styleSheet().contains("background-color: #000000"));
+        QVERIFY(qobject_cast<QLineEdit*>(cell("Name"))->isReadOnly());
+        QVERIFY(!pane.FindItem("Left")->BindButton()->isEnabled());
+
+        ChangeLog log;
+        document->AddObserver(&log);
+        QVERIFY(!document->CanUndo());
+        const auto type = [&](const char* caption, const char* typed) {
+            auto* field = qobject_cast<QLineEdit*>(cell(caption));
+            field->selectAll();
+            QTest::keyClicks(field, typed);
+            QTest::keyClick(field, Qt::Key_Return);
+            QCoreApplication::processEvents();
+        };
+        type("Width", "30");
+        QCOMPARE(RectOf(a), (HmiRect{10, 10, 40, 50}));
+        QCOMPARE(RectOf(b), (HmiRect{100, 10, 130, 40}));
+        QCOMPARE(log.changes.size(), std::size_t(1));
+        QCOMPARE(log.changes.front().widgets.size(), std::size_t(2));
+        QVERIFY(log.changes.front().Has(DocChange::Geometry | DocChange::Properties));
+        QCOMPARE(text("Width"), QStringLiteral("30"));
+        type("Right", "20"); // not right of b's left: b keeps its rectangle
+        QCOMPARE(RectOf(a), (HmiRect{10, 10, 20, 50}));
+        QCOMPARE(RectOf(b), (HmiRect{100, 10, 130, 40}));
+        type("Left", "200"); // each keeps its width
+        QCOMPARE(RectOf(a), (HmiRect{200, 10, 210, 50}));
+        QCOMPARE(RectOf(b), (HmiRect{200, 10, 230, 40}));
+        QCOMPARE(text("Left"), QStringLiteral("200"));
+
+        pane.SetColorChooser([](const QColor&, QWidget*) { return QColor(0, 0, 0xFF); });
+        QTest::mouseClick(cell("fillcolor"), Qt::LeftButton);
+        QTest::mouseClick(cell("Visible"), Qt::LeftButton);
+        QCoreApplication::processEvents();
+        QCOMPARE(a->m_fillColor, 0x00FF0000u);
+        QCOMPARE(b->m_fillColor, 0x00FF0000u);
+        QVERIFY(a->m_bVisible && b->m_bVisible);
+        QVERIFY(cell("fillcolor")->styleSheet().contains("#0000ff"));
+        QCOMPARE(qobject_cast<QCheckBox*>(cell("Visible"))->checkState(), Qt::Checked);
+        QCOMPARE(log.changes.size(), std::size_t(5));
+        QVERIFY(!document->CanUndo()); // pane edits are not undone
+        document->RemoveObserver(&log);
     }
 
     // The canvas leaves out what lies outside the area it repaints; what it shows inside is

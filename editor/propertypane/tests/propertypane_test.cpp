@@ -7,6 +7,7 @@
 #include "catalogue/hmiwidgetbutton.h"
 #include "catalogue/hmiwidgetrect.h"
 #include "catalogue/hmiwidgettext.h"
+#include "widgets/hmiwidgetcustom.h"
 #include "widgets/tamlodoc.h"
 
 #include <QCheckBox>
@@ -40,6 +41,19 @@ QString Geometry(const HmiRect& r)
     return QStringLiteral("%1,%2,%3,%4,%5,%6")
         .arg(r.left).arg(r.top).arg(r.right).arg(r.bottom).arg(r.Width()).arg(r.Height());
 }
+
+// A widget whose "mode" row offers the choices it is given.
+struct ModeWidget : CHmiWidget {
+    ModeWidget(const char* const* choices, int count)
+    {
+        DeclareProperty("mode", "Mode", "", 0, "Basic properties", PROP_COMBO).SetComboList(choices, count);
+    }
+    int GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text) const override
+    {
+        text = "0";
+        return prop.m_strName == "mode" ? 1 : CHmiWidget::GetWidgetPropValue(prop, text);
+    }
+};
 
 } // namespace
 
@@ -327,6 +341,51 @@ private slots:
         Row("align")->SetCurSel(3);
         QCOMPARE(EditorOf<QComboBox>("align")->currentIndex(), -1); // beyond the list: no selection
         QCOMPARE(changed.count(), 0);
+    }
+
+    // Several widgets share a row only with the same key, kind and choices; an event row only
+    // by the event's name; a widget's own row by its caption under its group.
+    void severalWidgetsShareRowsOfTheSameKeyKindAndChoices()
+    {
+        auto* text = Add<CHmiWidgetText>("text");
+        auto* other = Add<CHmiWidgetText>("text");
+        other->m_nAlign = 3;
+        other->SetWidgetEventCode("click", "a = 1;");
+        const auto show = [this](std::vector<CHmiWidget*> widgets) {
+            pane->ShowWidgets(std::move(widgets));
+            QCoreApplication::processEvents();
+        };
+        show({text, other});
+        QCOMPARE(EditorOf<QComboBox>("align")->currentIndex(), -1);
+        QCOMPARE(EditorOf<QLabel>("Button Down")->text(), QString());
+        QCOMPARE(Row("Button Up", "Event")->GetKind(), OptionItemKind::Event);
+        QVERIFY(!Row("Button Up")->BrowseButton()->isEnabled());
+        EditorOf<QComboBox>("align")->setFocus();
+        QTest::keyClick(EditorOf<QComboBox>("align"), Qt::Key_Home);
+        QCOMPARE(text->m_nAlign, 1);
+        QCOMPARE(other->m_nAlign, 1);
+        QCOMPARE(EditorOf<QComboBox>("align")->currentIndex(), 0);
+
+        show({text, Add<CHmiWidgetRect>("rectangle"), Add<CHmiWidget>("timer")});
+        QVERIFY(Row("Left") && Row("Visible"));
+        QVERIFY(!Row("text") && !Row("fillcolor") && !Row("Event") && !Row("Button Down"));
+
+        auto* custom = Add<CHmiWidgetCustom>("no such class");
+        auto* second = Add<CHmiWidgetCustom>("no such class");
+        show({custom, second});
+        Type(EditorOf<QLineEdit>("ClassName"), "Gauge");
+        QCOMPARE(custom->ClassName, std::string("Gauge"));
+        QCOMPARE(second->ClassName, std::string("Gauge"));
+
+        static const char* const kTwo[] = {"off", "on"};
+        static const char* const kThree[] = {"off", "on", "blink"};
+        for (const auto* choices : {kTwo, kThree}) {
+            auto first = std::make_unique<ModeWidget>(kTwo, 2);
+            auto last = std::make_unique<ModeWidget>(choices, choices == kTwo ? 2 : 3);
+            show({first.get(), last.get()});
+            QCOMPARE(Row("Mode") != nullptr, choices == kTwo);
+            pane->Clear();
+        }
     }
 
     void clearingWhileAnEditorHasFocusIsSafe()
