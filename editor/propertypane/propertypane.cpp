@@ -171,7 +171,7 @@ void CPropertyPane::AddSharedRows()
         groups[g] = AddItem(OptionItemKind::Root, nullptr, group.caption, group.info);
         groups[g]->Expand();
     }
-    const QString oneWidget = tr("Works on one widget: select it alone to use this");
+    const QString oneWidget = tr("Works on one widget at a time: select a single widget to use it");
     for (const SharedRow& row : rows) {
         CPropertyPaneItem* item = AddItem(row.kind, groups[row.group], row.caption, row.info);
         for (const std::string& choice : row.choices)
