@@ -162,7 +162,8 @@ void CPropertyPane::AddSharedRows()
     // Only the groups that hold a shared row, in the first widget's order.
     std::vector<char> used(m_shared->Groups().size(), 0);
     for (const SharedRow& row : rows)
-        used[row.group] = 1;
+        if (row.group != SharedRow::kNoGroup)
+            used[row.group] = 1;
     std::vector<CPropertyPaneItem*> groups(used.size(), nullptr);
     for (std::size_t g = 0; g < groups.size(); ++g) {
         if (!used[g])
@@ -173,7 +174,8 @@ void CPropertyPane::AddSharedRows()
     }
     const QString oneWidget = tr("Works on one widget at a time: select a single widget to use it");
     for (const SharedRow& row : rows) {
-        CPropertyPaneItem* item = AddItem(row.kind, groups[row.group], row.caption, row.info);
+        CPropertyPaneItem* parent = row.group == SharedRow::kNoGroup ? nullptr : groups[row.group];
+        CPropertyPaneItem* item = AddItem(row.kind, parent, row.caption, row.info);
         for (const std::string& choice : row.choices)
             item->AddString(choice);
         item->SetBindable(row.bindable);

@@ -82,7 +82,7 @@ void CSharedRows::TakeRowsOfFilling()
         SharedRow& row = m_rows.emplace_back();
         row.key = item.key;
         row.kind = item.kind;
-        row.group = std::size_t(group - groups.begin());
+        row.group = group == groups.end() ? SharedRow::kNoGroup : std::size_t(group - groups.begin());
         row.caption = item.caption;
         row.info = item.info;
         row.choices = item.choices;

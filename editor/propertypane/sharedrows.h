@@ -13,9 +13,11 @@ class CHmiWidget;
 // name, or else the caption under its group) and the same kind of item, for a combo also the
 // same list. Its value is the widgets' common one, unless they differ.
 struct SharedRow {
+    static constexpr std::size_t kNoGroup = std::size_t(-1); // a row made without a group row
+
     std::string key;
     OptionItemKind kind;
-    std::size_t group; // index into CSharedRows::Groups()
+    std::size_t group; // index into CSharedRows::Groups(), or kNoGroup
     std::string caption;
     std::string info;
     std::vector<std::string> choices;

@@ -42,11 +42,17 @@ QString Geometry(const HmiRect& r)
         .arg(r.left).arg(r.top).arg(r.right).arg(r.bottom).arg(r.Width()).arg(r.Height());
 }
 
-// A widget whose "mode" row offers the choices it is given.
+// A widget whose "mode" row offers the choices it is given, with a row of its own that it
+// puts under no group.
 struct ModeWidget : CHmiWidget {
     ModeWidget(const char* const* choices, int count)
     {
         DeclareProperty("mode", "Mode", "", 0, "Basic properties", PROP_COMBO).SetComboList(choices, count);
+    }
+    void CreateWidgetPropertyTree(COptionTree& tree) override
+    {
+        CHmiWidget::CreateWidgetPropertyTree(tree);
+        tree.CreateNewItem(OptionItemKind::Edit, nullptr, "Loose", "");
     }
     int GetWidgetPropValue(const CHmiWidgetProp& prop, std::string& text) const override
     {
@@ -384,6 +390,7 @@ private slots:
             auto last = std::make_unique<ModeWidget>(choices, choices == kTwo ? 2 : 3);
             show({first.get(), last.get()});
             QCOMPARE(Row("Mode") != nullptr, choices == kTwo);
+            QVERIFY(!Row("Loose")->GetParent());
             pane->Clear();
         }
     }
