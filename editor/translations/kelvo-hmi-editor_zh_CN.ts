@@ -908,6 +908,13 @@ Move to Bottom</source>
     </message>
 </context>
 <context>
+    <name>CPropertyPane</name>
+    <message>
+        <source>Works on one widget at a time: select a single widget to use it</source>
+        <translation>一次只作用于一个控件：只选中一个控件即可使用</translation>
+    </message>
+</context>
+<context>
     <name>CRecoveryDialog</name>
     <message>
         <source>Restore Unsaved Windows</source>
@@ -1278,6 +1285,10 @@ Restored windows open as modified; saving writes their window files.</source>
     <message>
         <source>&quot;%1&quot; was not taken: the panel shows only characters of the GB2312 set.</source>
         <translation>“%1”未被接受：面板只能显示 GB2312 字符集中的字符。</translation>
+    </message>
+    <message>
+        <source>The widgets have different colours</source>
+        <translation>这些控件的颜色各不相同</translation>
     </message>
 </context>
 <context>
