@@ -22,6 +22,9 @@ namespace {
 
 constexpr int kExtraColumnWidth = 14;
 constexpr int kCaptionColumnWidth = 130;
+// Several widgets are read this many at a time, each part when control returns to the event
+// loop, so that a selection of thousands never keeps the canvas waiting for long.
+constexpr std::size_t kWidgetsReadAtOnce = 500;
 
 // Paints the extra column in the row's binding colour only, so that the mark of a bound
 // property stays visible on the current row instead of disappearing under the highlight.
@@ -147,13 +150,18 @@ void CPropertyPane::ShowWidgets(std::vector<CHmiWidget*> widgets)
 
 void CPropertyPane::ShowSharedRows()
 {
-    if (m_shared) {
-        m_shared->Reread(m_widgets);
-    } else {
+    if (!m_shared)
         m_shared = std::make_unique<CSharedRows>(m_widgets);
+    if (!m_shared->ReadMore(kWidgetsReadAtOnce))
+        return m_sharedRowsDue->start();
+    if (m_sharedItems.empty())
         AddSharedRows();
-    }
     ShowSharedValues();
+}
+
+bool CPropertyPane::IsReading() const
+{
+    return m_sharedRowsDue->isActive();
 }
 
 void CPropertyPane::AddSharedRows()
@@ -234,10 +242,13 @@ void CPropertyPane::DocumentChanged(const CDocumentChange& change)
 
 void CPropertyPane::Refresh()
 {
-    if (CHmiWidget* widget = CurrentWidget())
+    if (CHmiWidget* widget = CurrentWidget()) {
         widget->UpdateTreeByWidgetProp();
-    else
-        m_sharedRowsDue->start();
+        return;
+    }
+    if (m_shared)
+        m_shared->Reread();
+    m_sharedRowsDue->start();
 }
 
 void CPropertyPane::DocumentDestroyed()

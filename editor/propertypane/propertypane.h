@@ -44,10 +44,12 @@ public:
     // Removes every row and forgets the shown widgets.
     void Clear();
     // Rebuilds the pane for widgets of one document (none: leaves it empty); the user's edits
-    // then go to them. One widget fills the pane itself; several show the rows they share, which
-    // are found once control returns to the event loop, so that the canvas shows a large
-    // selection before every widget has been read.
+    // then go to them. One widget fills the pane itself; several show the rows they share once
+    // all of them have been read, which happens a part at a time whenever control returns to
+    // the event loop.
     void ShowWidgets(std::vector<CHmiWidget*> widgets);
+    // Whether widgets are still to be read before their rows show.
+    bool IsReading() const;
     void ShowWidget(CHmiWidget* widget) { ShowWidgets({widget}); }
     const std::vector<CHmiWidget*>& Widgets() const { return m_widgets; }
     // The widget the pane shows alone; null while it shows several or none.
@@ -96,7 +98,7 @@ private:
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);
     bool MakeCurrent(const COptionTreeItem* item);
-    // Finds the rows the shown widgets share, or reads their values again, and shows them.
+    // Reads the next part of the shown widgets; after the last part, shows their shared rows.
     void ShowSharedRows();
     void AddSharedRows();
     void ShowSharedValues();

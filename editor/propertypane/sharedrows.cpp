@@ -32,14 +32,15 @@ const CHiddenOptionItem& GroupOf(const CHiddenOptionItem& item)
 
 } // namespace
 
-CSharedRows::CSharedRows(const std::vector<CHmiWidget*>& widgets)
+CSharedRows::CSharedRows(std::vector<CHmiWidget*> widgets) : m_widgets(std::move(widgets))
 {
-    if (widgets.empty())
+    if (m_widgets.empty())
         return;
-    Fill(*widgets.front());
+    Fill(*m_widgets.front());
     TakeRowsOfFilling();
-    widgets.front()->ReleasePropertyTree();
-    ReadValues(widgets, true);
+    m_widgets.front()->ReleasePropertyTree();
+    m_missing.assign(m_rows.size(), 0);
+    m_seen.assign(m_rows.size(), 0);
 }
 
 void CSharedRows::Fill(CHmiWidget& widget)
@@ -91,57 +92,66 @@ void CSharedRows::TakeRowsOfFilling()
     }
 }
 
-void CSharedRows::ReadValues(const std::vector<CHmiWidget*>& widgets, bool narrow)
+bool CSharedRows::ReadMore(std::size_t count)
 {
-    std::vector<char> missing(m_rows.size(), 0);
-    std::vector<char> seen(m_rows.size());
-    for (std::size_t w = 0; w < widgets.size(); ++w) {
-        Fill(*widgets[w]);
-        std::fill(seen.begin(), seen.end(), 0);
-        for (std::size_t i = 0; i < m_tree.Size(); ++i) {
-            const CHiddenOptionItem& item = m_tree.Item(i);
-            const auto found = m_rowByKey.find(item.key);
-            if (item.kind == OptionItemKind::Root || found == m_rowByKey.end() || seen[found->second])
-                continue;
-            SharedRow& row = m_rows[found->second];
-            if (item.kind != row.kind || item.choices != row.choices)
-                continue;
-            seen[found->second] = 1;
-            const bool bound = item.mark == kHmiColorBound;
-            if (w == 0) {
-                row.value = item.value;
-                row.agree = true;
-                row.bound = bound;
-            } else {
-                row.agree = row.agree && SameRowValue(row.kind, row.value, item.value);
-                row.bound = row.bound || bound;
-            }
-            row.bindable = row.bindable && item.bindable;
+    const std::size_t end = std::min(m_widgets.size(), m_nextWidget + count);
+    for (; m_nextWidget < end; ++m_nextWidget)
+        ReadWidget(m_nextWidget);
+    if (m_nextWidget < m_widgets.size())
+        return false;
+    if (m_narrowing)
+        DropMissingRows();
+    m_narrowing = false;
+    return true;
+}
+
+void CSharedRows::ReadWidget(std::size_t index)
+{
+    CHmiWidget& widget = *m_widgets[index];
+    Fill(widget);
+    std::fill(m_seen.begin(), m_seen.end(), 0);
+    for (std::size_t i = 0; i < m_tree.Size(); ++i) {
+        const CHiddenOptionItem& item = m_tree.Item(i);
+        const auto found = m_rowByKey.find(item.key);
+        if (item.kind == OptionItemKind::Root || found == m_rowByKey.end() || m_seen[found->second])
+            continue;
+        SharedRow& row = m_rows[found->second];
+        if (item.kind != row.kind || item.choices != row.choices)
+            continue;
+        m_seen[found->second] = 1;
+        const bool bound = item.mark == kHmiColorBound;
+        if (index == 0) {
+            row.value = item.value;
+            row.agree = true;
+            row.bound = bound;
+        } else {
+            row.agree = row.agree && SameRowValue(row.kind, row.value, item.value);
+            row.bound = row.bound || bound;
         }
-        widgets[w]->ReleasePropertyTree();
-        for (std::size_t r = 0; r < m_rows.size(); ++r) {
-            if (!seen[r]) {
-                missing[r] = 1;
-                m_rows[r].agree = false;
-            }
+        row.bindable = row.bindable && item.bindable;
+    }
+    widget.ReleasePropertyTree();
+    for (std::size_t r = 0; r < m_rows.size(); ++r) {
+        if (!m_seen[r]) {
+            m_missing[r] = 1;
+            m_rows[r].agree = false;
         }
     }
-    if (!narrow || std::find(missing.begin(), missing.end(), 1) == missing.end())
-        return;
+}
+
+void CSharedRows::DropMissingRows()
+{
     std::vector<SharedRow> kept;
     m_rowByKey.clear();
     for (std::size_t r = 0; r < m_rows.size(); ++r) {
-        if (!missing[r]) {
+        if (!m_missing[r]) {
             m_rowByKey.emplace(m_rows[r].key, kept.size());
             kept.push_back(std::move(m_rows[r]));
         }
     }
     m_rows = std::move(kept);
-}
-
-void CSharedRows::Reread(const std::vector<CHmiWidget*>& widgets)
-{
-    ReadValues(widgets, false);
+    m_missing.assign(m_rows.size(), 0);
+    m_seen.assign(m_rows.size(), 0);
 }
 
 void CSharedRows::Apply(CHmiWidget& widget, std::size_t row, const COptionTreeItem& committed)

@@ -395,6 +395,23 @@ private slots:
         }
     }
 
+    // Thousands of widgets are read a part at a time; a change meanwhile has them read again.
+    void aLargeSelectionShowsOnceEveryWidgetIsRead()
+    {
+        std::vector<CHmiWidget*> many;
+        for (int i = 0; i < 1200; ++i)
+            many.push_back(Add<CHmiWidgetRect>("rectangle", {i, 0, i + 10, 10}));
+        pane->ShowWidgets(many);
+        QCoreApplication::processEvents();
+        static_cast<CHmiWidgetRect*>(many.front())->m_fillColor = 0x00123456;
+        doc->WidgetChanged(*many.front(), DocChange::Properties);
+        while (pane->IsReading())
+            QCoreApplication::processEvents();
+        QCOMPARE(EditorOf<QLineEdit>("Top")->text(), QString("0"));
+        QCOMPARE(EditorOf<QLineEdit>("Left")->text(), QString());
+        QVERIFY(!EditorOf<QPushButton>("fillcolor")->styleSheet().contains("background"));
+    }
+
     void clearingWhileAnEditorHasFocusIsSafe()
     {
         auto* rect = Show(Add<CHmiWidgetRect>("rectangle"));
