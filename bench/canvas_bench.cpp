@@ -415,9 +415,10 @@ void MeasureBulkEdits(int widgetCount)
 }
 
 // A band over the whole window and a drag of all the widgets by one step, first without and
-// then with a property pane that follows the selection as the main frame's does; then the
-// pane filled for all the widgets alone, and one edit in the pane, which goes to every widget
-// and which the pane then shows again. Each against the band without a pane.
+// then with a property pane that follows the selection as the main frame's does: until the
+// canvas has handled them, and until the pane, which reads the widgets a part at a time, shows
+// their rows. Then the pane filled for all the widgets alone, and one edit in the pane, which
+// goes to every widget and which the pane then shows again. Each against the band without a pane.
 void MeasurePaneOfAll(int widgetCount)
 {
     CTamloDoc document;
@@ -427,36 +428,39 @@ void MeasurePaneOfAll(int widgetCount)
     view.show();
     CPropertyPane pane;
     QCoreApplication::processEvents();
+    const auto untilPaneShows = [&pane] {
+        while (pane.IsReading())
+            QCoreApplication::processEvents();
+    };
+    struct Rounds {
+        std::vector<double> band, bandWithRows, drag, dragWithRows;
+    };
     const QPoint margin(view.width() - kPressInset, view.height() - kPressInset);
     // Each round bands over all from the window widget alone selected, then drags all back or forth.
-    const auto measureRounds = [&](Timing& band, Timing& drag) {
-        std::vector<double> bands;
-        std::vector<double> drags;
+    const auto measureRounds = [&] {
+        Rounds rounds;
         for (int i = 0; i < kBandRepetitions; ++i) {
             view.Selection().Select(nullptr, false);
             QCoreApplication::processEvents();
-            bands.push_back(TimeOnce([&] { Drag(view, margin, QPoint(0, 0), 1); }));
+            rounds.band.push_back(TimeOnce([&] { Drag(view, margin, QPoint(0, 0), 1); }));
+            rounds.bandWithRows.push_back(rounds.band.back() + TimeOnce(untilPaneShows));
             const HmiRect& rect = view.Selection().Widgets().back()->GetWidgetRect();
             const QPoint from((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-            drags.push_back(TimeOnce([&] { Drag(view, from, from + (i % 2 == 0 ? QPoint(1, 1) : QPoint(-1, -1)), 1); }));
+            const QPoint step = i % 2 == 0 ? QPoint(1, 1) : QPoint(-1, -1);
+            rounds.drag.push_back(TimeOnce([&] { Drag(view, from, from + step, 1); }));
+            rounds.dragWithRows.push_back(rounds.drag.back() + TimeOnce(untilPaneShows));
         }
-        band = Summarise(bands);
-        drag = Summarise(drags);
+        return rounds;
     };
-    Timing bareBand;
-    Timing bareDrag;
-    measureRounds(bareBand, bareDrag);
+    const Rounds bare = measureRounds();
     QObject::connect(&view, &CTamloView::selectionChanged, &pane,
                      [&] { pane.ShowWidgets(view.Selection().Widgets()); });
-    Timing paneBand;
-    Timing paneDrag;
-    measureRounds(paneBand, paneDrag);
+    const Rounds followed = measureRounds();
 
     const std::vector<CHmiWidget*> all = view.Selection().Widgets();
-    // The pane finds the shared rows once control returns to the event loop.
     const Timing filled = Measure(kBandRepetitions, [&] {
         pane.ShowWidgets(all);
-        QCoreApplication::processEvents();
+        untilPaneShows();
     });
     int speed = 1;
     const Timing edit = Measure(kBandRepetitions, [&] {
@@ -464,18 +468,22 @@ void MeasurePaneOfAll(int widgetCount)
         row->SetEditText(std::to_string(++speed));
         emit pane.itemChanged(row);
         QCoreApplication::processEvents();
+        untilPaneShows();
     });
     int rows = 0;
     for (int group = 0; group < pane.Tree()->topLevelItemCount(); ++group)
         rows += pane.Tree()->topLevelItem(group)->childCount();
 
-    PrintRow(widgetCount, "band over all, no pane", bareBand, bareBand);
-    PrintRow(widgetCount, "band over all, pane follows", paneBand, bareBand);
-    PrintRow(widgetCount, "drag of all, no pane", bareDrag, bareBand);
-    PrintRow(widgetCount, "drag of all, pane follows", paneDrag, bareBand);
-    PrintRow(widgetCount, "pane filled for all", filled, bareBand);
+    const Timing baseline = Summarise(bare.band);
+    PrintRow(widgetCount, "band over all, no pane", baseline, baseline);
+    PrintRow(widgetCount, "band, pane follows", Summarise(followed.band), baseline);
+    PrintRow(widgetCount, "band, until the pane shows", Summarise(followed.bandWithRows), baseline);
+    PrintRow(widgetCount, "drag of all, no pane", Summarise(bare.drag), baseline);
+    PrintRow(widgetCount, "drag, pane follows", Summarise(followed.drag), baseline);
+    PrintRow(widgetCount, "drag, until the pane shows", Summarise(followed.dragWithRows), baseline);
+    PrintRow(widgetCount, "pane filled for all", filled, baseline);
     std::printf("%7s  (the pane shows %d rows the %zu widgets share)\n", "", rows, all.size());
-    PrintRow(widgetCount, "pane edit given to all", edit, bareBand);
+    PrintRow(widgetCount, "pane edit given to all", edit, baseline);
 }
 
 // Opening a window file in the editor's main frame until its canvas has painted, against
