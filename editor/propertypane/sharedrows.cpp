@@ -56,12 +56,11 @@ void CSharedRows::Fill(CHmiWidget& widget)
         CHiddenOptionItem& item = m_tree.Item(i);
         if (!item.key.empty() || item.kind == OptionItemKind::Root)
             continue;
-        const auto event = std::find_if(events.begin(), events.end(),
-                                        [&item](const CHmiWidgetEvent& e) { return e.label == item.caption; });
-        if (item.kind == OptionItemKind::Event && event != events.end())
-            item.key = EventKey(event->name);
-        else
-            item.key = CaptionKey(GroupOf(item).caption, item.caption);
+        const auto event = item.kind != OptionItemKind::Event
+                               ? events.end()
+                               : std::find_if(events.begin(), events.end(),
+                                              [&item](const CHmiWidgetEvent& e) { return e.label == item.caption; });
+        item.key = event != events.end() ? EventKey(event->name) : CaptionKey(GroupOf(item).caption, item.caption);
     }
 }
 
