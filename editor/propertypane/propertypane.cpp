@@ -1,5 +1,6 @@
 #include "propertypane.h"
 
+#include "captionwidth.h"
 #include "propertypaneitem.h"
 
 #include "base/textcodec.h"
@@ -19,7 +20,8 @@
 namespace {
 
 constexpr int kExtraColumnWidth = 14;
-constexpr int kCaptionColumnWidth = 130;
+// What the pane would like for the value column: a value and the row's "..." button.
+constexpr int kValueColumnWidth = 160;
 
 // Paints the extra column in the row's binding colour only, so that the mark of a bound
 // property stays visible on the current row instead of disappearing under the highlight.
@@ -41,7 +43,7 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     , m_chooseColor([](const QColor& initial, QWidget* owner) { return QColorDialog::getColor(initial, owner); })
 {
     m_tree->setColumnCount(3);
-    m_tree->setHeaderHidden(true);
+    m_tree->setHeaderLabels({QStringLiteral("Property"), QStringLiteral("Value"), QString()});
     m_tree->setRootIsDecorated(true);
     m_tree->setSelectionMode(QAbstractItemView::SingleSelection);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -51,7 +53,8 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     header->setSectionResizeMode(CaptionColumn, QHeaderView::Interactive);
     header->setSectionResizeMode(ValueColumn, QHeaderView::Stretch);
     header->setSectionResizeMode(ExtraColumn, QHeaderView::Fixed);
-    header->resizeSection(CaptionColumn, kCaptionColumnWidth);
+    // The caption column shows every built-in caption whole; the user may drag it either way.
+    header->resizeSection(CaptionColumn, DefaultCaptionWidth());
     header->resizeSection(ExtraColumn, kExtraColumnWidth);
     m_tree->setItemDelegateForColumn(ExtraColumn, new CBindingMarkDelegate(m_tree));
 
@@ -75,6 +78,21 @@ CPropertyPane::~CPropertyPane()
 {
     if (m_document)
         m_document->RemoveObserver(this);
+}
+
+int CPropertyPane::DefaultCaptionWidth() const
+{
+    // A property's row stands one level under its group's, after the branch marks of both.
+    const int textMargins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_tree) + 1);
+    return 2 * m_tree->indentation() + WidestBuiltinCaption(m_tree->fontMetrics()) + textMargins;
+}
+
+QSize CPropertyPane::sizeHint() const
+{
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_tree);
+    const int width = m_tree->header()->sectionSize(CaptionColumn) + kValueColumnWidth + kExtraColumnWidth +
+                      scrollBar + 2 * m_tree->frameWidth();
+    return {width, QWidget::sizeHint().height()};
 }
 
 COptionTreeItem* CPropertyPane::CreateNewRootItem(const std::string& caption, const std::string& info)

@@ -20,7 +20,7 @@ class QTreeWidgetItem;
 
 // The editor's property pane: the active widget's properties as a three-column tree (caption,
 // value editor, and a narrow column that shows whether the property is bound to an expression),
-// with the current row's help text underneath. It observes the shown widget's document: the rows
+// with the current row's help text underneath. The user can resize the caption column. It observes the shown widget's document: the rows
 // follow the widget's changes, whoever made them, and the pane empties when the widget goes.
 class CPropertyPane : public QWidget, public COptionTree, public CDocumentObserver {
     Q_OBJECT
@@ -59,6 +59,9 @@ public:
     void DocumentChanged(const CDocumentChange& change) override;
     void DocumentDestroyed() override;
 
+    // Wide enough for the caption column and a value beside it.
+    QSize sizeHint() const override;
+
 public slots:
     // Applies a row that a dialog opened from its button has changed, as if the user had edited
     // it in place (a chosen file or variable). Rows of other panes or of cleared ones are ignored.
@@ -77,6 +80,7 @@ signals:
     void eventEditRequested(COptionTreeItem* item);
 
 private:
+    int DefaultCaptionWidth() const;
     CPropertyPaneItem* AddItem(OptionItemKind kind, CPropertyPaneItem* parent, const std::string& caption,
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);
