@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -19,6 +20,7 @@
 namespace {
 
 constexpr int kColumnWidth = 100;
+constexpr int kDialogHeight = 420;
 
 QTableWidgetItem* CenteredCell(const std::string& text)
 {
@@ -29,7 +31,7 @@ QTableWidgetItem* CenteredCell(const std::string& text)
 
 } // namespace
 
-CVariableDialog::CVariableDialog(const CHmiVariableDatabase& database, QWidget* parent)
+CVariableDialog::CVariableDialog(const CHmiVariableDatabase& database, const std::string& current, QWidget* parent)
     : QDialog(parent), m_tree(new QTreeWidget(this)), m_list(new QTableWidget(this))
 {
     setWindowTitle(tr("HMI Database"));
@@ -56,7 +58,48 @@ CVariableDialog::CVariableDialog(const CHmiVariableDatabase& database, QWidget* 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(views);
     layout->addLayout(buttons);
-    resize(900, 420);
+    if (!current.empty())
+        ShowReference(current);
+    resize(InitialSize());
+}
+
+QSize CVariableDialog::InitialSize() const
+{
+    // Room for the tree and for the columns of any node at the width of their titles, or of the
+    // columns shown, whichever is wider.
+    const QFontMetrics titles = m_list->horizontalHeader()->fontMetrics();
+    const int padding = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin) + style()->pixelMetric(QStyle::PM_HeaderMarkSize);
+    int columns = m_list->horizontalHeader()->length();
+    for (const VariableNode* node : m_nodes) {
+        int width = 0;
+        for (const std::string& title : CHmiVariableDatabase::Columns(*node))
+            width += std::max(kColumnWidth, titles.horizontalAdvance(FromModel(title)) + padding);
+        columns = std::max(columns, width);
+    }
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QAbstractItemView& treeView = *m_tree; // where the width of the contents is public
+    const int tree = treeView.sizeHintForColumn(0) + scrollBar + 2 * m_tree->frameWidth();
+    const int list = columns + scrollBar + 2 * m_list->frameWidth();
+    const int margins = layout()->contentsMargins().left() + layout()->contentsMargins().right() + 3 * layout()->spacing();
+    const int width = std::max(tree + list + margins, minimumSizeHint().width());
+    const QRect available = screen()->availableGeometry();
+    return QSize(width, kDialogHeight).boundedTo(available.size());
+}
+
+bool CVariableDialog::ShowReference(const std::string& reference)
+{
+    for (auto node = m_nodes.cbegin(); node != m_nodes.cend(); ++node) {
+        const std::vector<VariableRow>& rows = node.value()->rows;
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            if (CHmiVariableDatabase::ReferenceText(*node.value(), rows[row]) != reference)
+                continue;
+            m_tree->setCurrentItem(node.key());
+            m_list->selectRow(int(row));
+            m_list->scrollTo(m_list->model()->index(int(row), 0), QAbstractItemView::PositionAtCenter);
+            return true;
+        }
+    }
+    return false;
 }
 
 void CVariableDialog::AddBranch(const VariableNode& top)
@@ -97,6 +140,9 @@ void CVariableDialog::ShowRows(QTreeWidgetItem* item)
         for (int column = 0; column < int(cells.size()) && column < m_list->columnCount(); ++column)
             m_list->setItem(row, column, CenteredCell(cells[std::size_t(column)]));
     }
+    m_list->resizeColumnsToContents();
+    for (int column = 0; column < m_list->columnCount(); ++column)
+        m_list->setColumnWidth(column, std::max(kColumnWidth, m_list->columnWidth(column)));
 }
 
 void CVariableDialog::TakeChosenRow()
@@ -117,7 +163,7 @@ void CVariableDialog::TakeChosenRow()
 std::optional<QString> PickVariable(QWidget* parent, const CHmiVariableDatabase& database,
                                     const ProjectContext::DialogRunner& run)
 {
-    CVariableDialog dialog(database, parent);
+    CVariableDialog dialog(database, {}, parent);
     if (run(dialog) != QDialog::Accepted)
         return std::nullopt;
     return FromModel(dialog.Reference());
