@@ -111,8 +111,10 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     });
     connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::UpdateEditActions);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
-    if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray()))
-        setGeometry(FirstStartGeometry(*this, *m_mdiArea, kFirstStartCanvas + ChildFrameExtent(*style())));
+    if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray())) {
+        const QSize canvas = kFirstStartCanvas + QSize(CTamloView::kCanvasMargin, CTamloView::kCanvasMargin);
+        setGeometry(FirstStartGeometry(*this, *m_mdiArea, canvas + ChildFrameExtent(*style())));
+    }
     restoreState(m_settings.value(kStateKey).toByteArray());
     UpdateRecentFileActions();
     UpdateEditActions();

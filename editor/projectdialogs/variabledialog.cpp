@@ -81,7 +81,8 @@ QSize CVariableDialog::InitialSize() const
     const int tree = treeView.sizeHintForColumn(0) + scrollBar + 2 * m_tree->frameWidth();
     const int list = columns + scrollBar + 2 * m_list->frameWidth();
     const int margins = layout()->contentsMargins().left() + layout()->contentsMargins().right() + 3 * layout()->spacing();
-    const int width = std::max(tree + list + margins, minimumSizeHint().width());
+    // The list takes three quarters of the width.
+    const int width = std::max(tree + list, list * 4 / 3) + margins;
     const QRect available = screen()->availableGeometry();
     return QSize(width, kDialogHeight).boundedTo(available.size());
 }

@@ -5,14 +5,17 @@
 #include "widgets/hmiwidget.h"
 #include "widgets/hmiwidgetprop.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QString>
 
 #include <algorithm>
+#include <cmath>
 
-int WidestBuiltinCaption(const QFontMetrics& metrics)
+int WidestBuiltinCaption(const QFont& font)
 {
-    int widest = 0;
+    // Measured to a fraction of a pixel and rounded up, as the rows lay their text out.
+    const QFontMetricsF metrics(font);
+    qreal widest = 0;
     const auto measure = [&](const std::string& caption) {
         widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(Gb2312ToUtf8OrKeep(caption))));
     };
@@ -28,5 +31,5 @@ int WidestBuiltinCaption(const QFontMetrics& metrics)
         for (const CHmiWidgetEvent& event : widget->GetEvents())
             measure(event.label);
     }
-    return widest;
+    return int(std::ceil(widest));
 }

@@ -84,7 +84,7 @@ int CPropertyPane::DefaultCaptionWidth() const
 {
     // A property's row stands one level under its group's, after the branch marks of both.
     const int textMargins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_tree) + 1);
-    return 2 * m_tree->indentation() + WidestBuiltinCaption(m_tree->fontMetrics()) + textMargins;
+    return 2 * m_tree->indentation() + WidestBuiltinCaption(m_tree->font()) + textMargins;
 }
 
 QSize CPropertyPane::sizeHint() const
