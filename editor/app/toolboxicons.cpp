@@ -198,12 +198,14 @@ void DrawTextInput(QPainter& p, const CIconGrid& g)
 
 void DrawButton(QPainter& p, const CIconGrid& g)
 {
+    // Raised: lit along its top and left, shaded along its bottom and right, inside its outline.
     p.fillRect(g.Area(1, 4, 14, 11), kFace);
     p.setPen(g.Stroke(kPaper));
-    p.drawPolyline(g.Polygon({{1, 11}, {1, 4}, {14, 4}}));
-    p.setPen(g.Stroke(kInk));
-    p.drawPolyline(g.Polygon({{1, 11}, {14, 11}, {14, 4}}));
-    p.fillRect(g.Area(5, 7, 10, 8), kInk);
+    p.drawPolyline(g.Polygon({{2, 10}, {2, 5}, {13, 5}}));
+    p.setPen(g.Stroke(kShade));
+    p.drawPolyline(g.Polygon({{3, 10}, {13, 10}, {13, 6}}));
+    OutlinedRect(p, g, g.Outline(1, 4, 14, 11), Qt::NoBrush);
+    p.fillRect(g.Area(5, 7, 10, 7), kInk);
 }
 
 void DrawCheckbox(QPainter& p, const CIconGrid& g)
