@@ -43,7 +43,7 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     , m_chooseColor([](const QColor& initial, QWidget* owner) { return QColorDialog::getColor(initial, owner); })
 {
     m_tree->setColumnCount(3);
-    m_tree->setHeaderLabels({QStringLiteral("Property"), QStringLiteral("Value"), QString()});
+    m_tree->setHeaderLabels({tr("Property"), tr("Value"), QString()});
     m_tree->setRootIsDecorated(true);
     m_tree->setSelectionMode(QAbstractItemView::SingleSelection);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -908,6 +908,17 @@ Move to Bottom</source>
     </message>
 </context>
 <context>
+    <name>CPropertyPane</name>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+</context>
+<context>
     <name>CRecoveryDialog</name>
     <message>
         <source>Restore Unsaved Windows</source>
@@ -1073,6 +1084,10 @@ Restored windows open as modified; saving writes their window files.</source>
     <message>
         <source>Pointer</source>
         <translation>指针</translation>
+    </message>
+    <message>
+        <source>History list</source>
+        <translation>历史数据列表</translation>
     </message>
 </context>
 <context>
