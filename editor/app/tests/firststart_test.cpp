@@ -2,12 +2,14 @@
 // 1920 x 1080): the main window's size, the panes' widths and the toolbox.
 #include "editorfixture.h"
 
+#include "editor/app/dialogsizes.h"
 #include "editor/app/firststartlayout.h"
 #include "editor/app/toolbox.h"
 #include "editor/propertypane/propertypane.h"
 #include "catalogue/builtinwidgets.h"
 #include "tests/support/registryscope.h"
 
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QMdiArea>
 #include <QScreen>
@@ -73,6 +75,34 @@ private slots:
             QVERIFY(screen.contains(geometry));
             QCOMPARE(geometry.center(), screen.center());
         }
+    }
+
+    // A dialog the user resized opens at that size the next time; other dialogs, and one the
+    // user left alone, keep the size they choose themselves.
+    void dialogsOpenAtTheSizeTheUserGaveThem()
+    {
+        QTemporaryDir folder;
+        QSettings settings(folder.filePath(QStringLiteral("profile.ini")), QSettings::IniFormat);
+        QList<QSize> shown;
+        std::optional<QSize> userSize;
+        const ProjectContext::DialogRunner run = RememberingDialogSizes(settings, [&](QDialog& dialog) {
+            shown << dialog.size();
+            if (userSize)
+                dialog.resize(*userSize);
+            return int(QDialog::Rejected);
+        });
+        const auto runAt = [&run](QDialog&& dialog, QSize own) {
+            dialog.resize(own);
+            run(dialog);
+        };
+        runAt(QDialog(), QSize(400, 300));
+        userSize = QSize(700, 500);
+        runAt(QDialog(), QSize(400, 300));
+        userSize.reset();
+        runAt(QDialog(), QSize(400, 300));
+        runAt(QFileDialog(), QSize(400, 300));
+        runAt(QDialog(), QSize(400, 300));
+        QCOMPARE(shown, QList<QSize>({{400, 300}, {400, 300}, {700, 500}, {400, 300}, {700, 500}}));
     }
 };
 
