@@ -1,7 +1,7 @@
 #include "toolbox.h"
 
 #include "editor/model/canvastools.h"
-#include "base/textcodec.h"
+#include "editor/translations/coretexts.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmiwidget.h"
 #include "widgets/hmiwidgetwindow.h"
@@ -60,7 +60,7 @@ CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), 
 void CToolbox::AddClass(const CWidgetRunTimeClass& entry)
 {
     const std::string& label = entry.m_strToolboxLabel.empty() ? entry.m_strClassKey : entry.m_strToolboxLabel;
-    auto* item = new QListWidgetItem(IconOf(entry, *style()), QString::fromStdString(Gb2312ToUtf8OrKeep(label)), this);
+    auto* item = new QListWidgetItem(IconOf(entry, *style()), TranslateCoreText(CoreTextContext::kKind, label), this);
     item->setData(kClassKeyRole, QString::fromStdString(entry.m_strClassKey));
 }
 
