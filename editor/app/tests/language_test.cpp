@@ -6,7 +6,9 @@
 #include "editor/projectdialogs/widgetitemdialogs.h"
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
+#include "editor/translations/coretexts.h"
 #include "catalogue/hmiwidgetline.h"
+#include "project/variabledatabase.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -26,6 +28,7 @@ struct LanguageTexts {
     QString libraryDialogTitle;
     // A line's group row, a caption with its help text, a combo's choices and an event row.
     QStringList pane;
+    QString realtimeHeading;
 };
 
 LanguageTexts ExpectedTexts(const QString& language)
@@ -33,10 +36,12 @@ LanguageTexts ExpectedTexts(const QString& language)
     if (language == QLatin1String("zh_CN"))
         return {QStringLiteral("文件(&F)"), QStringLiteral("撤销(&U)\tCtrl+Z"), QStringLiteral("控件库"),
                 {QStringLiteral("直线"), QStringLiteral("左"), QStringLiteral("左边位置"), QStringLiteral("实线 点线 虚线"),
-                 QStringLiteral("按下")}};
+                 QStringLiteral("按下")},
+                QStringLiteral("实时数据库")};
     return {QStringLiteral("&File"), QStringLiteral("Undo(&U)\tCtrl+Z"), QStringLiteral("Widget Libraries"),
             {QStringLiteral("Line"), QStringLiteral("Left"), QStringLiteral("Left position"),
-             QStringLiteral("Solid Dotted Dash"), QStringLiteral("Button Down")}};
+             QStringLiteral("Solid Dotted Dash"), QStringLiteral("Button Down")},
+            QStringLiteral("Realtime database")};
 }
 
 } // namespace
@@ -159,6 +164,14 @@ private slots:
             QCOMPARE(edit->actions().first()->text(), expected.undo);
             QCOMPARE(CWidgetLibraryDialog({}, &editor.frame).windowTitle(), expected.libraryDialogTitle);
         }
+        // The core's own headings are translated, a database of the project's files is shown
+        // by its name even where that is a heading's, and a text without a translation shows as
+        // it is, read from GB2312.
+        CHmiVariableDatabase variables;
+        const VariableNode database{VariableNode::Kind::Database, "Realtime database", &variables.RealtimeRoot(), {}, {}};
+        QCOMPARE(VariableNodeText(variables.RealtimeRoot()), expected.realtimeHeading);
+        QCOMPARE(VariableNodeText(database), QStringLiteral("Realtime database"));
+        QCOMPARE(TranslateCoreText(CoreTextContext::kProperty, "\xCE\xC2\xB6\xC8"), QStringLiteral("温度"));
         QStringList pane;
         QCOMPARE(SaveWindows(folder.path(), pane), untranslated);
         QCOMPARE(pane, expected.pane);
