@@ -94,7 +94,7 @@ CPropertyPaneItem* CPropertyPane::AddItem(OptionItemKind kind, CPropertyPaneItem
 {
     auto* row = parent ? new QTreeWidgetItem(parent->Row()) : new QTreeWidgetItem(m_tree);
     // Shown in the user's language; the item keeps the core's caption, which the widget compares.
-    const char* context = kind == OptionItemKind::Event ? CoreTextContext::kEvent : CoreTextContext::kProperty;
+    const char* context = CoreTextContext::PaneRow(kind);
     const QString infoText = TranslateCoreText(context, info);
     row->setText(CaptionColumn, TranslateCoreText(context, caption));
     row->setToolTip(CaptionColumn, infoText);

@@ -72,7 +72,7 @@ public:
     COptionTreeItem* CreateNewItem(OptionItemKind kind, COptionTreeItem* parent, const std::string& caption,
                                    const std::string& info) override
     {
-        const char* context = kind == OptionItemKind::Event ? CoreTextContext::kEvent : CoreTextContext::kProperty;
+        const char* context = CoreTextContext::PaneRow(kind);
         m_texts.Add(context, caption);
         m_texts.Add(context, info);
         return m_items.emplace_back(std::make_unique<CCollectedItem>(m_texts, kind, parent, caption)).get();

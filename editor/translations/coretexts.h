@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/optiontree.h"
+
 #include <QString>
 
 #include <string>
@@ -18,6 +20,12 @@ constexpr const char* kEvent = "WidgetEvent";       // captions and help texts o
 constexpr const char* kKind = "WidgetKind";         // toolbox labels
 constexpr const char* kVariables = "VariableDatabase";
 constexpr const char* kCheckRule = "CheckRule";
+
+// The context of a property pane row's caption and help text.
+constexpr const char* PaneRow(OptionItemKind kind)
+{
+    return kind == OptionItemKind::Event ? kEvent : kProperty;
+}
 } // namespace CoreTextContext
 
 // A core text (GB2312, as the model holds it) as the user reads it: its translation in the
