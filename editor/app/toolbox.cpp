@@ -3,7 +3,7 @@
 #include "toolboxicons.h"
 
 #include "editor/model/canvastools.h"
-#include "base/textcodec.h"
+#include "editor/translations/coretexts.h"
 #include "catalogue/builtinwidgets.h"
 #include "catalogue/hmiwidgethislist.h"
 #include "widgets/hmiwidget.h"
@@ -49,10 +49,10 @@ QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
 QString LabelOf(const CWidgetRunTimeClass& entry)
 {
     if (!entry.m_strToolboxLabel.empty())
-        return QString::fromStdString(Gb2312ToUtf8OrKeep(entry.m_strToolboxLabel));
+        return TranslateCoreText(CoreTextContext::kKind, entry.m_strToolboxLabel);
     if (entry.m_strClassKey == CHmiWidgetHisList::kClassKey)
         return CToolbox::tr("History list");
-    return QString::fromStdString(Gb2312ToUtf8OrKeep(entry.m_strClassKey));
+    return TranslateCoreText(CoreTextContext::kKind, entry.m_strClassKey);
 }
 
 } // namespace

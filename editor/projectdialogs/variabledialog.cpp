@@ -3,6 +3,7 @@
 #include "dialogbuttons.h"
 #include "modeltext.h"
 
+#include "editor/translations/coretexts.h"
 #include "project/projectpath.h"
 #include "project/variabledatabase.h"
 
@@ -22,9 +23,9 @@ namespace {
 constexpr int kColumnWidth = 100;
 constexpr int kDialogHeight = 420;
 
-QTableWidgetItem* CenteredCell(const std::string& text)
+QTableWidgetItem* CenteredCell(const QString& text)
 {
-    auto* cell = new QTableWidgetItem(FromModel(text));
+    auto* cell = new QTableWidgetItem(text);
     cell->setTextAlignment(Qt::AlignCenter);
     return cell;
 }
@@ -106,7 +107,7 @@ bool CVariableDialog::ShowReference(const std::string& reference)
 void CVariableDialog::AddBranch(const VariableNode& top)
 {
     // Without recursion: a database's groups may nest as deep as its file does.
-    auto* topItem = new QTreeWidgetItem(m_tree, {FromModel(top.text)});
+    auto* topItem = new QTreeWidgetItem(m_tree, {VariableNodeText(top)});
     topItem->setIcon(0, style()->standardIcon(QStyle::SP_DriveHDIcon));
     std::vector<std::pair<const VariableNode*, QTreeWidgetItem*>> pending{{&top, topItem}};
     while (!pending.empty()) {
@@ -114,7 +115,7 @@ void CVariableDialog::AddBranch(const VariableNode& top)
         pending.pop_back();
         m_nodes.insert(item, node);
         for (const VariableNode* child : node->children) {
-            auto* childItem = new QTreeWidgetItem(item, {FromModel(child->text)});
+            auto* childItem = new QTreeWidgetItem(item, {VariableNodeText(*child)});
             childItem->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
             pending.emplace_back(child, childItem);
         }
@@ -133,13 +134,13 @@ void CVariableDialog::ShowRows(QTreeWidgetItem* item)
     const std::vector<std::string> columns = CHmiVariableDatabase::Columns(*node);
     m_list->setColumnCount(int(columns.size()));
     for (int column = 0; column < int(columns.size()); ++column)
-        m_list->setHorizontalHeaderItem(column, CenteredCell(columns[std::size_t(column)]));
+        m_list->setHorizontalHeaderItem(column, CenteredCell(TranslateCoreText(CoreTextContext::kVariables, columns[std::size_t(column)])));
     // The top nodes have no columns and show no rows.
     m_list->setRowCount(columns.empty() ? 0 : int(node->rows.size()));
     for (int row = 0; row < m_list->rowCount(); ++row) {
         const std::vector<std::string> cells = CHmiVariableDatabase::Cells(*node, node->rows[std::size_t(row)]);
         for (int column = 0; column < int(cells.size()) && column < m_list->columnCount(); ++column)
-            m_list->setItem(row, column, CenteredCell(cells[std::size_t(column)]));
+            m_list->setItem(row, column, CenteredCell(FromModel(cells[std::size_t(column)])));
     }
     m_list->resizeColumnsToContents();
     for (int column = 0; column < m_list->columnCount(); ++column)

@@ -3,7 +3,7 @@
 #include "captionwidth.h"
 #include "propertypaneitem.h"
 
-#include "base/textcodec.h"
+#include "editor/translations/coretexts.h"
 #include "widgets/tamlodoc.h"
 
 #include <QColorDialog>
@@ -111,8 +111,10 @@ CPropertyPaneItem* CPropertyPane::AddItem(OptionItemKind kind, CPropertyPaneItem
                                           const std::string& info)
 {
     auto* row = parent ? new QTreeWidgetItem(parent->Row()) : new QTreeWidgetItem(m_tree);
-    const QString infoText = QString::fromStdString(Gb2312ToUtf8OrKeep(info));
-    row->setText(CaptionColumn, QString::fromStdString(Gb2312ToUtf8OrKeep(caption)));
+    // Shown in the user's language; the item keeps the core's caption, which the widget compares.
+    const char* context = CoreTextContext::PaneRow(kind);
+    const QString infoText = TranslateCoreText(context, info);
+    row->setText(CaptionColumn, TranslateCoreText(context, caption));
     row->setToolTip(CaptionColumn, infoText);
     row->setToolTip(ValueColumn, infoText);
     m_items.push_back(std::make_unique<CPropertyPaneItem>(*this, kind, parent, row, caption));
