@@ -89,3 +89,13 @@ function(kelvo_add_qt_test name)
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime;${KELVO_TEST_ENVIRONMENT}")
 endfunction()
+
+# kelvo_qt_test_on_full_hd_screen(NAME): the QtTest program sees one offscreen screen of
+# 1920 x 1080 instead of the platform's small default, for tests of sizes that a user sees.
+function(kelvo_qt_test_on_full_hd_screen name)
+    if(NOT TARGET ${name})
+        return()
+    endif()
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen-1920x1080.json;XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime")
+endfunction()

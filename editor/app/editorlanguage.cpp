@@ -7,11 +7,12 @@
 
 namespace {
 
-const QString kTranslationPrefix = QStringLiteral("kelvo-hmi-editor_");
+const QString kEditorTranslation = QStringLiteral("kelvo-hmi-editor_");
+const QString kWidgetsTranslation = QStringLiteral("kelvo-hmi-widgets_");
 
-QString TranslationFile(const QString& folder, const QString& name)
+QString TranslationFile(const QString& folder, const QString& name, const QString& prefix = kEditorTranslation)
 {
-    return folder + QLatin1Char('/') + kTranslationPrefix + name + QStringLiteral(".qm");
+    return folder + QLatin1Char('/') + prefix + name + QStringLiteral(".qm");
 }
 
 // The translation for a UI language such as "zh-Hans-CN": the one of its country ("zh_CN"),
@@ -52,6 +53,8 @@ CEditorLanguage::CEditorLanguage(const QString& preference, const QStringList& u
         return;
     if (m_editor.load(TranslationFile(folder, m_name)))
         QCoreApplication::installTranslator(&m_editor);
+    if (m_widgets.load(TranslationFile(folder, m_name, kWidgetsTranslation)))
+        QCoreApplication::installTranslator(&m_widgets);
     // Missing unless Qt's translations are installed; the standard buttons then stay English.
     if (m_qt.load(QStringLiteral("qtbase_") + m_name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);
@@ -60,5 +63,6 @@ CEditorLanguage::CEditorLanguage(const QString& preference, const QStringList& u
 CEditorLanguage::~CEditorLanguage()
 {
     QCoreApplication::removeTranslator(&m_qt);
+    QCoreApplication::removeTranslator(&m_widgets);
     QCoreApplication::removeTranslator(&m_editor);
 }

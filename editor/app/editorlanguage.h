@@ -18,8 +18,9 @@ public:
     // or "en".
     static QString Choose(const QString& preference, const QStringList& uiLanguages, const QString& folder);
 
-    // Chooses as above and installs the editor's translation from the folder, with Qt's own
-    // (the standard buttons and dialogs) where Qt's translations are installed.
+    // Chooses as above and installs the editor's translations from the folder (its own texts
+    // and the core's texts it shows), with Qt's own (the standard buttons and dialogs) where
+    // Qt's translations are installed.
     CEditorLanguage(const QString& preference, const QStringList& uiLanguages, const QString& folder);
     ~CEditorLanguage();
     CEditorLanguage(const CEditorLanguage&) = delete;
@@ -30,5 +31,6 @@ public:
 private:
     QString m_name;
     QTranslator m_editor;
+    QTranslator m_widgets;
     QTranslator m_qt;
 };

@@ -2,6 +2,7 @@
 
 #include "childframe.h"
 #include "editorprompts.h"
+#include "firststartlayout.h"
 #include "formatactions.h"
 #include "pathtext.h"
 #include "previewactions.h"
@@ -54,14 +55,20 @@ namespace {
 const QString kWidgetsMimeType = QStringLiteral("application/x-kelvo-hmi-widgets");
 const QString kGeometryKey = QStringLiteral("MainFrame/geometry");
 const QString kStateKey = QStringLiteral("MainFrame/state");
+// A window of the panels' common size opens without scrolling in a main window of the first start.
+constexpr QSize kFirstStartCanvas(1024, 768);
+
+// What a child window takes around its canvas.
+QSize ChildFrameExtent(const QStyle& style)
+{
+    return {2 * style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4, style.pixelMetric(QStyle::PM_TitleBarHeight) + 8};
+}
 
 // Shows a child as large as its canvas and no larger than the area, which has its size only
 // once the main window is laid out.
 void ShowAtCanvasSize(CChildFrame& child, const QMdiArea& area)
 {
-    const QSize frame(2 * child.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth) + 4,
-                      child.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
-    child.resize(child.View().size() + frame);
+    child.resize(child.View().size() + ChildFrameExtent(*child.style()));
     child.show();
     QTimer::singleShot(0, &child, [&child, &area] {
         const QPoint place(std::max(0, child.x()), std::max(0, child.y()));
@@ -104,8 +111,10 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     });
     connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::UpdateEditActions);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
-    if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray()))
-        resize(1280, 860);
+    if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray())) {
+        const QSize canvas = kFirstStartCanvas + QSize(CTamloView::kCanvasMargin, CTamloView::kCanvasMargin);
+        setGeometry(FirstStartGeometry(*this, *m_mdiArea, canvas + ChildFrameExtent(*style())));
+    }
     restoreState(m_settings.value(kStateKey).toByteArray());
     UpdateRecentFileActions();
     UpdateEditActions();

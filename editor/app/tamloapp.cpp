@@ -1,6 +1,7 @@
 #include "tamloapp.h"
 
 #include "childframe.h"
+#include "dialogsizes.h"
 #include "editorcommandline.h"
 #include "editorprompts.h"
 #include "handoverqueue.h"
@@ -84,6 +85,7 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
         LoadWidgetLibraries(WidgetLibraryFolders(modulesFolders), ToModelPath(stateFolder));
 
     m_settings = OpenSettings();
+    m_prompts.projectDialogs.runDialog = RememberingDialogSizes(*m_settings, m_prompts.projectDialogs.runDialog);
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings, m_session);
     m_mainFrame->SetWidgetLibraries(std::move(libraries));
     auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);

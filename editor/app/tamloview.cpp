@@ -23,8 +23,6 @@ namespace {
 
 // Room around a widget for its handles, which stand 3 pixels outside and 4 inside its corners.
 constexpr int kHandleMargin = 6;
-// Empty canvas right and below the window, so that the window's own handles can be grabbed.
-constexpr int kCanvasMargin = 8;
 // A repaint during a drag that covers more than this part of the canvas copies the canvas drawn
 // once instead of drawing it.
 constexpr int kLargeRepaintDivisor = 16;

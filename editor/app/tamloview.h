@@ -24,6 +24,9 @@ class QMenu;
 class CTamloView : public QWidget, public CHmiView, public CCanvasToolHost, public CDocumentObserver {
     Q_OBJECT
 public:
+    // Empty canvas right and below the window, so that the window's own handles can be grabbed.
+    static constexpr int kCanvasMargin = 8;
+
     // tools: the mouse tools, shared by every canvas of the editor.
     CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent = nullptr);
     ~CTamloView() override;

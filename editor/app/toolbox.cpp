@@ -1,8 +1,11 @@
 #include "toolbox.h"
 
+#include "toolboxicons.h"
+
 #include "editor/model/canvastools.h"
-#include "base/textcodec.h"
+#include "editor/translations/coretexts.h"
 #include "catalogue/builtinwidgets.h"
+#include "catalogue/hmiwidgethislist.h"
 #include "widgets/hmiwidget.h"
 #include "widgets/hmiwidgetwindow.h"
 #include "widgets/widgetlibrary.h"
@@ -16,6 +19,7 @@
 namespace {
 
 constexpr int kClassKeyRole = Qt::UserRole;
+constexpr int kIconSize = 24;
 
 bool FromLibrary(const std::string& key)
 {
@@ -26,8 +30,8 @@ bool FromLibrary(const std::string& key)
     });
 }
 
-// The entry's own icon; else a library's class gets a common one, so that the classes a
-// library adds stand out from the built-in kinds, which have none.
+// The entry's own icon; else the drawing of a built-in kind, else, for a library's class, a
+// common icon.
 QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
 {
     if (entry.m_pToolboxIcon) {
@@ -35,7 +39,20 @@ QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
         if (!image.isNull())
             return QIcon(QPixmap::fromImage(image));
     }
+    if (QIcon drawn = BuiltinKindIcon(entry.m_strClassKey); !drawn.isNull())
+        return drawn;
     return FromLibrary(entry.m_strClassKey) ? style.standardIcon(QStyle::SP_FileDialogContentsView) : QIcon();
+}
+
+// The registered label; the history list, a built-in kind registered without one, gets a
+// readable name rather than its class key, as a library's class without a label does not.
+QString LabelOf(const CWidgetRunTimeClass& entry)
+{
+    if (!entry.m_strToolboxLabel.empty())
+        return TranslateCoreText(CoreTextContext::kKind, entry.m_strToolboxLabel);
+    if (entry.m_strClassKey == CHmiWidgetHisList::kClassKey)
+        return CToolbox::tr("History list");
+    return TranslateCoreText(CoreTextContext::kKind, entry.m_strClassKey);
 }
 
 } // namespace
@@ -43,7 +60,14 @@ QIcon IconOf(const CWidgetRunTimeClass& entry, const QStyle& style)
 CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), m_tools(tools)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
-    addItem(tr("Pointer"));
+    setIconSize(QSize(kIconSize, kIconSize));
+    // The entry of the current tool keeps its highlight while the canvas has the focus, so that
+    // the placing tool shows as current after a placement too.
+    QPalette colours = palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+        colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
+    setPalette(colours);
+    addItem(new QListWidgetItem(PointerIcon(), tr("Pointer")));
     for (const std::string_view key : BuiltinToolboxOrder())
         if (const CWidgetRunTimeClass* entry = CHmiWidget::FindWidgetClassEntry(key))
             AddClass(*entry);
@@ -53,14 +77,14 @@ CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), 
         if (entry.m_strClassKey != kWindowClassKey && !HasClass(entry.m_strClassKey))
             AddClass(entry);
     setCurrentRow(0);
+    // The keys choose as a click does, so the highlight always shows the current tool.
+    connect(this, &QListWidget::currentItemChanged, this, &CToolbox::Choose);
     connect(this, &QListWidget::itemClicked, this, &CToolbox::Choose);
-    connect(this, &QListWidget::itemActivated, this, &CToolbox::Choose);
 }
 
 void CToolbox::AddClass(const CWidgetRunTimeClass& entry)
 {
-    const std::string& label = entry.m_strToolboxLabel.empty() ? entry.m_strClassKey : entry.m_strToolboxLabel;
-    auto* item = new QListWidgetItem(IconOf(entry, *style()), QString::fromStdString(Gb2312ToUtf8OrKeep(label)), this);
+    auto* item = new QListWidgetItem(IconOf(entry, *style()), LabelOf(entry), this);
     item->setData(kClassKeyRole, QString::fromStdString(entry.m_strClassKey));
 }
 
@@ -75,6 +99,8 @@ bool CToolbox::HasClass(const std::string& key) const
 
 void CToolbox::Choose(QListWidgetItem* item)
 {
+    if (!item)
+        return;
     const std::string key = item->data(kClassKeyRole).toString().toStdString();
     if (key.empty()) {
         CHmiWidget::CurWidgetClass = nullptr;
@@ -85,8 +111,24 @@ void CToolbox::Choose(QListWidgetItem* item)
     m_tools.SetCurrentTool(CanvasTool::Place);
 }
 
+QSize CToolbox::sizeHint() const
+{
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int frame = 2 * frameWidth();
+    return {sizeHintForColumn(0) + scrollBar + frame, sizeHintForRow(0) * count() + frame};
+}
+
 void CToolbox::SyncWithCurrentTool()
 {
-    if (m_tools.CurrentTool() == CanvasTool::Select && currentRow() != 0)
-        setCurrentRow(0);
+    int row = 0;
+    if (m_tools.CurrentTool() == CanvasTool::Place) {
+        // No entry is highlighted for a class that another way made the one to place.
+        row = -1;
+        for (int entry = 1; entry < count() && row < 0; ++entry)
+            if (CHmiWidget::GetWidgetClass(item(entry)->data(kClassKeyRole).toString().toStdString()) ==
+                CHmiWidget::CurWidgetClass)
+                row = entry;
+    }
+    if (row != currentRow())
+        setCurrentRow(row);
 }

@@ -9,16 +9,20 @@ struct CWidgetRunTimeClass;
 
 // The toolbox pane: "Pointer", then the built-in widget kinds in their toolbox order, then every
 // other class the registry knows (those of widget libraries), each with the label and icon its
-// registration gives (by default its key, and for a library's class a common icon). Choosing an
-// entry makes the placing tool create that class, choosing "Pointer" brings back the selection
-// tool.
+// registration gives (by default its key, and for a library's class a common icon; the built-in
+// kinds have drawn icons). Choosing an entry makes the placing tool create that class, choosing
+// "Pointer" brings back the selection tool. The entry of the current tool stays highlighted.
 class CToolbox : public QListWidget {
     Q_OBJECT
 public:
     explicit CToolbox(CCanvasTools& tools, QWidget* parent = nullptr);
 
-    // Shows the pointer again once the selection tool is back (a click that placed nothing).
+    // Highlights the entry of the current tool after the canvas changed it: the pointer once the
+    // selection tool is back (a click that placed nothing, Escape).
     void SyncWithCurrentTool();
+
+    // Large enough for every entry.
+    QSize sizeHint() const override;
 
 private:
     void AddClass(const CWidgetRunTimeClass& entry);

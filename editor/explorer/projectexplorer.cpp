@@ -3,6 +3,7 @@
 #include "filewatch.h"
 
 #include "editor/projectdialogs/modeltext.h"
+#include "editor/translations/coretexts.h"
 #include "project/projectcontents.h"
 
 #include <QContextMenuEvent>
@@ -154,12 +155,12 @@ void CProjectExplorer::AddWindows(const CProjectContents& contents)
 
 void CProjectExplorer::AddVariables(const VariableNode& root)
 {
-    std::vector<std::pair<const VariableNode*, QTreeWidgetItem*>> pending{{&root, AddHeading(FromModel(root.text))}};
+    std::vector<std::pair<const VariableNode*, QTreeWidgetItem*>> pending{{&root, AddHeading(VariableNodeText(root))}};
     while (!pending.empty()) {
         const auto [node, item] = pending.back();
         pending.pop_back();
         for (const VariableNode* child : node->children) {
-            auto* folder = new QTreeWidgetItem(item, {FromModel(child->text)});
+            auto* folder = new QTreeWidgetItem(item, {VariableNodeText(*child)});
             folder->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
             pending.emplace_back(child, folder);
         }
@@ -173,7 +174,7 @@ void CProjectExplorer::AddVariables(const VariableNode& root)
             const std::vector<std::string> cells = CHmiVariableDatabase::Cells(*node, row);
             for (std::size_t i = 0; i < columns.size() && i < cells.size(); ++i)
                 if (!cells[i].empty())
-                    tip << QStringLiteral("%1: %2").arg(FromModel(columns[i]), FromModel(cells[i]));
+                    tip << QStringLiteral("%1: %2").arg(TranslateCoreText(CoreTextContext::kVariables, columns[i]), FromModel(cells[i]));
             variable->setToolTip(0, tip.join(QLatin1Char('\n')));
         }
     }

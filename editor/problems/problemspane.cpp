@@ -3,6 +3,7 @@
 #include "projectwork.h"
 
 #include "editor/projectdialogs/modeltext.h"
+#include "editor/translations/coretexts.h"
 #include "project/projectpath.h"
 #include "widgets/tamlodoc.h"
 
@@ -20,6 +21,8 @@ namespace {
 
 // Edits come in bursts (typing, dragging): the window is checked once they pause.
 constexpr int kRecheckDelayMs = 300;
+// The rule's id is for scripts; its summary, in the user's language, is the tip.
+constexpr int kRuleColumn = 4;
 
 // "1 error", "3 errors": the texts for one and for more are given apart, as each language words them.
 QString CountText(std::size_t count, const char* one, const char* more)
@@ -137,5 +140,6 @@ void CProblemsPane::ShowFindings()
                                          QLatin1String(finding.rule->id), FromModel(finding.message)},
                                         std::move(link));
         row->setIcon(0, error ? errorIcon : warningIcon);
+        row->setToolTip(kRuleColumn, TranslateCoreText(CoreTextContext::kCheckRule, finding.rule->summary));
     }
 }

@@ -12,12 +12,16 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int kColumnWidth = 100;
+constexpr int kDialogHeight = 360;
 enum Column { NameColumn, CaptionColumn, FileColumn };
 
 } // namespace
@@ -48,6 +52,13 @@ CProjectWindowDialog::CProjectWindowDialog(ProjectContext::DirectoryChooser choo
     layout->addLayout(pathRow);
     layout->addLayout(buttons);
     ShowProject();
+    // Wide enough for the columns as the project's windows fill them.
+    int columns = 0;
+    for (int column : {NameColumn, CaptionColumn, FileColumn})
+        columns += ColumnWidth(column);
+    const int list = columns + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_list->frameWidth();
+    const int width = list + layout->contentsMargins().left() + layout->contentsMargins().right();
+    resize(QSize(std::max(width, sizeHint().width()), kDialogHeight).boundedTo(screen()->availableGeometry().size()));
 }
 
 void CProjectWindowDialog::ShowProject()
@@ -64,6 +75,14 @@ void CProjectWindowDialog::ShowProject()
             row->setTextAlignment(column, Qt::AlignCenter);
         m_list->insertTopLevelItem(0, row);
     });
+    for (int column : {NameColumn, CaptionColumn}) // the file column takes the rest
+        m_list->setColumnWidth(column, ColumnWidth(column));
+}
+
+int CProjectWindowDialog::ColumnWidth(int column) const
+{
+    const QAbstractItemView& view = *m_list; // where the width of the contents is public
+    return std::max({kColumnWidth, view.sizeHintForColumn(column), m_list->header()->sectionSizeHint(column)});
 }
 
 void CProjectWindowDialog::Browse()

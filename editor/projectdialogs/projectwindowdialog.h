@@ -24,6 +24,8 @@ public:
 
 private:
     void ShowProject();
+    // What the column needs for its title and its rows.
+    int ColumnWidth(int column) const;
     void Browse();
     void TakeChosenRow();
 

@@ -16,10 +16,13 @@ struct VariableNode;
 
 // The variable picker "HMI Database": the project's databases and data groups as a tree, the
 // rows of the chosen node in a list, and the reference text of the chosen row as its result.
+// It opens on the row of the current reference, when there is one, and at a size that shows
+// every column of a realtime database.
 class CVariableDialog : public QDialog {
     Q_OBJECT
 public:
-    CVariableDialog(const CHmiVariableDatabase& database, QWidget* parent = nullptr);
+    // current: the reference text of the value that the picker is opened for ("$plc.x1").
+    CVariableDialog(const CHmiVariableDatabase& database, const std::string& current = {}, QWidget* parent = nullptr);
 
     // The chosen row's reference text in the editor's code page ("$plc.x1", "$speed"); empty
     // until OK succeeded.
@@ -28,6 +31,9 @@ public:
 private:
     void AddBranch(const VariableNode& top);
     void ShowRows(QTreeWidgetItem* item);
+    // Makes the row of the reference the chosen one, with its node; false when there is none.
+    bool ShowReference(const std::string& reference);
+    QSize InitialSize() const;
     void TakeChosenRow();
 
     QTreeWidget* m_tree;

@@ -55,13 +55,13 @@ void EditDisplayFields(QWidget* parent, const QString& title, const std::vector<
         columns.SetDisplayFields(dialog.FieldsText());
 }
 
-// A variable row: the "HMI Database" picker over the current project; the row takes the
-// reference text.
+// A variable row: the "HMI Database" picker over the current project, open on the row's
+// reference; the row takes the chosen reference text.
 void SelectVariable(QWidget* parent, CHmiWidget& widget, COptionTreeItem& item, const ProjectContext& context)
 {
     CHmiVariableDatabase database;
     database.LoadProject(GetProjectPath());
-    CVariableDialog dialog(database, parent);
+    CVariableDialog dialog(database, item.GetEditText(), parent);
     if (context.runDialog(dialog) == QDialog::Accepted && !dialog.Reference().empty())
         CommitText(widget, item, dialog.Reference());
 }

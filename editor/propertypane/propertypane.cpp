@@ -1,9 +1,10 @@
 #include "propertypane.h"
 
+#include "captionwidth.h"
 #include "propertypaneitem.h"
 #include "sharedrows.h"
 
-#include "base/textcodec.h"
+#include "editor/translations/coretexts.h"
 #include "widgets/tamlodoc.h"
 
 #include <QColorDialog>
@@ -21,7 +22,8 @@
 namespace {
 
 constexpr int kExtraColumnWidth = 14;
-constexpr int kCaptionColumnWidth = 130;
+// What the pane would like for the value column: a value and the row's "..." button.
+constexpr int kValueColumnWidth = 160;
 // Several widgets are read this many at a time, each part when control returns to the event
 // loop, so that a selection of thousands never keeps the canvas waiting for long.
 constexpr std::size_t kWidgetsReadAtOnce = 500;
@@ -47,7 +49,7 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     , m_chooseColor([](const QColor& initial, QWidget* owner) { return QColorDialog::getColor(initial, owner); })
 {
     m_tree->setColumnCount(3);
-    m_tree->setHeaderHidden(true);
+    m_tree->setHeaderLabels({tr("Property"), tr("Value"), QString()});
     m_tree->setRootIsDecorated(true);
     m_tree->setSelectionMode(QAbstractItemView::SingleSelection);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -57,7 +59,8 @@ CPropertyPane::CPropertyPane(QWidget* parent)
     header->setSectionResizeMode(CaptionColumn, QHeaderView::Interactive);
     header->setSectionResizeMode(ValueColumn, QHeaderView::Stretch);
     header->setSectionResizeMode(ExtraColumn, QHeaderView::Fixed);
-    header->resizeSection(CaptionColumn, kCaptionColumnWidth);
+    // The caption column shows every built-in caption whole; the user may drag it either way.
+    header->resizeSection(CaptionColumn, DefaultCaptionWidth());
     header->resizeSection(ExtraColumn, kExtraColumnWidth);
     m_tree->setItemDelegateForColumn(ExtraColumn, new CBindingMarkDelegate(m_tree));
 
@@ -90,6 +93,21 @@ CPropertyPane::~CPropertyPane()
         m_document->RemoveObserver(this);
 }
 
+int CPropertyPane::DefaultCaptionWidth() const
+{
+    // A property's row stands one level under its group's, after the branch marks of both.
+    const int textMargins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_tree) + 1);
+    return 2 * m_tree->indentation() + WidestBuiltinCaption(m_tree->font()) + textMargins;
+}
+
+QSize CPropertyPane::sizeHint() const
+{
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_tree);
+    const int width = m_tree->header()->sectionSize(CaptionColumn) + kValueColumnWidth + kExtraColumnWidth +
+                      scrollBar + 2 * m_tree->frameWidth();
+    return {width, QWidget::sizeHint().height()};
+}
+
 COptionTreeItem* CPropertyPane::CreateNewRootItem(const std::string& caption, const std::string& info)
 {
     return AddItem(OptionItemKind::Root, nullptr, caption, info);
@@ -106,8 +124,10 @@ CPropertyPaneItem* CPropertyPane::AddItem(OptionItemKind kind, CPropertyPaneItem
                                           const std::string& info)
 {
     auto* row = parent ? new QTreeWidgetItem(parent->Row()) : new QTreeWidgetItem(m_tree);
-    const QString infoText = QString::fromStdString(Gb2312ToUtf8OrKeep(info));
-    row->setText(CaptionColumn, QString::fromStdString(Gb2312ToUtf8OrKeep(caption)));
+    // Shown in the user's language; the item keeps the core's caption, which the widget compares.
+    const char* context = CoreTextContext::PaneRow(kind);
+    const QString infoText = TranslateCoreText(context, info);
+    row->setText(CaptionColumn, TranslateCoreText(context, caption));
     row->setToolTip(CaptionColumn, infoText);
     row->setToolTip(ValueColumn, infoText);
     m_items.push_back(std::make_unique<CPropertyPaneItem>(*this, kind, parent, row, caption));

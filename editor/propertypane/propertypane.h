@@ -23,10 +23,10 @@ class QTreeWidgetItem;
 
 // The editor's property pane: the selected widget's properties as a three-column tree (caption,
 // value editor, and a narrow column that shows whether the property is bound to an expression),
-// with the current row's help text underneath. With several widgets selected it shows the rows
-// they share, each with the value they agree on or none, and an edit goes to all of them. It
-// observes the shown widgets' document: the rows follow the widgets' changes, whoever made them,
-// and the pane empties when a shown widget goes.
+// with the current row's help text underneath. The user can resize the caption column. With
+// several widgets selected it shows the rows they share, each with the value they agree on or
+// none, and an edit goes to all of them. It observes the shown widgets' document: the rows follow
+// the widgets' changes, whoever made them, and the pane empties when a shown widget goes.
 class CPropertyPane : public QWidget, public COptionTree, public CDocumentObserver {
     Q_OBJECT
 public:
@@ -76,6 +76,9 @@ public:
     void DocumentChanged(const CDocumentChange& change) override;
     void DocumentDestroyed() override;
 
+    // Wide enough for the caption column and a value beside it.
+    QSize sizeHint() const override;
+
 public slots:
     // Applies a row that a dialog opened from its button has changed, as if the user had edited
     // it in place (a chosen file or variable). Rows of other panes or of cleared ones are ignored.
@@ -94,6 +97,7 @@ signals:
     void eventEditRequested(COptionTreeItem* item);
 
 private:
+    int DefaultCaptionWidth() const;
     CPropertyPaneItem* AddItem(OptionItemKind kind, CPropertyPaneItem* parent, const std::string& caption,
                                const std::string& info);
     void ShowDescription(QTreeWidgetItem* row);

@@ -3,6 +3,7 @@
 #include "propertypane.h"
 
 #include "base/textcodec.h"
+#include "editor/translations/coretexts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -254,7 +255,7 @@ void CPropertyPaneItem::AddString(const std::string& text)
     if (!m_combo)
         return;
     const QSignalBlocker block(m_combo);
-    m_combo->addItem(ToQt(text));
+    m_combo->addItem(TranslateCoreText(CoreTextContext::kChoice, text));
     // A combo selects its first entry by itself; the row shows only what it was told.
     m_combo->setCurrentIndex(m_selection);
 }

@@ -910,6 +910,14 @@ Move to Bottom</source>
 <context>
     <name>CPropertyPane</name>
     <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
         <source>Works on one widget at a time: select a single widget to use it</source>
         <translation>一次只作用于一个控件：只选中一个控件即可使用</translation>
     </message>
@@ -1080,6 +1088,10 @@ Restored windows open as modified; saving writes their window files.</source>
     <message>
         <source>Pointer</source>
         <translation>指针</translation>
+    </message>
+    <message>
+        <source>History list</source>
+        <translation>历史数据列表</translation>
     </message>
 </context>
 <context>

@@ -105,30 +105,64 @@ private slots:
 
     void cleanup() { editor.reset(); }
 
-    void theToolboxPlacesWidgetsUntilAClickOrEscape()
+    // The toolbox highlights the current tool, also while the canvas has the focus: the kind
+    // stays highlighted after a placement, the pointer comes back with Escape or a plain click.
+    void theToolboxPlacesWidgetsUntilAClickOrEscapeAndShowsTheCurrentTool()
     {
         CToolbox& toolbox = editor->frame.Toolbox();
         const QList<QListWidgetItem*> found = toolbox.findItems(QStringLiteral("Rectangle"), Qt::MatchExactly);
         QCOMPARE(found.size(), 1);
-        const auto chooseRectangle = [&] { Click(toolbox.viewport(), toolbox.visualItemRect(found.first()).center()); };
+        QListWidgetItem* rectangle = found.first();
+        const auto chooseRectangle = [&] { Click(toolbox.viewport(), toolbox.visualItemRect(rectangle).center()); };
+        const auto highlighted = [&toolbox]() -> QString {
+            const QList<QListWidgetItem*> items = toolbox.selectedItems();
+            if (items.size() != 1 || items.front() != toolbox.currentItem())
+                return QStringLiteral("(%1 highlighted)").arg(items.size());
+            // Painted in the highlight colour right of its text (give or take the tint of the
+            // mouse hovering), whichever widget has the focus.
+            const QRect entry = toolbox.visualItemRect(items.front());
+            const QColor painted = toolbox.viewport()->grab().toImage().pixelColor(entry.right() - 2, entry.center().y());
+            const QColor wanted = toolbox.palette().color(QPalette::Active, QPalette::Highlight);
+            constexpr int kHoverTint = 4;
+            if (std::abs(painted.red() - wanted.red()) + std::abs(painted.green() - wanted.green()) +
+                    std::abs(painted.blue() - wanted.blue()) > kHoverTint)
+                return QStringLiteral("(%1 painted %2)").arg(items.front()->text(), painted.name());
+            return items.front()->text();
+        };
         chooseRectangle();
         Drag(view, QPoint(120, 80), QPoint(20, 30));
         CHmiWidget* placed = document->Widgets().back().get();
         QCOMPARE(placed->GetWidgetClassName(), std::string("rectangle"));
         QCOMPARE(editor->frame.NameCombo().currentText().toStdString(), placed->GetWidgetName());
+        QVERIFY(view->hasFocus());
+        QCOMPARE(highlighted(), QStringLiteral("Rectangle"));
+        Drag(view, QPoint(220, 80), QPoint(260, 130));
+        QCOMPARE(document->Widgets().back()->GetWidgetClassName(), std::string("rectangle"));
+        QCOMPARE(highlighted(), QStringLiteral("Rectangle"));
 
         // Escape, on the canvas or in the toolbox, gives the pointer back: the next drag selects.
         Press(Qt::Key_Escape);
-        Drag(view, QPoint(200, 200), QPoint(260, 240));
-        QCOMPARE(document->Widgets().back().get(), placed);
+        QCOMPARE(highlighted(), QStringLiteral("Pointer"));
+        const std::size_t widgets = document->Widgets().size();
+        Drag(view, QPoint(300, 200), QPoint(360, 240));
+        QCOMPARE(document->Widgets().size(), widgets);
         chooseRectangle();
         QTest::keyClick(&toolbox, Qt::Key_Escape);
-        QCOMPARE(toolbox.currentRow(), 0);
+        QCOMPARE(highlighted(), QStringLiteral("Pointer"));
 
         // A click places nothing (tested with the tools) and gives the pointer back.
         chooseRectangle();
         Click(view, QPoint(300, 300));
-        QCOMPARE(toolbox.currentRow(), 0);
+        QCOMPARE(highlighted(), QStringLiteral("Pointer"));
+
+        // The keys choose as a click does: what is highlighted is what the canvas places.
+        toolbox.setFocus();
+        QTest::keyClick(&toolbox, Qt::Key_Down);
+        QCOMPARE(highlighted(), QStringLiteral("Rectangle"));
+        QTest::keyClick(&toolbox, Qt::Key_Down);
+        Drag(view, QPoint(300, 300), QPoint(340, 320));
+        QCOMPARE(document->Widgets().back()->GetWidgetClassName(), std::string("line"));
+        QCOMPARE(highlighted(), QStringLiteral("Line"));
     }
 
     void theMouseSelectsAndDragsTheSelection()

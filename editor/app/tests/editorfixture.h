@@ -54,13 +54,14 @@ struct ScriptedPrompts : CEditorPrompts {
     QList<QList<RecoveryCopy>> offeredCopies;
 };
 
-// A shown main frame with profile and files in a temporary folder.
+// A shown main frame with profile and files in a temporary folder, wide enough that the canvas
+// shows 600 x 600 pixels beside the docks.
 struct EditorUnderTest {
     EditorUnderTest()
         : settings(folder.filePath(QStringLiteral("profile.ini")), QSettings::IniFormat)
         , frame(prompts, settings, session)
     {
-        frame.resize(1200, 900);
+        frame.resize(1300, 900);
         frame.show();
         QVERIFY(QTest::qWaitForWindowExposed(&frame));
     }

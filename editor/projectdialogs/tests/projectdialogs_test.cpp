@@ -16,6 +16,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
@@ -239,7 +240,18 @@ private slots:
         QVERIFY(m_document->IsModified());
         QCOMPARE(SavedProperty("redrawvar"), PropertyLine("redrawvar", "string", "$plc.mode", 32));
 
-        QVERIFY(!Select([](QDialog& dialog) { ClickButton(dialog, "Cancel"); }));
+        // Opened again, the picker shows the row's reference with every column of its list in view.
+        QVERIFY(!Select([](QDialog& dialog) {
+            QCOMPARE(dialog.findChild<QTreeWidget*>()->currentItem()->text(0), QString("burner"));
+            auto& list = *dialog.findChild<QTableWidget*>();
+            const QModelIndexList chosen = list.selectionModel()->selectedRows();
+            QCOMPARE(chosen.size(), 1);
+            QCOMPARE(chosen.front().row(), 1);
+            const int alias = list.columnCount() - 1;
+            QCOMPARE(list.horizontalHeaderItem(alias)->text(), QString("Alias"));
+            QVERIFY(list.viewport()->rect().contains(list.visualRect(list.model()->index(1, alias))));
+            ClickButton(dialog, "Cancel");
+        }));
     }
 
     // "Project Window Information": the windows last to first; a browsed folder's windows, and
@@ -252,6 +264,10 @@ private slots:
             const QStringList windows = {"trends|Trends and alarms|trends.xml", "pumps|Pump station|pumps.xml",
                                          "main|Boiler overview|main.xml"};
             QCOMPARE(Rows(*list.model()), windows);
+            const QAbstractItemView& view = list; // where the width of the contents is public
+            for (int column = 0; column < list.columnCount(); ++column)
+                QVERIFY(list.header()->sectionSize(column) >= view.sizeHintForColumn(column));
+            QCOMPARE(list.header()->length(), list.viewport()->width());
             ClickCell(list, list.model()->index(1, 0));
             ClickButton(dialog, "OK");
         });

@@ -1,0 +1,35 @@
+#include "captionwidth.h"
+
+#include "base/textcodec.h"
+#include "catalogue/builtinwidgets.h"
+#include "widgets/hmiwidget.h"
+#include "widgets/hmiwidgetprop.h"
+
+#include <QFontMetricsF>
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+
+int WidestBuiltinCaption(const QFont& font)
+{
+    // Measured to a fraction of a pixel and rounded up, as the rows lay their text out.
+    const QFontMetricsF metrics(font);
+    qreal widest = 0;
+    const auto measure = [&](const std::string& caption) {
+        widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(Gb2312ToUtf8OrKeep(caption))));
+    };
+    for (const CWidgetRunTimeClass& entry : CHmiWidget::WidgetClassList) {
+        if (!IsBuiltinWidgetClass(entry.m_strClassKey))
+            continue;
+        const HmiWidgetPtr widget = entry.m_pRuntimeClass->CreateObject();
+        if (!widget)
+            continue;
+        widget->CreateEventItems();
+        for (const auto& property : widget->GetProperties())
+            measure(property->m_strLabel);
+        for (const CHmiWidgetEvent& event : widget->GetEvents())
+            measure(event.label);
+    }
+    return int(std::ceil(widest));
+}
