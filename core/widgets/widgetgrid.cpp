@@ -146,3 +146,15 @@ std::vector<CHmiWidget*> CWidgetGrid::Within(const HmiRect& rect)
             widgets.push_back(m_entries[index].widget);
     return widgets;
 }
+
+std::vector<CHmiWidget*> CWidgetGrid::Meeting(const HmiRect& rect)
+{
+    const HmiRect area = rect.Normalized();
+    std::vector<CHmiWidget*> widgets;
+    for (std::size_t index : Candidates(area)) {
+        const HmiRect r = m_entries[index].widget->GetWidgetRect().Normalized();
+        if (r.left <= area.right && area.left <= r.right && r.top <= area.bottom && area.top <= r.bottom)
+            widgets.push_back(m_entries[index].widget);
+    }
+    return widgets;
+}

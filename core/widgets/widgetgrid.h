@@ -31,6 +31,8 @@ public:
     CHmiWidget* TopmostAt(HmiPoint point);
     // The widgets whose Intersects holds for the rectangle, in drawing order.
     std::vector<CHmiWidget*> Within(const HmiRect& rect);
+    // The widgets whose rectangle meets the rectangle, edges included, in drawing order.
+    std::vector<CHmiWidget*> Meeting(const HmiRect& rect);
 
 private:
     // A range of cells, both ends included.
