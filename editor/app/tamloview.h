@@ -51,6 +51,11 @@ public:
     void SetMouseCapture(bool capture) override;
     void SetCanvasCursor(CanvasCursor cursor) override;
     void ShowDragFeedback(std::vector<HmiRect> clientRects) override;
+    LayoutAids Aids() const override { return m_aids; }
+    void ShowSnapGuides(std::vector<SnapGuide> guides) override;
+
+    // The grid to show and what drags snap to; Ctrl+arrow keys move by one grid step.
+    void SetLayoutAids(const LayoutAids& aids);
 
     void SetLocked(bool locked) { m_locked = locked; }
     const CCanvasControls& Controls() const { return m_controls; }
@@ -91,6 +96,11 @@ private:
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
+    // The grid's dots that fall in the exposed area, inside the window.
+    void DrawGrid(QPainter& painter, const QRect& exposed) const;
+    void DrawSnapGuides(QPainter& painter) const;
+    QRect SnapGuideArea(const SnapGuide& guide) const;
+    void InvalidateSnapGuides();
     // The preview's widgets in the region, with the widgets whose bindings fail outlined.
     void PaintPreview(QPainter& painter, const QRegion& region) const;
     // The drag's focus rectangles that meet the exposed area.
@@ -104,6 +114,8 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
+    LayoutAids m_aids;
+    std::vector<SnapGuide> m_snapGuides; // in window coordinates
     QImage m_backdrop; // the document drawn once for a large drag, kept until the document changes
     // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
     // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.
