@@ -188,18 +188,25 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
         return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
     };
     const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
-    if (change.Has(kDrawn | DocChange::Reloaded))
+    if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne ||
+        (change.Has(kDrawn) && change.widgets.empty())) {
         m_backdrop = QImage();
-    if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne) {
         FitToWindow();
         return InvalidateView();
     }
     for (const HmiWidgetChange& entry : change.widgets) {
         if (HasAny(entry.what, DocChange::Geometry))
-            InvalidateDocRect(entry.rectBefore);
+            RedrawDocRect(entry.rectBefore);
         if (HasAny(entry.what, kDrawn))
-            InvalidateDocRect(entry.widget->GetWidgetRect());
+            RedrawDocRect(entry.widget->GetWidgetRect());
     }
+}
+
+void CTamloView::RedrawDocRect(const HmiRect& area)
+{
+    if (!m_backdrop.isNull())
+        m_staleBackdrop += ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
+    InvalidateDocRect(area);
 }
 
 void CTamloView::SetMouseCapture(bool capture)
@@ -287,15 +294,20 @@ void CTamloView::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (m_preview)
         return PaintPreview(painter, event->region());
-    // When a drag shows rectangles over much of the canvas, as a band over thousands of widgets
-    // does, the document is drawn once and then copied, so that the rectangles follow the mouse;
-    // the copy serves every repaint until the document changes, so that the selection the drag
-    // ends with shows at the cost of its handles alone.
+    // When a drag shows rectangles or guides over much of the canvas, as a band over thousands
+    // of widgets does, the document is drawn once and then copied, so that they follow the mouse;
+    // the copy is redrawn where the document changes and serves every repaint, so that the
+    // selection the drag ends with shows at the cost of its handles alone.
     const QRect area = event->rect();
     const bool large =
         std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
     if (m_backdrop.size() != size() * devicePixelRatio())
         m_backdrop = QImage();
+    if (!m_backdrop.isNull() && !m_staleBackdrop.isEmpty()) {
+        QPainter backdrop(&m_backdrop);
+        PaintDocument(backdrop, m_staleBackdrop);
+    }
+    m_staleBackdrop = QRegion();
     if (!m_feedback.empty() && large && m_backdrop.isNull()) {
         m_backdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
         m_backdrop.setDevicePixelRatio(devicePixelRatio());
@@ -308,7 +320,7 @@ void CTamloView::paintEvent(QPaintEvent* event)
         PaintDocument(painter, event->region());
     else
         painter.drawImage(area, m_backdrop, area);
-    DrawGrid(painter, area);
+    DrawGrid(painter, event->region());
     DrawTrackers(painter);
     DrawSnapGuides(painter);
     painter.restore();
@@ -360,7 +372,7 @@ void CTamloView::DrawTrackers(QPainter& painter) const
     }
 }
 
-void CTamloView::DrawGrid(QPainter& painter, const QRect& exposed) const
+void CTamloView::DrawGrid(QPainter& painter, const QRegion& region) const
 {
     const CHmiWidget* window = m_document.FindWindowWidget();
     if (!m_aids.showGrid || !window)
@@ -372,14 +384,16 @@ void CTamloView::DrawGrid(QPainter& painter, const QRect& exposed) const
     const int every = std::max(1, int(std::ceil(kLeastGridDotSpacing / screenPerGridStep)));
     const int step = m_aids.gridSize * every;
     const HmiRect canvas = CanvasRect(*window).Normalized();
-    const HmiPoint from = ClientToDoc(ToHmiPoint(exposed.topLeft()));
-    const HmiPoint to = ClientToDoc(ToHmiPoint(exposed.bottomRight()));
-    const int right = std::min(to.x, canvas.right - 1);
-    const int bottom = std::min(to.y, canvas.bottom - 1);
     QPolygon dots;
-    for (int y = FirstMultipleFrom(std::max(from.y, canvas.top), step); y <= bottom; y += step)
-        for (int x = FirstMultipleFrom(std::max(from.x, canvas.left), step); x <= right; x += step)
-            dots.append(ToQPoint(DocToClient({x, y})));
+    for (const QRect& exposed : region) {
+        const HmiPoint from = ClientToDoc(ToHmiPoint(exposed.topLeft()));
+        const HmiPoint to = ClientToDoc(ToHmiPoint(exposed.bottomRight()));
+        const int right = std::min(to.x, canvas.right - 1);
+        const int bottom = std::min(to.y, canvas.bottom - 1);
+        for (int y = FirstMultipleFrom(std::max(from.y, canvas.top), step); y <= bottom; y += step)
+            for (int x = FirstMultipleFrom(std::max(from.x, canvas.left), step); x <= right; x += step)
+                dots.append(ToQPoint(DocToClient({x, y})));
+    }
     painter.setPen(QPen(kGridDotColor, 0));
     painter.drawPoints(dots);
 }

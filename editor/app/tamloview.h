@@ -8,6 +8,7 @@
 #include "widgets/hmiview.h"
 
 #include <QImage>
+#include <QRegion>
 #include <QWidget>
 
 #include <span>
@@ -96,11 +97,14 @@ private:
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
-    // The grid's dots that fall in the exposed area, inside the window.
-    void DrawGrid(QPainter& painter, const QRect& exposed) const;
+    // The grid's dots that fall in the region, inside the window.
+    void DrawGrid(QPainter& painter, const QRegion& region) const;
     void DrawSnapGuides(QPainter& painter) const;
     QRect SnapGuideArea(const SnapGuide& guide) const;
     void InvalidateSnapGuides();
+    // Repaints an area whose drawing changed, and redraws the kept copy of the document there
+    // before its next use.
+    void RedrawDocRect(const HmiRect& area);
     // The preview's widgets in the region, with the widgets whose bindings fail outlined.
     void PaintPreview(QPainter& painter, const QRegion& region) const;
     // The drag's focus rectangles that meet the exposed area.
@@ -116,7 +120,8 @@ private:
     std::vector<HmiRect> m_feedback;
     LayoutAids m_aids;
     std::vector<SnapGuide> m_snapGuides; // in window coordinates
-    QImage m_backdrop; // the document drawn once for a large drag, kept until the document changes
+    QImage m_backdrop;       // the document drawn once for a large drag, kept
+    QRegion m_staleBackdrop; // where the document changed since the backdrop was drawn
     // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
     // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.
     mutable CHmiDrawingCache m_drawings;

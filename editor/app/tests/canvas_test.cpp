@@ -409,8 +409,15 @@ private slots:
         gradient->SetWidgetRect({-300, 40, 900, 700});
         gradient->m_nDirection = 44;
         document->AddWidget(HmiWidgetPtr(gradient.release()), true);
-        AddRect(*document, {150, -20, 2000, 130});
-        view->Selection().Deselect(document->GetWindowWidget());
+        CHmiWidget* wide = AddRect(*document, {150, -20, 2000, 130});
+        // A band over the whole canvas keeps a drawing of it, which must follow the edits after.
+        QTest::mousePress(view, Qt::LeftButton, {}, QPoint(1030, 774));
+        QTest::mouseMove(view, QPoint(1, 1));
+        LetTheCanvasPaint();
+        QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(1, 1));
+        view->Selection().Select(wide, false);
+        Press(Qt::Key_Right);
+        view->Selection().Deselect(wide);
         CHmiImageDC rendered(1024, 768);
         DrawWindow(*document, rendered);
         for (const QRect& area : {QRect(0, 0, 1024, 768), QRect(130, 90, 210, 160)}) {
