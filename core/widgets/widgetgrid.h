@@ -66,4 +66,7 @@ private:
     std::unordered_map<std::uint64_t, std::vector<std::size_t>> m_cells;
     std::vector<std::size_t> m_everywhere;
     std::vector<const CHmiWidget*> m_moved; // to be placed anew at the next question
+    // Per entry, the last question that found it, so that an entry in many cells is taken once.
+    std::vector<std::uint32_t> m_foundAt;
+    std::uint32_t m_question = 0;
 };

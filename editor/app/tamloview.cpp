@@ -269,9 +269,10 @@ void CTamloView::ShowSnapGuides(std::vector<SnapGuide> guides)
 
 QRect CTamloView::SnapGuideArea(const SnapGuide& guide) const
 {
+    const int room = guide.kind == SnapGuide::Kind::Gap ? kGapMarkerTick + 1 : 1;
     return QRect(ToQPoint(DocToClient(guide.from)), ToQPoint(DocToClient(guide.to)))
         .normalized()
-        .adjusted(-kGapMarkerTick - 1, -kGapMarkerTick - 1, kGapMarkerTick + 1, kGapMarkerTick + 1);
+        .adjusted(-room, -room, room, room);
 }
 
 void CTamloView::InvalidateSnapGuides()
@@ -319,12 +320,23 @@ void CTamloView::paintEvent(QPaintEvent* event)
     if (m_backdrop.isNull())
         PaintDocument(painter, event->region());
     else
-        painter.drawImage(area, m_backdrop, area);
+        CopyBackdrop(painter, event->region());
     DrawGrid(painter, event->region());
     DrawTrackers(painter);
     DrawSnapGuides(painter);
     painter.restore();
     DrawDragFeedback(painter, area);
+}
+
+void CTamloView::CopyBackdrop(QPainter& painter, const QRegion& region) const
+{
+    // Rectangle by rectangle, so that guides far apart copy only what they cover; the copy is
+    // opaque and needs no blending.
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (const QRect& rect : region)
+        painter.drawImage(rect, m_backdrop, rect);
+    painter.restore();
 }
 
 void CTamloView::ClipTo(QPainter& painter, const QRegion& region)

@@ -94,6 +94,7 @@ private:
     // Grows or shrinks the canvas to the window widget's size.
     void FitToWindow();
     static void ClipTo(QPainter& painter, const QRegion& region);
+    void CopyBackdrop(QPainter& painter, const QRegion& region) const;
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
