@@ -1,6 +1,7 @@
 #include "layoutaidactions.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
 
 LayoutAids LayoutAidsOf(const CEditorPreferences::Values& values)
@@ -26,13 +27,15 @@ void AddLayoutAidToggles(QMenu& menu, CEditorPreferences& preferences)
         QObject::connect(&preferences, &CEditorPreferences::changed, action,
                          [&preferences, action, choice] { action->setChecked(preferences.Get().*choice); });
     };
-    addToggle(QStringLiteral("Show &Grid"), QStringLiteral("Show or hide the grid on the canvas"),
+    addToggle(QCoreApplication::translate("CLayoutAidToggles", "Show &Grid"),
+              QCoreApplication::translate("CLayoutAidToggles", "Show or hide the grid on the canvas"),
               QStringLiteral("actionShowGrid"), &CEditorPreferences::Values::showGrid);
-    addToggle(QStringLiteral("Snap to G&rid"),
-              QStringLiteral("Snap moved, resized and placed widgets to the grid; hold Alt to place freely"),
+    addToggle(QCoreApplication::translate("CLayoutAidToggles", "Snap to G&rid"),
+              QCoreApplication::translate("CLayoutAidToggles",
+                                          "Snap moved, resized and placed widgets to the grid; hold Alt to place freely"),
               QStringLiteral("actionSnapToGrid"), &CEditorPreferences::Values::snapToGrid);
-    addToggle(QStringLiteral("Snap to &Widgets"),
-              QStringLiteral("Snap to the edges and centres of other widgets and of the window, and to equal "
-                             "gaps; hold Alt to place freely"),
+    addToggle(QCoreApplication::translate("CLayoutAidToggles", "Snap to &Widgets"),
+              QCoreApplication::translate("CLayoutAidToggles", "Snap to the edges and centres of other widgets and of "
+                                                               "the window, and to equal gaps; hold Alt to place freely"),
               QStringLiteral("actionSnapToWidgets"), &CEditorPreferences::Values::snapToWidgets);
 }
