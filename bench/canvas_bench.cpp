@@ -1,5 +1,6 @@
 // Measures the canvas on a crowded window: a full repaint, a rubber-band selection and a drag of
-// one widget with the repaints that follow them, against plain rectangles drawn through the same
+// one widget with the repaints that follow them, also with snapping to the grid and to widgets
+// and with the snapping's search on its own, against plain rectangles drawn through the same
 // painter; a band over every widget and a drag of them all, against one full repaint; opening a
 // window file of 10,000 widgets in the editor to its first paint, against loading the file; the
 // editor's start to its first paint, against a bare main window started the same way; and a full
@@ -15,6 +16,7 @@
 #include "editor/model/editorsession.h"
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
+#include "editor/model/snapper.h"
 #include "catalogue/builtinwidgets.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/tamlodoc.h"
@@ -90,6 +92,10 @@ constexpr WidgetKind kMix[] = {
     {"bmptext", 100, 24, 2},
     {"picture", 100, 60, 2},
 };
+
+// The snapping of the drags that snap: what the user turns on, and the canvas's reach at 100 %.
+constexpr LayoutAids kSnapping{.gridSize = 10, .snapToGrid = true, .snapToWidgets = true};
+constexpr int kSnapReach = 5;
 
 // The window of the editor's cases, as large as a window file of a crowded panel.
 constexpr int kEditorWidgetCount = 10000;
@@ -262,6 +268,29 @@ void MeasureWidgetDrags(CTamloDoc& document, CTamloView& view, std::string_view 
                 drag.median / (kBandMoves + 2));
 }
 
+// The snapping's search alone for one widget's drag: its rectangle snapped where each mouse event
+// of a drag takes it.
+void MeasureSnapSearch(CTamloDoc& document, std::string_view classKey)
+{
+    const CHmiWidget* dragged = WidgetToDrag(document, classKey);
+    if (!dragged)
+        return;
+    const CSnapper snapper(document, kSnapping, kSnapReach, {dragged});
+    const HmiRect rect = dragged->GetWidgetRect();
+    std::size_t guides = 0;
+    const Timing search = Measure(kBandRepetitions, [&] {
+        for (int step = 1; step <= kBandMoves; ++step) {
+            const int distance = kWidgetDragDistance * step / kBandMoves;
+            const HmiRect moved{rect.left + distance, rect.top + distance, rect.right + distance,
+                                rect.bottom + distance};
+            guides += snapper.SnapRect(moved).guides.size();
+        }
+    });
+    std::printf("%7s  (snapping's search alone: %.3f ms per mouse event, min %.3f; %.1f guides on average)\n", "",
+                search.median / kBandMoves, search.min / kBandMoves,
+                double(guides) / ((kBandRepetitions + 1) * kBandMoves));
+}
+
 // One widget of each kind of the mix over the whole drawing range and far beyond, with every
 // count of grid lines and points as high as a file can hold.
 void FillWithHugeWidgets(CTamloDoc& document)
@@ -346,6 +375,10 @@ void MeasureCanvas(int widgetCount)
     view.Selection().Select(nullptr, false);
     QCoreApplication::processEvents();
     MeasureWidgetDrags(document, view, "rectangle", "one widget dragged", baseline);
+    view.SetLayoutAids(kSnapping);
+    MeasureWidgetDrags(document, view, "rectangle", "one widget dragged, snaps", baseline);
+    MeasureSnapSearch(document, "rectangle");
+    view.SetLayoutAids({});
     MeasureWidgetDrags(document, view, "curve", "one large curve dragged", baseline);
 }
 

@@ -127,6 +127,8 @@ public:
     // The widgets whose Intersects holds for the rectangle (for a band: that lie in it), in
     // drawing order, skipping deleted ones and the window widget.
     std::vector<CHmiWidget*> WidgetsWithin(const HmiRect& rect) const { return m_grid.Within(rect); }
+    // The widgets whose rectangle meets the rectangle, edges included, with the same skips.
+    std::vector<CHmiWidget*> WidgetsMeeting(const HmiRect& rect) const { return m_grid.Meeting(rect); }
     // The window widget unless it is deleted.
     CHmiWidget* FindWindowWidget() const;
 

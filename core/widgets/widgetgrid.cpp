@@ -4,6 +4,7 @@
 #include "tamlodoc.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -74,6 +75,8 @@ void CWidgetGrid::Rebuild()
         m_entries.push_back({widget.get(), {}, false});
         Place(m_entries.size() - 1);
     }
+    m_foundAt.assign(m_entries.size(), 0);
+    m_question = 0;
     m_stale = false;
 }
 
@@ -116,16 +119,22 @@ std::vector<std::size_t> CWidgetGrid::Candidates(const HmiRect& rect)
             found[index] = index;
         return found;
     }
+    if (++m_question == 0) { // after four billion questions, start counting again
+        std::fill(m_foundAt.begin(), m_foundAt.end(), 0);
+        m_question = 1;
+    }
     found = m_everywhere;
     for (std::int64_t row = cells.top; row <= cells.bottom; ++row) {
         for (std::int64_t column = cells.left; column <= cells.right; ++column) {
             const auto cell = m_cells.find(CellKey(column, row));
-            if (cell != m_cells.end())
-                found.insert(found.end(), cell->second.begin(), cell->second.end());
+            if (cell == m_cells.end())
+                continue;
+            for (std::size_t index : cell->second)
+                if (std::exchange(m_foundAt[index], m_question) != m_question)
+                    found.push_back(index);
         }
     }
     std::sort(found.begin(), found.end());
-    found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
 }
 
@@ -144,5 +153,17 @@ std::vector<CHmiWidget*> CWidgetGrid::Within(const HmiRect& rect)
     for (std::size_t index : Candidates(rect))
         if (m_entries[index].widget->Intersects(rect))
             widgets.push_back(m_entries[index].widget);
+    return widgets;
+}
+
+std::vector<CHmiWidget*> CWidgetGrid::Meeting(const HmiRect& rect)
+{
+    const HmiRect area = rect.Normalized();
+    std::vector<CHmiWidget*> widgets;
+    for (std::size_t index : Candidates(area)) {
+        const HmiRect r = m_entries[index].widget->GetWidgetRect().Normalized();
+        if (r.left <= area.right && area.left <= r.right && r.top <= area.bottom && area.top <= r.bottom)
+            widgets.push_back(m_entries[index].widget);
+    }
     return widgets;
 }

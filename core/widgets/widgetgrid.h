@@ -31,6 +31,8 @@ public:
     CHmiWidget* TopmostAt(HmiPoint point);
     // The widgets whose Intersects holds for the rectangle, in drawing order.
     std::vector<CHmiWidget*> Within(const HmiRect& rect);
+    // The widgets whose rectangle meets the rectangle, edges included, in drawing order.
+    std::vector<CHmiWidget*> Meeting(const HmiRect& rect);
 
 private:
     // A range of cells, both ends included.
@@ -64,4 +66,7 @@ private:
     std::unordered_map<std::uint64_t, std::vector<std::size_t>> m_cells;
     std::vector<std::size_t> m_everywhere;
     std::vector<const CHmiWidget*> m_moved; // to be placed anew at the next question
+    // Per entry, the last question that found it, so that an entry in many cells is taken once.
+    std::vector<std::uint32_t> m_foundAt;
+    std::uint32_t m_question = 0;
 };

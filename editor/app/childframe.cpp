@@ -1,6 +1,7 @@
 #include "childframe.h"
 
 #include "editorprompts.h"
+#include "layoutaidactions.h"
 #include "pathtext.h"
 #include "tamloview.h"
 
@@ -60,6 +61,9 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
     m_diskDigest = DiskDigest(FilePath());
     setAttribute(Qt::WA_DeleteOnClose);
     m_view->Selection().Select(nullptr, false);
+    m_view->SetLayoutAids(LayoutAidsOf(m_preferences.Get()));
+    connect(&m_preferences, &CEditorPreferences::changed, this,
+            [this] { m_view->SetLayoutAids(LayoutAidsOf(m_preferences.Get())); });
     RefreshTitle();
     m_document->AddObserver(this);
 }

@@ -4,6 +4,7 @@
 #include "editorprompts.h"
 #include "firststartlayout.h"
 #include "formatactions.h"
+#include "layoutaidactions.h"
 #include "pathtext.h"
 #include "previewactions.h"
 #include "tamloview.h"
@@ -339,6 +340,8 @@ void CMainFrame::CreateMenus()
     view->addAction(standard->toggleViewAction());
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    AddLayoutAidToggles(*view, m_preferences);
     view->addSeparator();
     view->addAction(m_preview->PreviewAction());
     view->addSeparator();

@@ -16,6 +16,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 
@@ -33,6 +34,13 @@ constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
 constexpr std::size_t kOutlinesRepaintedOneByOne = 16;
 // An outline at least this wide and high repaints only its edges.
 constexpr int kLeastOutlineRepaintedByEdges = 100;
+// The grid shows as faint dots, never closer than this many screen pixels: a finer grid shows
+// every second, third... dot.
+constexpr int kLeastGridDotSpacing = 4;
+const QColor kGridDotColor(0x80, 0x80, 0x80, 0xA0);
+const QColor kSnapGuideColor(Qt::magenta);
+// How far the ends of a gap marker reach across it.
+constexpr int kGapMarkerTick = 3;
 
 QRect ToQRect(const HmiRect& rect)
 {
@@ -45,9 +53,22 @@ HmiPoint ToHmiPoint(const QPoint& point)
     return {point.x(), point.y()};
 }
 
+QPoint ToQPoint(HmiPoint point)
+{
+    return {point.x, point.y};
+}
+
 MouseFlags ToMouseFlags(Qt::KeyboardModifiers modifiers)
 {
-    return {modifiers.testFlag(Qt::ControlModifier), modifiers.testFlag(Qt::ShiftModifier)};
+    return {modifiers.testFlag(Qt::ControlModifier), modifiers.testFlag(Qt::ShiftModifier),
+            modifiers.testFlag(Qt::AltModifier)};
+}
+
+// The first multiple of step at or after value.
+int FirstMultipleFrom(int value, int step)
+{
+    const int below = value / step * step;
+    return below >= value ? below : below + step;
 }
 
 Qt::CursorShape ToCursorShape(CanvasCursor cursor)
@@ -167,18 +188,25 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
         return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
     };
     const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
-    if (change.Has(kDrawn | DocChange::Reloaded))
+    if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne ||
+        (change.Has(kDrawn) && change.widgets.empty())) {
         m_backdrop = QImage();
-    if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne) {
         FitToWindow();
         return InvalidateView();
     }
     for (const HmiWidgetChange& entry : change.widgets) {
         if (HasAny(entry.what, DocChange::Geometry))
-            InvalidateDocRect(entry.rectBefore);
+            RedrawDocRect(entry.rectBefore);
         if (HasAny(entry.what, kDrawn))
-            InvalidateDocRect(entry.widget->GetWidgetRect());
+            RedrawDocRect(entry.widget->GetWidgetRect());
     }
+}
+
+void CTamloView::RedrawDocRect(const HmiRect& area)
+{
+    if (!m_backdrop.isNull())
+        m_staleBackdrop += ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
+    InvalidateDocRect(area);
 }
 
 void CTamloView::SetMouseCapture(bool capture)
@@ -222,6 +250,37 @@ void CTamloView::InvalidateFeedback()
     }
 }
 
+void CTamloView::SetLayoutAids(const LayoutAids& aids)
+{
+    const bool gridChanged = aids.showGrid != m_aids.showGrid || (aids.showGrid && aids.gridSize != m_aids.gridSize);
+    m_aids = aids;
+    if (gridChanged)
+        update();
+}
+
+void CTamloView::ShowSnapGuides(std::vector<SnapGuide> guides)
+{
+    if (guides == m_snapGuides)
+        return;
+    InvalidateSnapGuides();
+    m_snapGuides = std::move(guides);
+    InvalidateSnapGuides();
+}
+
+QRect CTamloView::SnapGuideArea(const SnapGuide& guide) const
+{
+    const int room = guide.kind == SnapGuide::Kind::Gap ? kGapMarkerTick + 1 : 1;
+    return QRect(ToQPoint(DocToClient(guide.from)), ToQPoint(DocToClient(guide.to)))
+        .normalized()
+        .adjusted(-room, -room, room, room);
+}
+
+void CTamloView::InvalidateSnapGuides()
+{
+    for (const SnapGuide& guide : m_snapGuides)
+        update(SnapGuideArea(guide));
+}
+
 QRect CTamloView::FeedbackArea() const
 {
     QRect area;
@@ -236,15 +295,20 @@ void CTamloView::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (m_preview)
         return PaintPreview(painter, event->region());
-    // When a drag shows rectangles over much of the canvas, as a band over thousands of widgets
-    // does, the document is drawn once and then copied, so that the rectangles follow the mouse;
-    // the copy serves every repaint until the document changes, so that the selection the drag
-    // ends with shows at the cost of its handles alone.
+    // When a drag shows rectangles or guides over much of the canvas, as a band over thousands
+    // of widgets does, the document is drawn once and then copied, so that they follow the mouse;
+    // the copy is redrawn where the document changes and serves every repaint, so that the
+    // selection the drag ends with shows at the cost of its handles alone.
     const QRect area = event->rect();
     const bool large =
         std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
     if (m_backdrop.size() != size() * devicePixelRatio())
         m_backdrop = QImage();
+    if (!m_backdrop.isNull() && !m_staleBackdrop.isEmpty()) {
+        QPainter backdrop(&m_backdrop);
+        PaintDocument(backdrop, m_staleBackdrop);
+    }
+    m_staleBackdrop = QRegion();
     if (!m_feedback.empty() && large && m_backdrop.isNull()) {
         m_backdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
         m_backdrop.setDevicePixelRatio(devicePixelRatio());
@@ -256,10 +320,23 @@ void CTamloView::paintEvent(QPaintEvent* event)
     if (m_backdrop.isNull())
         PaintDocument(painter, event->region());
     else
-        painter.drawImage(area, m_backdrop, area);
+        CopyBackdrop(painter, event->region());
+    DrawGrid(painter, event->region());
     DrawTrackers(painter);
+    DrawSnapGuides(painter);
     painter.restore();
     DrawDragFeedback(painter, area);
+}
+
+void CTamloView::CopyBackdrop(QPainter& painter, const QRegion& region) const
+{
+    // Rectangle by rectangle, so that guides far apart copy only what they cover; the copy is
+    // opaque and needs no blending.
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (const QRect& rect : region)
+        painter.drawImage(rect, m_backdrop, rect);
+    painter.restore();
 }
 
 void CTamloView::ClipTo(QPainter& painter, const QRegion& region)
@@ -307,6 +384,47 @@ void CTamloView::DrawTrackers(QPainter& painter) const
     }
 }
 
+void CTamloView::DrawGrid(QPainter& painter, const QRegion& region) const
+{
+    const CHmiWidget* window = m_document.FindWindowWidget();
+    if (!m_aids.showGrid || !window)
+        return;
+    // Dots at the grid's crossings in window coordinates, seen through the view's mapping.
+    constexpr int kStepsMeasured = 100; // enough for a fraction of a pixel per step
+    const int measured = DocToClient({kStepsMeasured * m_aids.gridSize, 0}).x - DocToClient({0, 0}).x;
+    const double screenPerGridStep = std::max(measured, 1) / double(kStepsMeasured);
+    const int every = std::max(1, int(std::ceil(kLeastGridDotSpacing / screenPerGridStep)));
+    const int step = m_aids.gridSize * every;
+    const HmiRect canvas = CanvasRect(*window).Normalized();
+    QPolygon dots;
+    for (const QRect& exposed : region) {
+        const HmiPoint from = ClientToDoc(ToHmiPoint(exposed.topLeft()));
+        const HmiPoint to = ClientToDoc(ToHmiPoint(exposed.bottomRight()));
+        const int right = std::min(to.x, canvas.right - 1);
+        const int bottom = std::min(to.y, canvas.bottom - 1);
+        for (int y = FirstMultipleFrom(std::max(from.y, canvas.top), step); y <= bottom; y += step)
+            for (int x = FirstMultipleFrom(std::max(from.x, canvas.left), step); x <= right; x += step)
+                dots.append(ToQPoint(DocToClient({x, y})));
+    }
+    painter.setPen(QPen(kGridDotColor, 0));
+    painter.drawPoints(dots);
+}
+
+void CTamloView::DrawSnapGuides(QPainter& painter) const
+{
+    painter.setPen(QPen(kSnapGuideColor, 0));
+    for (const SnapGuide& guide : m_snapGuides) {
+        const QPoint from = ToQPoint(DocToClient(guide.from));
+        const QPoint to = ToQPoint(DocToClient(guide.to));
+        painter.drawLine(from, to);
+        if (guide.kind != SnapGuide::Kind::Gap)
+            continue;
+        const QPoint across = from.y() == to.y() ? QPoint(0, kGapMarkerTick) : QPoint(kGapMarkerTick, 0);
+        painter.drawLine(from - across, from + across);
+        painter.drawLine(to - across, to + across);
+    }
+}
+
 void CTamloView::DrawDragFeedback(QPainter& painter, const QRect& exposed) const
 {
     // Focus rectangles: dotted outlines that show on any background. The dots are set in an
@@ -342,7 +460,7 @@ void CTamloView::mouseMoveEvent(QMouseEvent* event)
     emit cursorMoved(event->position().toPoint());
     if (m_preview)
         return;
-    m_tools.MouseMove(*this, ToHmiPoint(event->position().toPoint()));
+    m_tools.MouseMove(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
 }
 
 void CTamloView::mouseReleaseEvent(QMouseEvent* event)
@@ -350,7 +468,7 @@ void CTamloView::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton || m_preview)
         return QWidget::mouseReleaseEvent(event);
     const bool wasDragging = m_tools.IsDragging();
-    m_tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()));
+    m_tools.ButtonUp(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
     if (wasDragging)
         emit commandEnded();
 }
@@ -368,7 +486,8 @@ void CTamloView::keyPressEvent(QKeyEvent* event)
         return event->accept(); // a locked layout ignores every key, even for scrolling
     const std::optional<NudgeKey> key = ToNudgeKey(event->key());
     const bool resize = event->modifiers().testFlag(Qt::ShiftModifier);
-    if (key && NudgeWidgets(m_document, m_selection.Widgets(), *key, resize))
+    const int step = event->modifiers().testFlag(Qt::ControlModifier) ? m_aids.gridSize : 1;
+    if (key && NudgeWidgets(m_document, m_selection.Widgets(), *key, resize, step))
         return emit commandEnded();
     QWidget::keyPressEvent(event);
 }

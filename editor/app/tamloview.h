@@ -8,6 +8,7 @@
 #include "widgets/hmiview.h"
 
 #include <QImage>
+#include <QRegion>
 #include <QWidget>
 
 #include <span>
@@ -51,6 +52,11 @@ public:
     void SetMouseCapture(bool capture) override;
     void SetCanvasCursor(CanvasCursor cursor) override;
     void ShowDragFeedback(std::vector<HmiRect> clientRects) override;
+    LayoutAids Aids() const override { return m_aids; }
+    void ShowSnapGuides(std::vector<SnapGuide> guides) override;
+
+    // The grid to show and what drags snap to; Ctrl+arrow keys move by one grid step.
+    void SetLayoutAids(const LayoutAids& aids);
 
     void SetLocked(bool locked) { m_locked = locked; }
     const CCanvasControls& Controls() const { return m_controls; }
@@ -88,9 +94,18 @@ private:
     // Grows or shrinks the canvas to the window widget's size.
     void FitToWindow();
     static void ClipTo(QPainter& painter, const QRegion& region);
+    void CopyBackdrop(QPainter& painter, const QRegion& region) const;
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
+    // The grid's dots that fall in the region, inside the window.
+    void DrawGrid(QPainter& painter, const QRegion& region) const;
+    void DrawSnapGuides(QPainter& painter) const;
+    QRect SnapGuideArea(const SnapGuide& guide) const;
+    void InvalidateSnapGuides();
+    // Repaints an area whose drawing changed, and redraws the kept copy of the document there
+    // before its next use.
+    void RedrawDocRect(const HmiRect& area);
     // The preview's widgets in the region, with the widgets whose bindings fail outlined.
     void PaintPreview(QPainter& painter, const QRegion& region) const;
     // The drag's focus rectangles that meet the exposed area.
@@ -104,7 +119,10 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     std::vector<HmiRect> m_feedback;
-    QImage m_backdrop; // the document drawn once for a large drag, kept until the document changes
+    LayoutAids m_aids;
+    std::vector<SnapGuide> m_snapGuides; // in window coordinates
+    QImage m_backdrop;       // the document drawn once for a large drag, kept
+    QRegion m_staleBackdrop; // where the document changed since the backdrop was drawn
     // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
     // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.
     mutable CHmiDrawingCache m_drawings;

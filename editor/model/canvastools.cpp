@@ -6,7 +6,13 @@
 #include "widgets/hmiwidgetwindow.h"
 #include "widgets/tamlodoc.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace {
+
+// How near, in screen pixels, a dragged line must come to another to snap to it.
+constexpr int kSnapPixels = 5;
 
 HmiRect RectBetween(HmiPoint a, HmiPoint b)
 {
@@ -16,6 +22,18 @@ HmiRect RectBetween(HmiPoint a, HmiPoint b)
 HmiRect Offset(const HmiRect& rect, int dx, int dy)
 {
     return {rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy};
+}
+
+// The rectangle around the widgets as the canvas shows them.
+HmiRect BoundsOf(const std::vector<CHmiWidget*>& widgets)
+{
+    HmiRect bounds = CanvasRect(*widgets.front()).Normalized();
+    for (const CHmiWidget* widget : widgets) {
+        const HmiRect r = CanvasRect(*widget).Normalized();
+        bounds = {std::min(bounds.left, r.left), std::min(bounds.top, r.top), std::max(bounds.right, r.right),
+                  std::max(bounds.bottom, r.bottom)};
+    }
+    return bounds;
 }
 
 bool IsEmptyRect(const HmiRect& rect)
@@ -60,6 +78,11 @@ void CCanvasTools::ButtonDown(CCanvasToolHost& host, HmiPoint point, MouseFlags 
     m_capturing = true;
     m_pressPoint = point;
     m_lastPoint = point;
+    if (m_tool == CanvasTool::Place && m_mode == DragMode::Resize) {
+        DragStep step = StepTo(host, point, flags);
+        m_placeCorner = step.docPoint;
+        host.ShowSnapGuides(std::move(step.guides));
+    }
 }
 
 void CCanvasTools::SelectButtonDown(CCanvasToolHost& host, HmiPoint point, MouseFlags flags)
@@ -84,23 +107,27 @@ void CCanvasTools::SelectButtonDown(CCanvasToolHost& host, HmiPoint point, Mouse
     host.ShowDragFeedback({});
 }
 
-void CCanvasTools::MouseMove(CCanvasToolHost& host, HmiPoint point)
+void CCanvasTools::MouseMove(CCanvasToolHost& host, HmiPoint point, MouseFlags flags)
 {
     if (!m_capturing) {
         ShowHoverCursor(host, point);
         return;
     }
     m_lastPoint = point;
+    DragStep step = StepTo(host, point, flags);
     if (m_tool == CanvasTool::Place) {
         host.SetCanvasCursor(CanvasCursor::Cross);
-        if (m_mode == DragMode::Resize)
-            host.ShowDragFeedback({RectBetween(m_pressPoint, point)});
-        return;
+        if (m_mode == DragMode::Resize) {
+            const CHmiView& view = host.Selection().View();
+            host.ShowDragFeedback({RectBetween(view.DocToClient(m_placeCorner), view.DocToClient(step.docPoint))});
+        }
+    } else {
+        host.SetCanvasCursor(m_mode == DragMode::Resize
+                                 ? CursorOf(host.Selection().Widgets().front()->GetHandleCursor(m_handle))
+                                 : CanvasCursor::Arrow);
+        host.ShowDragFeedback(Feedback(host, point, step));
     }
-    host.SetCanvasCursor(m_mode == DragMode::Resize
-                             ? CursorOf(host.Selection().Widgets().front()->GetHandleCursor(m_handle))
-                             : CanvasCursor::Arrow);
-    host.ShowDragFeedback(Feedback(host, point));
+    host.ShowSnapGuides(std::move(step.guides));
 }
 
 void CCanvasTools::ShowHoverCursor(CCanvasToolHost& host, HmiPoint point) const
@@ -115,17 +142,54 @@ void CCanvasTools::ShowHoverCursor(CCanvasToolHost& host, HmiPoint point) const
                                 : CanvasCursor::Arrow);
 }
 
-HmiRect CCanvasTools::ProspectiveRect(CCanvasToolHost& host, CHmiWidget& widget, HmiPoint point) const
+CCanvasTools::DragStep CCanvasTools::StepTo(CCanvasToolHost& host, HmiPoint point, MouseFlags flags) const
 {
-    CHmiView& view = host.Selection().View();
+    CCanvasSelection& selection = host.Selection();
+    // A move's offset is taken in client coordinates and applied unchanged.
+    DragStep step{{point.x - m_pressPoint.x, point.y - m_pressPoint.y}, selection.View().ClientToDoc(point), {}};
+    const std::optional<CSnapper> snapper = SnapperFor(host, flags);
+    if (!snapper)
+        return step;
+    SnapResult snap;
     if (m_mode == DragMode::Move) {
-        // The offset is taken in client coordinates and applied unchanged.
-        return Offset(widget.GetWidgetRect(), point.x - m_pressPoint.x, point.y - m_pressPoint.y);
+        // A selection moves as one: its bounding box snaps.
+        snap = snapper->SnapRect(Offset(BoundsOf(selection.Widgets()), step.offset.x, step.offset.y));
+        step.offset = {step.offset.x + snap.shift.x, step.offset.y + snap.shift.y};
+    } else {
+        // Handles 2 and 6 move only the top or the bottom edge, 4 and 8 only the right or the left.
+        snap = snapper->SnapPoint(step.docPoint, m_handle != 2 && m_handle != 6, m_handle != 4 && m_handle != 8);
+        step.docPoint = {step.docPoint.x + snap.shift.x, step.docPoint.y + snap.shift.y};
     }
-    return widget.MoveHandleTo(m_handle, ToWidgetSpace(widget, view.ClientToDoc(point)), &view, false);
+    step.guides = std::move(snap.guides);
+    return step;
 }
 
-std::vector<HmiRect> CCanvasTools::Feedback(CCanvasToolHost& host, HmiPoint point) const
+std::optional<CSnapper> CCanvasTools::SnapperFor(CCanvasToolHost& host, MouseFlags flags) const
+{
+    const LayoutAids aids = host.Aids();
+    const bool reshaping = m_mode == DragMode::Move || m_mode == DragMode::Resize;
+    const bool locked = m_tool == CanvasTool::Select && host.IsLocked();
+    CCanvasSelection& selection = host.Selection();
+    if (flags.alt || !aids.Snaps() || !reshaping || locked || (m_tool == CanvasTool::Select && selection.IsEmpty()))
+        return std::nullopt;
+    std::vector<const CHmiWidget*> moving;
+    if (m_tool == CanvasTool::Select)
+        moving.assign(selection.Widgets().begin(), selection.Widgets().end());
+    // The reach is a few screen pixels, however the view scales the window.
+    const CHmiView& view = selection.View();
+    const int reach = std::abs(view.ClientToDoc({kSnapPixels, 0}).x - view.ClientToDoc({0, 0}).x);
+    return CSnapper(selection.Document(), aids, reach, std::move(moving));
+}
+
+HmiRect CCanvasTools::ProspectiveRect(CCanvasToolHost& host, CHmiWidget& widget, const DragStep& step) const
+{
+    CHmiView& view = host.Selection().View();
+    if (m_mode == DragMode::Move)
+        return Offset(widget.GetWidgetRect(), step.offset.x, step.offset.y);
+    return widget.MoveHandleTo(m_handle, ToWidgetSpace(widget, step.docPoint), &view, false);
+}
+
+std::vector<HmiRect> CCanvasTools::Feedback(CCanvasToolHost& host, HmiPoint point, const DragStep& step) const
 {
     if (m_mode == DragMode::RubberBand)
         return {RectBetween(m_pressPoint, point)};
@@ -134,7 +198,7 @@ std::vector<HmiRect> CCanvasTools::Feedback(CCanvasToolHost& host, HmiPoint poin
     CCanvasSelection& selection = host.Selection();
     std::vector<HmiRect> rects;
     for (CHmiWidget* widget : selection.Widgets()) {
-        const HmiRect rect = ProspectiveRect(host, *widget, point).Normalized();
+        const HmiRect rect = ProspectiveRect(host, *widget, step).Normalized();
         const HmiPoint origin = CanvasOrigin(*widget);
         const HmiPoint topLeft = selection.View().DocToClient({rect.left - origin.x, rect.top - origin.y});
         const HmiPoint bottomRight = selection.View().DocToClient({rect.right - origin.x, rect.bottom - origin.y});
@@ -143,29 +207,31 @@ std::vector<HmiRect> CCanvasTools::Feedback(CCanvasToolHost& host, HmiPoint poin
     return rects;
 }
 
-void CCanvasTools::ButtonUp(CCanvasToolHost& host, HmiPoint point)
+void CCanvasTools::ButtonUp(CCanvasToolHost& host, HmiPoint point, MouseFlags flags)
 {
     if (!m_capturing)
         return;
     m_lastPoint = point;
     host.ShowDragFeedback({});
+    host.ShowSnapGuides({});
+    const DragStep step = StepTo(host, point, flags);
     if (m_tool == CanvasTool::Place)
-        PlaceButtonUp(host, point);
+        PlaceButtonUp(host, point, step);
     else
-        SelectButtonUp(host, point);
+        SelectButtonUp(host, point, step);
 }
 
-void CCanvasTools::SelectButtonUp(CCanvasToolHost& host, HmiPoint point)
+void CCanvasTools::SelectButtonUp(CCanvasToolHost& host, HmiPoint point, const DragStep& step)
 {
     CCanvasSelection& selection = host.Selection();
     if (m_mode == DragMode::RubberBand)
         selection.SelectInRect(RectBetween(m_pressPoint, point), true);
     else if (!host.IsLocked())
-        ApplyDrag(host, point);
+        ApplyDrag(host, step);
     EndCapture(host);
 }
 
-void CCanvasTools::ApplyDrag(CCanvasToolHost& host, HmiPoint point)
+void CCanvasTools::ApplyDrag(CCanvasToolHost& host, const DragStep& step)
 {
     CCanvasSelection& selection = host.Selection();
     const std::vector<CHmiWidget*>& widgets = selection.Widgets();
@@ -178,15 +244,15 @@ void CCanvasTools::ApplyDrag(CCanvasToolHost& host, HmiPoint point)
         if (record)
             document.RecordUndo(UndoOperation::Changed, widget);
         if (m_mode == DragMode::Move)
-            widget->MoveTo(ProspectiveRect(host, *widget, point), &view);
+            widget->MoveTo(ProspectiveRect(host, *widget, step), &view);
         else if (m_handle != 0)
-            widget->MoveHandleTo(m_handle, ToWidgetSpace(*widget, view.ClientToDoc(point)), &view, true);
+            widget->MoveHandleTo(m_handle, ToWidgetSpace(*widget, step.docPoint), &view, true);
     }
     if (record)
         document.EndUndoStep();
 }
 
-void CCanvasTools::PlaceButtonUp(CCanvasToolHost& host, HmiPoint point)
+void CCanvasTools::PlaceButtonUp(CCanvasToolHost& host, HmiPoint point, const DragStep& step)
 {
     if (point == m_pressPoint) {
         // A plain click places nothing: there is no default size.
@@ -194,22 +260,19 @@ void CCanvasTools::PlaceButtonUp(CCanvasToolHost& host, HmiPoint point)
         return;
     }
     if (m_mode == DragMode::Resize)
-        PlaceWidget(host, RectBetween(m_pressPoint, point));
+        PlaceWidget(host, RectBetween(m_placeCorner, step.docPoint));
     m_mode = DragMode::None;
     host.SetMouseCapture(false);
     m_capturing = false;
 }
 
-void CCanvasTools::PlaceWidget(CCanvasToolHost& host, const HmiRect& clientRect)
+void CCanvasTools::PlaceWidget(CCanvasToolHost& host, HmiRect rect)
 {
     HmiWidgetPtr widget = CHmiWidget::CurWidgetClass->CreateObject();
     if (!widget)
         return;
     CCanvasSelection& selection = host.Selection();
     CHmiView& view = selection.View();
-    const HmiPoint topLeft = view.ClientToDoc({clientRect.left, clientRect.top});
-    const HmiPoint bottomRight = view.ClientToDoc({clientRect.right, clientRect.bottom});
-    HmiRect rect{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
     if (IsWindowWidget(*widget)) {
         // A placed window keeps its position on the panel and takes the dragged corner as its
         // size; its bottom is taken from the dragged top, as panels have always read it.
@@ -239,6 +302,7 @@ void CCanvasTools::DoubleClick(CCanvasToolHost& host, HmiPoint point, MouseFlags
 void CCanvasTools::Cancel(CCanvasToolHost& host)
 {
     host.ShowDragFeedback({});
+    host.ShowSnapGuides({});
     if (m_capturing)
         host.SetMouseCapture(false);
     m_capturing = false;

@@ -143,12 +143,13 @@ void MoveWidgetToBottom(CTamloDoc& document, const std::vector<CHmiWidget*>& sel
         document.MoveWidget(selection.front(), 1);
 }
 
-bool NudgeWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, NudgeKey key, bool resize)
+bool NudgeWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, NudgeKey key, bool resize,
+                  std::int32_t distance)
 {
     if (selection.empty())
         return false;
-    const std::int32_t dx = key == NudgeKey::Left ? -1 : key == NudgeKey::Right ? 1 : 0;
-    const std::int32_t dy = key == NudgeKey::Up ? -1 : key == NudgeKey::Down ? 1 : 0;
+    const std::int32_t dx = key == NudgeKey::Left ? -distance : key == NudgeKey::Right ? distance : 0;
+    const std::int32_t dy = key == NudgeKey::Up ? -distance : key == NudgeKey::Down ? distance : 0;
     CUndoStepGuard step(document);
     for (CHmiWidget* widget : selection) {
         step.Record(UndoOperation::Changed, widget);

@@ -37,6 +37,7 @@ void ZoomWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection,
 // widget (the window's background). Not undoable.
 void MoveWidgetToTop(CTamloDoc& document, const std::vector<CHmiWidget*>& selection);
 void MoveWidgetToBottom(CTamloDoc& document, const std::vector<CHmiWidget*>& selection);
-// Moves the selection by one pixel, or with resize set grows or shrinks its right or bottom edge.
-// Returns false when there is nothing to move.
-bool NudgeWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, NudgeKey key, bool resize);
+// Moves the selection by distance pixels, or with resize set grows or shrinks its right or bottom
+// edge. Returns false when there is nothing to move.
+bool NudgeWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& selection, NudgeKey key, bool resize,
+                  std::int32_t distance = 1);

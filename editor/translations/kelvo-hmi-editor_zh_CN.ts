@@ -406,6 +406,33 @@ Move to Bottom</source>
     </message>
 </context>
 <context>
+    <name>CLayoutAidToggles</name>
+    <message>
+        <source>Show &amp;Grid</source>
+        <translation>显示网格(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Show or hide the grid on the canvas</source>
+        <translation>显示或隐藏画布上的网格</translation>
+    </message>
+    <message>
+        <source>Snap to G&amp;rid</source>
+        <translation>吸附到网格(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Snap moved, resized and placed widgets to the grid; hold Alt to place freely</source>
+        <translation>移动、缩放和放置的控件吸附到网格；按住 Alt 可自由放置</translation>
+    </message>
+    <message>
+        <source>Snap to &amp;Widgets</source>
+        <translation>吸附到控件(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Snap to the edges and centres of other widgets and of the window, and to equal gaps; hold Alt to place freely</source>
+        <translation>吸附到其他控件和画面的边缘与中心线，以及相等的间距；按住 Alt 可自由放置</translation>
+    </message>
+</context>
+<context>
     <name>CMainFrame</name>
     <message>
         <source>Ready</source>

@@ -483,8 +483,15 @@ private slots:
         gradient->SetWidgetRect({-300, 40, 900, 700});
         gradient->m_nDirection = 44;
         document->AddWidget(HmiWidgetPtr(gradient.release()), true);
-        AddRect(*document, {150, -20, 2000, 130});
-        view->Selection().Deselect(document->GetWindowWidget());
+        CHmiWidget* wide = AddRect(*document, {150, -20, 2000, 130});
+        // A band over the whole canvas keeps a drawing of it, which must follow the edits after.
+        QTest::mousePress(view, Qt::LeftButton, {}, QPoint(1030, 774));
+        QTest::mouseMove(view, QPoint(1, 1));
+        LetTheCanvasPaint();
+        QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(1, 1));
+        view->Selection().Select(wide, false);
+        Press(Qt::Key_Right);
+        view->Selection().Deselect(wide);
         CHmiImageDC rendered(1024, 768);
         DrawWindow(*document, rendered);
         for (const QRect& area : {QRect(0, 0, 1024, 768), QRect(130, 90, 210, 160)}) {
@@ -523,6 +530,38 @@ private slots:
                 if (((before.pixel(x, y) ^ during.pixel(x, y)) & 0xFFFFFF) != inverted)
                     QFAIL(qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
             }
+    }
+
+    // The View menu's toggles keep the preferences and reach the canvas: a held drag shows its
+    // guide in magenta until the release; Alt at the release places freely; Ctrl+arrow moves by
+    // a grid step in one undo step; the grid shows as dots on grid crossings only.
+    void snappingFromTheViewMenu()
+    {
+        CHmiWidget* a = AddRect(*document, {100, 100, 140, 130});
+        AddRect(*document, {203, 200, 243, 230});
+        const QImage withoutGrid = view->grab().toImage();
+        for (const char* name : {"actionShowGrid", "actionSnapToGrid", "actionSnapToWidgets"})
+            editor->frame.findChild<QAction*>(name)->trigger();
+        QVERIFY(child->Preferences().Get().snapToWidgets);
+        QCOMPARE(view->Aids(), (LayoutAids{true, 10, true, true}));
+
+        QTest::mousePress(view, Qt::LeftButton, {}, QPoint(110, 110));
+        QTest::mouseMove(view, QPoint(215, 110)); // a's left at 205, 2 from the other's
+        LetTheCanvasPaint();
+        QCOMPARE(view->grab().toImage().pixelColor(203, 160), QColor(Qt::magenta));
+        QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(215, 110));
+        QCOMPARE(RectOf(a), (HmiRect{203, 100, 243, 130}));
+        const QImage withGrid = view->grab().toImage();
+        QVERIFY(withGrid.pixelColor(203, 160) != QColor(Qt::magenta));
+        QVERIFY(withGrid.pixel(500, 500) != withoutGrid.pixel(500, 500));
+        QCOMPARE(withGrid.pixel(505, 505), withoutGrid.pixel(505, 505));
+
+        Drag(view, QPoint(210, 110), QPoint(213, 114), Qt::AltModifier);
+        QCOMPARE(RectOf(a), (HmiRect{206, 104, 246, 134}));
+        Press(Qt::Key_Right, Qt::ControlModifier);
+        Press(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(RectOf(a), (HmiRect{216, 104, 256, 144}));
+        QCOMPARE(document->UndoStep().size(), 1u);
     }
 
     // Window files with huge coordinates and counts: the canvas holds to the largest window

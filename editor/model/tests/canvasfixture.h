@@ -25,6 +25,8 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     void SetMouseCapture(bool capture) override { captured = capture; }
     void SetCanvasCursor(CanvasCursor value) override { cursor = value; }
     void ShowDragFeedback(std::vector<HmiRect> rects) override { feedback = std::move(rects); }
+    LayoutAids Aids() const override { return aids; }
+    void ShowSnapGuides(std::vector<SnapGuide> shown) override { guides = std::move(shown); }
 
     CHmiWidget* AddRect(const HmiRect& rect)
     {
@@ -39,13 +41,13 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     // Client points for window coordinates.
     HmiPoint Client(int x, int y) const { return view.DocToClient({x, y}); }
     void Press(int x, int y, MouseFlags flags = {}) { tools.ButtonDown(*this, Client(x, y), flags); }
-    void Move(int x, int y) { tools.MouseMove(*this, Client(x, y)); }
-    void Release(int x, int y) { tools.ButtonUp(*this, Client(x, y)); }
+    void Move(int x, int y, MouseFlags flags = {}) { tools.MouseMove(*this, Client(x, y), flags); }
+    void Release(int x, int y, MouseFlags flags = {}) { tools.ButtonUp(*this, Client(x, y), flags); }
     void Drag(int x0, int y0, int x1, int y1, MouseFlags flags = {})
     {
         Press(x0, y0, flags);
-        Move(x1, y1);
-        Release(x1, y1);
+        Move(x1, y1, flags);
+        Release(x1, y1, flags);
     }
     void Click(int x, int y, MouseFlags flags = {}) { Drag(x, y, x, y, flags); }
 
@@ -60,4 +62,6 @@ struct CanvasFixture : ::testing::Test, CCanvasToolHost {
     bool captured = false;
     CanvasCursor cursor = CanvasCursor::Arrow;
     std::vector<HmiRect> feedback;
+    LayoutAids aids;
+    std::vector<SnapGuide> guides;
 };
