@@ -9,7 +9,7 @@ packages=(
     qt6-base-dev libxml2-dev libgtest-dev qt6-tools-dev qt6-l10n-tools
     locales
     xvfb xauth x11-utils xdotool imagemagick fonts-dejavu-core
-    desktop-file-utils appstream
+    desktop-file-utils appstream dpkg-dev file
 )
 if [ "${1:-}" = "--editor" ]; then
     packages+=(qt6-translations-l10n fonts-wqy-microhei)
