@@ -1,0 +1,270 @@
+// The unlimited undo history driven as a user drives it: edits on the real canvas, panes and
+// menus, then Undo and Redo, the History dock and the preference that switches it on and off.
+#include "editorfixture.h"
+
+#include "editor/app/historydock.h"
+#include "editor/app/toolbox.h"
+#include "editor/model/undohistory.h"
+#include "editor/propertypane/propertypane.h"
+#include "editor/propertypane/propertypaneitem.h"
+#include "tests/support/registryscope.h"
+
+#include <QAction>
+#include <QMdiArea>
+#include <QUndoView>
+
+#include <functional>
+
+namespace {
+
+using Edit = std::function<void(QWidget* view, CMainFrame& frame, CTamloDoc& document)>;
+
+void Key(QWidget* view, int key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(view, Qt::Key(key), modifiers);
+}
+
+void Trigger(CMainFrame& frame, const QString& objectName)
+{
+    QAction* action = frame.findChild<QAction*>(objectName);
+    QVERIFY2(action, qPrintable(objectName));
+    action->trigger();
+}
+
+QStringList SelectedNames(CTamloView& view)
+{
+    QStringList names;
+    for (const CHmiWidget* widget : view.Selection().Widgets())
+        names << QString::fromStdString(widget->GetWidgetName());
+    return names;
+}
+
+// The window as its file would hold it, and what is selected on it.
+struct Snapshot {
+    std::string bytes;
+    QStringList selected;
+};
+
+Snapshot Take(CTamloView& view)
+{
+    return {view.Document().Serialize(), SelectedNames(view)};
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Edit)
+
+class UndoHistoryTest : public QObject {
+    Q_OBJECT
+
+private:
+    const CRegistryScope m_registry;
+    std::unique_ptr<EditorUnderTest> editor;
+    CChildFrame* child = nullptr;
+    CTamloView* view = nullptr;
+    CTamloDoc* document = nullptr;
+    CHmiWidget* a = nullptr; // rect at (10, 10, 50, 50), selected
+    CHmiWidget* b = nullptr; // rect at (100, 10, 140, 50)
+
+    QUndoStack& Stack() const { return child->History()->Stack(); }
+
+    void SetUndoHistory(CEditorPreferences::UndoHistory undoHistory)
+    {
+        CEditorPreferences::Values values = editor->frame.Preferences().Get();
+        values.undoHistory = undoHistory;
+        editor->frame.Preferences().Set(values);
+    }
+
+private slots:
+    void init()
+    {
+        editor = std::make_unique<EditorUnderTest>();
+        SetUndoHistory(CEditorPreferences::UndoHistory::Unlimited);
+        child = &editor->NewWindow();
+        view = &child->View();
+        document = &view->Document();
+        a = AddRect(*document, {10, 10, 50, 50});
+        b = AddRect(*document, {100, 10, 140, 50});
+        view->setFocus();
+        Click(view, QPoint(20, 20));
+        QCOMPARE(Stack().count(), 2); // the two widgets added
+    }
+
+    void cleanup() { editor.reset(); }
+
+    void everyKindOfEditIsUndoneAndRedone_data()
+    {
+        QTest::addColumn<bool>("withB"); // b is selected after a before the edit
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<QString>("text"); // {a} and {last} stand for those widgets' names
+        QTest::newRow("mouse move") << true << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Drag(view, QPoint(20, 20), QPoint(45, 60));
+        }) << "Move 2 widgets";
+        QTest::newRow("handle resize") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Drag(view, QPoint(50, 50), QPoint(70, 90));
+        }) << "Resize {a}";
+        QTest::newRow("placing") << false << Edit([](QWidget* view, CMainFrame& frame, CTamloDoc&) {
+            CToolbox& toolbox = frame.Toolbox();
+            const QListWidgetItem* rectangle = toolbox.findItems(QStringLiteral("Rectangle"), Qt::MatchExactly).first();
+            Click(toolbox.viewport(), toolbox.visualItemRect(rectangle).center());
+            Drag(view, QPoint(200, 200), QPoint(260, 250));
+            Key(view, Qt::Key_Escape);
+        }) << "Add {last}";
+        QTest::newRow("arrow key") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Key(view, Qt::Key_Down);
+        }) << "Move {a}";
+        QTest::newRow("shift arrow key") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Key(view, Qt::Key_Right, Qt::ShiftModifier);
+        }) << "Resize {a}";
+        QTest::newRow("align left") << true << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+            Trigger(frame, QStringLiteral("actionAlignLeft"));
+        }) << "Move {a}";
+        QTest::newRow("move to top") << false << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+            Trigger(frame, QStringLiteral("actionMoveToTop"));
+        }) << "Move to Top";
+        QTest::newRow("property pane") << false << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+            CPropertyPane& pane = frame.PropertyPane();
+            pane.FindItem("Name")->SetEditText("pump");
+            emit pane.itemChanged(pane.FindItem("Name"));
+        }) << "Change Name of pump";
+        // What the binding and event dialogs do once the user has confirmed.
+        QTest::newRow("binding") << false << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
+            CHmiWidget& widget = *document.Widgets()[1];
+            widget.AddWidgetDynProp("fillcolor", "$plc.level > 50");
+            document.WidgetChanged(widget, DocChange::Bindings);
+        }) << "Change bindings of {a}";
+        QTest::newRow("event") << false << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
+            CHmiWidget& widget = *document.Widgets()[1];
+            widget.SetWidgetEventCode(widget.GetEvents().front().name, "beep();");
+            document.WidgetChanged(widget, DocChange::Events);
+        }) << "Change events of {a}";
+        QTest::newRow("paste") << true << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Key(view, Qt::Key_C, Qt::ControlModifier);
+            Key(view, Qt::Key_V, Qt::ControlModifier);
+        }) << "Paste 2 widgets";
+        QTest::newRow("delete") << true << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Key(view, Qt::Key_Delete);
+        }) << "Delete 2 widgets";
+        QTest::newRow("cut") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+            Key(view, Qt::Key_X, Qt::ControlModifier);
+        }) << "Cut {a}";
+    }
+
+    // Each edit is one entry that says what was done; Undo puts the window and the selection
+    // back as they were before it, Redo as they were after it, through the keys.
+    void everyKindOfEditIsUndoneAndRedone()
+    {
+        QFETCH(bool, withB);
+        QFETCH(Edit, edit);
+        if (withB)
+            Click(view, QPoint(110, 20), Qt::ControlModifier);
+        QFETCH(QString, text);
+        const QString nameOfA = QString::fromStdString(a->GetWidgetName());
+        const QString nameOfB = QString::fromStdString(b->GetWidgetName());
+        const Snapshot before = Take(*view);
+        edit(view, editor->frame, *document);
+        QCoreApplication::processEvents();
+        const Snapshot after = Take(*view);
+        QVERIFY(after.bytes != before.bytes);
+        QCOMPARE(Stack().count(), 3);
+        text.replace(QStringLiteral("{a}"), nameOfA).replace(QStringLiteral("{b}"), nameOfB);
+        text.replace(QStringLiteral("{last}"), QString::fromStdString(document->Widgets().back()->GetWidgetName()));
+        QCOMPARE(Stack().text(2), text);
+
+        view->setFocus();
+        for (int round = 0; round < 2; ++round) {
+            Key(view, Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(Take(*view).bytes, before.bytes);
+            QCOMPARE(Take(*view).selected, before.selected);
+            Key(view, round == 0 ? Qt::Key_Y : Qt::Key_Z, round == 0 ? Qt::ControlModifier
+                                                                     : Qt::ControlModifier | Qt::ShiftModifier);
+            QCOMPARE(Take(*view).bytes, after.bytes);
+            QCOMPARE(Take(*view).selected, after.selected);
+        }
+        // The panes show the widget that is selected, which may be a new object standing in for
+        // the one edited.
+        QCOMPARE(editor->frame.PropertyPane().CurrentWidget(), view->Selection().Widgets().back());
+    }
+
+    // A deleted widget is out of the document's list, so nothing saves or draws it, and the
+    // history brings back the very same object where it stood.
+    void deletedWidgetsLiveInTheHistoryOutOfTheList()
+    {
+        Key(view, Qt::Key_Delete);
+        QCOMPARE(document->Widgets().size(), std::size_t(2));
+        QVERIFY(document->Serialize().find(a->GetWidgetName()) == std::string::npos);
+        Stack().undo();
+        QCOMPARE(document->Widgets()[1].get(), a);
+        QCOMPARE(view->Selection().Widgets(), std::vector<CHmiWidget*>{a});
+        Stack().redo();
+        QCOMPARE(document->Widgets().size(), std::size_t(2));
+        // Undoing the addition keeps it too; a new edit drops what could be redone, and with it
+        // the widget, for good.
+        Stack().setIndex(1);
+        QCOMPARE(document->Widgets().size(), std::size_t(2));
+        QCOMPARE(document->Widgets()[1].get(), a);
+        Key(view, Qt::Key_Right);
+        QCOMPARE(Stack().count(), 2);
+        QVERIFY(!Stack().canRedo());
+    }
+
+    // The modified mark follows the stack: saving makes the state clean, and undoing or redoing
+    // back to it clears the mark.
+    void theModifiedMarkFollowsTheSavedState()
+    {
+        editor->prompts.saveFileName = editor->folder.filePath(QStringLiteral("saved.xml"));
+        QVERIFY(child->Save());
+        QVERIFY(!document->IsModified());
+        Key(view, Qt::Key_Right);
+        QVERIFY(document->IsModified());
+        QVERIFY(child->isWindowModified());
+        Stack().undo();
+        QVERIFY(!document->IsModified());
+        QVERIFY(!child->isWindowModified());
+        Stack().undo();
+        QVERIFY(document->IsModified());
+        Stack().redo();
+        QVERIFY(!document->IsModified());
+    }
+
+    // The preference switches every open window: unlimited starts an empty history from the
+    // window as it stands (a widget the one step deleted is gone for good); one step drops the
+    // history and the widgets it kept, and leaves Undo nothing to take back.
+    void switchingThePreferenceWhileWindowsAreOpen()
+    {
+        Key(view, Qt::Key_Delete);
+        SetUndoHistory(CEditorPreferences::UndoHistory::OneStep);
+        QVERIFY(!child->History());
+        QVERIFY(!document->CanUndo());
+        Click(view, QPoint(110, 20));
+        Key(view, Qt::Key_Delete);
+        QVERIFY(document->IsWidgetDeleted(b));
+        SetUndoHistory(CEditorPreferences::UndoHistory::Unlimited);
+        QCOMPARE(document->Widgets().size(), std::size_t(1));
+        QCOMPARE(Stack().count(), 0);
+        QVERIFY(document->IsModified()); // the edits before are not saved
+    }
+
+    // The History dock lists the active window's entries; choosing an older one undoes up to it.
+    void theHistoryDockFollowsTheActiveWindow()
+    {
+        Key(view, Qt::Key_Right);
+        Key(view, Qt::Key_Down);
+        QUndoView& list = editor->frame.findChild<CHistoryDock*>()->View();
+        QCOMPARE(list.model()->rowCount(), 5); // the state before any edit, then four entries
+        list.setCurrentIndex(list.model()->index(2, 0));
+        QCOMPARE(a->GetWidgetRect(), (HmiRect{10, 10, 50, 50}));
+        QAction* redo = editor->frame.findChild<QAction*>(QStringLiteral("actionRedo"));
+        QVERIFY(redo->isVisible() && redo->isEnabled());
+        CChildFrame& other = editor->NewWindow();
+        QCOMPARE(list.model()->rowCount(), 1);
+        editor->frame.MdiArea().setActiveSubWindow(child);
+        QCOMPARE(list.model()->rowCount(), 5);
+        SetUndoHistory(CEditorPreferences::UndoHistory::OneStep);
+        QVERIFY(!redo->isVisible());
+        QVERIFY(!other.History());
+    }
+};
+
+QTEST_MAIN(UndoHistoryTest)
+#include "undohistory_test.moc"

@@ -1,0 +1,127 @@
+#include "historyentry.h"
+
+#include "undohistory.h"
+
+#include "base/textcodec.h"
+
+#include <QStringList>
+
+#include <set>
+#include <string_view>
+
+namespace {
+
+// "rect2" for one widget, "3 widgets" for more.
+QString Subject(const std::vector<const CHmiWidget*>& widgets)
+{
+    if (widgets.size() == 1)
+        return QString::fromStdString(Gb2312ToUtf8OrKeep(widgets.front()->GetWidgetName()));
+    return QStringLiteral("%1 widgets").arg(widgets.size());
+}
+
+// The names of the property lines in which two states of a widget differ.
+void AddChangedProperties(const WidgetState& before, const WidgetState& after, std::set<std::string>& names)
+{
+    if (!before.text || !after.text)
+        return;
+    const auto lines = [](std::string_view text) {
+        std::vector<std::string_view> result;
+        for (std::size_t start = 0; start < text.size();) {
+            const std::size_t end = std::min(text.find('\n', start), text.size());
+            result.push_back(text.substr(start, end - start));
+            start = end + 1;
+        }
+        return result;
+    };
+    const std::vector<std::string_view> old = lines(*before.text);
+    const std::vector<std::string_view> now = lines(*after.text);
+    constexpr std::string_view kPropertyName = "<property name=\"";
+    for (std::size_t i = 0; i < std::min(old.size(), now.size()); ++i) {
+        if (old[i] == now[i])
+            continue;
+        if (now[i].find("<widget name=") != std::string_view::npos) {
+            names.emplace("name"); // the widget's name stands in its element's first line
+            continue;
+        }
+        const std::size_t name = now[i].find(kPropertyName);
+        if (name == std::string_view::npos)
+            continue;
+        const std::size_t begin = name + kPropertyName.size();
+        names.emplace(now[i].substr(begin, now[i].find('"', begin) - begin));
+    }
+}
+
+// The label of the one property that the widgets changed, other than their rectangle; empty
+// when they changed none or several.
+QString ChangedPropertyLabel(const HistoryEntry& entry)
+{
+    std::set<std::string> names;
+    for (const HistoryWidgetChange& change : entry.widgets)
+        if (HasAny(change.what, DocChange::Properties))
+            AddChangedProperties(change.before, change.after, names);
+    if (names.size() > 1)
+        for (const char* geometry : {"left", "top", "right", "bottom", "width", "height"})
+            names.erase(geometry);
+    if (names.size() != 1)
+        return {};
+    const CHmiWidgetProp* prop = entry.widgets.front().slot->widget->FindProperty(*names.begin());
+    return QString::fromStdString(Gb2312ToUtf8OrKeep(prop ? prop->m_strLabel : *names.begin()));
+}
+
+QString Described(const HistoryEntry& entry)
+{
+    DocChange what = DocChange::None;
+    std::vector<const CHmiWidget*> widgets;
+    bool resized = false;
+    for (const HistoryWidgetChange& change : entry.widgets) {
+        what |= change.what;
+        widgets.push_back(change.slot->widget);
+        resized |= change.before.rect.Width() != change.after.rect.Width() ||
+                   change.before.rect.Height() != change.after.rect.Height();
+    }
+    if (HasAny(what, DocChange::Removed))
+        return QStringLiteral("Delete %1").arg(Subject(widgets));
+    if (HasAny(what, DocChange::Added))
+        return QStringLiteral("Add %1").arg(Subject(widgets));
+    if (widgets.empty()) // only the drawing order changed: one widget went to the top or the bottom
+        return entry.orderAfter.back() != entry.orderBefore.back() ? QStringLiteral("Move to Top")
+                                                                   : QStringLiteral("Move to Bottom");
+    if (HasAny(what, DocChange::Events))
+        return QStringLiteral("Change events of %1").arg(Subject(widgets));
+    if (HasAny(what, DocChange::Bindings))
+        return QStringLiteral("Change bindings of %1").arg(Subject(widgets));
+    if (HasAny(what, DocChange::Properties)) {
+        const QString label = ChangedPropertyLabel(entry);
+        return label.isEmpty() ? QStringLiteral("Change %1").arg(Subject(widgets))
+                               : QStringLiteral("Change %1 of %2").arg(label, Subject(widgets));
+    }
+    return (resized ? QStringLiteral("Resize %1") : QStringLiteral("Move %1")).arg(Subject(widgets));
+}
+
+} // namespace
+
+QString DescribeEntry(const HistoryEntry& entry, const QString& verb)
+{
+    const QString text = Described(entry);
+    if (verb.isEmpty())
+        return text;
+    // The subject stays: "Delete 2 widgets" cut is "Cut 2 widgets".
+    const qsizetype space = text.indexOf(QLatin1Char(' '));
+    return space < 0 ? verb : verb + text.mid(space);
+}
+
+CHistoryCommand::CHistoryCommand(CUndoHistory& history, HistoryEntry entry, const QString& text)
+    : QUndoCommand(text), m_history(history), m_entry(std::move(entry))
+{
+}
+
+void CHistoryCommand::undo()
+{
+    m_history.Apply(m_entry, CUndoHistory::Direction::Undo);
+}
+
+void CHistoryCommand::redo()
+{
+    if (!std::exchange(m_done, false))
+        m_history.Apply(m_entry, CUndoHistory::Direction::Redo);
+}
