@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <string_view>
 
@@ -51,21 +53,24 @@ void AddChangedProperties(const WidgetState& before, const WidgetState& after, s
     }
 }
 
-// The label of the one property that the widgets changed, other than their rectangle; empty
-// when they changed none or several.
-QString ChangedPropertyLabel(const HistoryEntry& entry)
+bool IsGeometryKey(const std::string& name)
 {
-    std::set<std::string> names;
-    for (const HistoryWidgetChange& change : entry.widgets)
-        if (HasAny(change.what, DocChange::Properties))
-            AddChangedProperties(change.before, change.after, names);
-    if (names.size() > 1)
-        for (const char* geometry : {"left", "top", "right", "bottom", "width", "height"})
-            names.erase(geometry);
-    if (names.size() != 1)
+    return name == "left" || name == "top" || name == "right" || name == "bottom" || name == "width" ||
+           name == "height";
+}
+
+// The label of the one property other than the rectangle that the widgets changed; empty when
+// they changed none or several.
+QString ChangedPropertyLabel(const HistoryEntry& entry, const std::set<std::string>& names)
+{
+    std::vector<std::string> others;
+    std::copy_if(names.begin(), names.end(), std::back_inserter(others), [](const std::string& name) {
+        return !IsGeometryKey(name);
+    });
+    if (others.size() != 1)
         return {};
-    const CHmiWidgetProp* prop = entry.widgets.front().slot->widget->FindProperty(*names.begin());
-    return QString::fromStdString(Gb2312ToUtf8OrKeep(prop ? prop->m_strLabel : *names.begin()));
+    const CHmiWidgetProp* prop = entry.widgets.front().slot->widget->FindProperty(others.front());
+    return QString::fromStdString(Gb2312ToUtf8OrKeep(prop ? prop->m_strLabel : others.front()));
 }
 
 QString Described(const HistoryEntry& entry)
@@ -90,8 +95,14 @@ QString Described(const HistoryEntry& entry)
         return QStringLiteral("Change events of %1").arg(Subject(widgets));
     if (HasAny(what, DocChange::Bindings))
         return QStringLiteral("Change bindings of %1").arg(Subject(widgets));
-    if (HasAny(what, DocChange::Properties)) {
-        const QString label = ChangedPropertyLabel(entry);
+    std::set<std::string> names;
+    for (const HistoryWidgetChange& change : entry.widgets)
+        if (HasAny(change.what, DocChange::Properties))
+            AddChangedProperties(change.before, change.after, names);
+    // A width typed in the pane is a resize, as a drag of a handle is.
+    const bool rectangleOnly = !names.empty() && std::all_of(names.begin(), names.end(), IsGeometryKey);
+    if (HasAny(what, DocChange::Properties) && !rectangleOnly) {
+        const QString label = ChangedPropertyLabel(entry, names);
         return label.isEmpty() ? QStringLiteral("Change %1").arg(Subject(widgets))
                                : QStringLiteral("Change %1 of %2").arg(label, Subject(widgets));
     }

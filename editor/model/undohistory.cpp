@@ -62,6 +62,8 @@ CUndoHistory::CUndoHistory(CTamloDoc& document, CCanvasSelection& selection)
     m_document.SetHistory(this);
     TakeSnapshot();
     SelectionChanged();
+    if (m_document.IsModified())
+        m_stack.resetClean(); // no entry leads back to what was saved
     // Undo and redo move the stack's index; the document is modified unless it is where it was
     // saved. A push needs no such care: the edit has marked the document already.
     m_followIndex = QObject::connect(&m_stack, &QUndoStack::indexChanged, [this] {

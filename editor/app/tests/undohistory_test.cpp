@@ -242,7 +242,9 @@ private slots:
         SetUndoHistory(CEditorPreferences::UndoHistory::Unlimited);
         QCOMPARE(document->Widgets().size(), std::size_t(1));
         QCOMPARE(Stack().count(), 0);
-        QVERIFY(document->IsModified()); // the edits before are not saved
+        Key(view, Qt::Key_Right);
+        Stack().undo();
+        QVERIFY(document->IsModified()); // the edits before the history are not saved
     }
 
     // The History dock lists the active window's entries; choosing an older one undoes up to it.
