@@ -11,14 +11,14 @@
 #include <QVBoxLayout>
 
 CHistoryDock::CHistoryDock(QWidget* parent)
-    : QDockWidget(QStringLiteral("History"), parent)
+    : QDockWidget(tr("History"), parent)
     , m_group(new QUndoGroup(this))
     , m_view(new QUndoView(m_group))
-    , m_oneStepNote(new QLabel(QStringLiteral("Undo takes back the last edit only. Choose an unlimited undo "
-                                              "history in Tools > Preferences to list every edit here.")))
+    , m_oneStepNote(new QLabel(tr("Undo takes back the last edit only. Choose an unlimited undo history in "
+                                  "Tools > Preferences to list every edit here.")))
 {
     setObjectName(QStringLiteral("historyDock"));
-    m_view->setEmptyLabel(QStringLiteral("<opened>"));
+    m_view->setEmptyLabel(tr("<opened>"));
     m_view->setCleanIcon(style()->standardIcon(QStyle::SP_DialogSaveButton)); // where it was saved
     m_oneStepNote->setWordWrap(true);
     m_oneStepNote->setMargin(6);

@@ -892,7 +892,7 @@ void CMainFrame::EditCut()
 {
     EditCopy();
     if (CChildFrame* child = ActiveChild(); child && child->History())
-        child->History()->NameNextEntry(QStringLiteral("Cut"));
+        child->History()->NameNextEntry(tr("Cut %1"));
     EditDelete();
 }
 
@@ -903,7 +903,7 @@ void CMainFrame::EditPaste()
     if (!view || !clipboard || !clipboard->hasFormat(kWidgetsMimeType))
         return;
     if (CUndoHistory* history = ActiveChild()->History())
-        history->NameNextEntry(QStringLiteral("Paste"));
+        history->NameNextEntry(tr("Paste %1"));
     const std::vector<CHmiWidget*> pasted =
         PasteWidgets(view->Document(), clipboard->data(kWidgetsMimeType).toStdString());
     if (!pasted.empty())

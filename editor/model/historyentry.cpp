@@ -4,7 +4,7 @@
 
 #include "base/textcodec.h"
 
-#include <QStringList>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <iterator>
@@ -12,14 +12,6 @@
 #include <string_view>
 
 namespace {
-
-// "rect2" for one widget, "3 widgets" for more.
-QString Subject(const std::vector<const CHmiWidget*>& widgets)
-{
-    if (widgets.size() == 1)
-        return QString::fromStdString(Gb2312ToUtf8OrKeep(widgets.front()->GetWidgetName()));
-    return QStringLiteral("%1 widgets").arg(widgets.size());
-}
 
 // The names of the property lines in which two states of a widget differ.
 void AddChangedProperties(const WidgetState& before, const WidgetState& after, std::set<std::string>& names)
@@ -73,7 +65,27 @@ QString ChangedPropertyLabel(const HistoryEntry& entry, const std::set<std::stri
     return QString::fromStdString(Gb2312ToUtf8OrKeep(prop ? prop->m_strLabel : others.front()));
 }
 
-QString Described(const HistoryEntry& entry)
+} // namespace
+
+// The texts of the entries, in the editor's language.
+class CEntryText {
+    Q_DECLARE_TR_FUNCTIONS(CEntryText)
+public:
+    static QString Of(const HistoryEntry& entry, const QString& verb);
+
+private:
+    // "rect2" for one widget, "3 widgets" for more.
+    static QString Subject(const std::vector<const CHmiWidget*>& widgets);
+};
+
+QString CEntryText::Subject(const std::vector<const CHmiWidget*>& widgets)
+{
+    if (widgets.size() == 1)
+        return QString::fromStdString(Gb2312ToUtf8OrKeep(widgets.front()->GetWidgetName()));
+    return tr("%n widgets", nullptr, int(widgets.size()));
+}
+
+QString CEntryText::Of(const HistoryEntry& entry, const QString& verb)
 {
     DocChange what = DocChange::None;
     std::vector<const CHmiWidget*> widgets;
@@ -84,17 +96,19 @@ QString Described(const HistoryEntry& entry)
         resized |= change.before.rect.Width() != change.after.rect.Width() ||
                    change.before.rect.Height() != change.after.rect.Height();
     }
+    const QString subject = Subject(widgets);
+    if (!verb.isEmpty())
+        return verb.arg(subject);
     if (HasAny(what, DocChange::Removed))
-        return QStringLiteral("Delete %1").arg(Subject(widgets));
+        return tr("Delete %1").arg(subject);
     if (HasAny(what, DocChange::Added))
-        return QStringLiteral("Add %1").arg(Subject(widgets));
+        return tr("Add %1").arg(subject);
     if (widgets.empty()) // only the drawing order changed: one widget went to the top or the bottom
-        return entry.orderAfter.back() != entry.orderBefore.back() ? QStringLiteral("Move to Top")
-                                                                   : QStringLiteral("Move to Bottom");
+        return entry.orderAfter.back() != entry.orderBefore.back() ? tr("Move to Top") : tr("Move to Bottom");
     if (HasAny(what, DocChange::Events))
-        return QStringLiteral("Change events of %1").arg(Subject(widgets));
+        return tr("Change events of %1").arg(subject);
     if (HasAny(what, DocChange::Bindings))
-        return QStringLiteral("Change bindings of %1").arg(Subject(widgets));
+        return tr("Change bindings of %1").arg(subject);
     std::set<std::string> names;
     for (const HistoryWidgetChange& change : entry.widgets)
         if (HasAny(change.what, DocChange::Properties))
@@ -103,22 +117,14 @@ QString Described(const HistoryEntry& entry)
     const bool rectangleOnly = !names.empty() && std::all_of(names.begin(), names.end(), IsGeometryKey);
     if (HasAny(what, DocChange::Properties) && !rectangleOnly) {
         const QString label = ChangedPropertyLabel(entry, names);
-        return label.isEmpty() ? QStringLiteral("Change %1").arg(Subject(widgets))
-                               : QStringLiteral("Change %1 of %2").arg(label, Subject(widgets));
+        return label.isEmpty() ? tr("Change %1").arg(subject) : tr("Change %1 of %2").arg(label, subject);
     }
-    return (resized ? QStringLiteral("Resize %1") : QStringLiteral("Move %1")).arg(Subject(widgets));
+    return resized ? tr("Resize %1").arg(subject) : tr("Move %1").arg(subject);
 }
-
-} // namespace
 
 QString DescribeEntry(const HistoryEntry& entry, const QString& verb)
 {
-    const QString text = Described(entry);
-    if (verb.isEmpty())
-        return text;
-    // The subject stays: "Delete 2 widgets" cut is "Cut 2 widgets".
-    const qsizetype space = text.indexOf(QLatin1Char(' '));
-    return space < 0 ? verb : verb + text.mid(space);
+    return CEntryText::Of(entry, verb);
 }
 
 CHistoryCommand::CHistoryCommand(CUndoHistory& history, HistoryEntry entry, const QString& text)

@@ -55,8 +55,8 @@ struct HistoryEntry {
 };
 
 // What the entry did, for the Edit menu and the History dock: "Move 3 widgets", "Change Fill
-// color of rect2", "Delete 2 widgets", "Move to Top". A verb given replaces the one the change
-// suggests ("Paste 4 widgets").
+// color of rect2", "Delete 2 widgets", "Move to Top". A verb given ("Paste %1") replaces the one
+// the change suggests; %1 stands for the widgets.
 QString DescribeEntry(const HistoryEntry& entry, const QString& verb = {});
 
 // An entry on the undo stack. It is pushed once its change has happened, so its first redo does

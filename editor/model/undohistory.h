@@ -30,8 +30,9 @@ public:
     CUndoHistory& operator=(const CUndoHistory&) = delete;
 
     QUndoStack& Stack() { return m_stack; }
-    // The entry of the command about to run is named with this verb instead of the one its
-    // change suggests. The name is forgotten once the command has run.
+    // The entry of the command about to run is named with this verb ("Paste %1", %1 standing for
+    // the widgets) instead of the one its change suggests. The name is forgotten once the
+    // command has run.
     void NameNextEntry(const QString& verb);
 
     // Called when the selection changed. A change the user made is the selection the next
