@@ -4,12 +4,15 @@
 
 #include "editor/app/historydock.h"
 #include "editor/app/toolbox.h"
+#include "editor/canvascontrols/controlkinds.h"
+#include "catalogue/hmiwidgetcontrols.h"
 #include "editor/model/undohistory.h"
 #include "editor/propertypane/propertypane.h"
 #include "editor/propertypane/propertypaneitem.h"
 #include "tests/support/registryscope.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QMdiArea>
 #include <QUndoView>
 
@@ -76,6 +79,8 @@ private:
     }
 
 private slots:
+    void initTestCase() { RegisterBuiltinCanvasControls(); }
+
     void init()
     {
         editor = std::make_unique<EditorUnderTest>();
@@ -206,6 +211,33 @@ private slots:
         Key(view, Qt::Key_Right);
         QCOMPARE(Stack().count(), 2);
         QVERIFY(!Stack().canRedo());
+    }
+
+    // A widget with a live control keeps its control while the history keeps it, and a new
+    // object put in its place by an undo gets one of its own: one control shows at any time.
+    void liveControlsFollowTheirWidgetsThroughTheHistory()
+    {
+        HmiWidgetPtr made(new CHmiWidgetCheckbox);
+        made->SetWidgetRect({200, 200, 300, 230});
+        document->AddWidget(std::move(made), true);
+        const auto shown = [this] {
+            int count = 0;
+            for (const QCheckBox* control : view->findChildren<QCheckBox*>())
+                count += control->isVisible();
+            return count;
+        };
+        QCOMPARE(shown(), 1);
+        Click(view, QPoint(290, 225));
+        Key(view, Qt::Key_Delete);
+        QCOMPARE(shown(), 0);
+        Stack().undo();
+        QCOMPARE(shown(), 1);
+        CPropertyPane& pane = editor->frame.PropertyPane();
+        pane.FindItem("Name")->SetEditText("check");
+        emit pane.itemChanged(pane.FindItem("Name"));
+        Stack().undo();
+        QCOMPARE(view->findChildren<QCheckBox*>().size(), qsizetype(1));
+        QCOMPARE(shown(), 1);
     }
 
     // The modified mark follows the stack: saving makes the state clean, and undoing or redoing
