@@ -45,6 +45,12 @@ std::unordered_map<const CHmiWidget*, std::size_t> Positions(const std::vector<C
     return positions;
 }
 
+std::size_t PositionOf(const std::unordered_map<const CHmiWidget*, std::size_t>& positions, const CHmiWidget* widget)
+{
+    const auto found = positions.find(widget);
+    return found == positions.end() ? 0 : found->second;
+}
+
 std::vector<CHmiWidget*> ListOf(const CTamloDoc& document)
 {
     std::vector<CHmiWidget*> widgets;
@@ -76,7 +82,7 @@ CUndoHistory::~CUndoHistory()
 {
     QObject::disconnect(m_followIndex);
     m_document.SetHistory(nullptr);
-    m_stack.clear(); // the entries go before the known' widgets they keep
+    m_stack.clear(); // the entries go before the widgets they keep
 }
 
 void CUndoHistory::SelectionChanged()
@@ -120,6 +126,7 @@ void CUndoHistory::DocumentChanged(const CDocumentChange& change)
     const auto telling = std::exchange(m_telling, true);
     if (change.Has(DocChange::Reloaded)) {
         m_openEntry = nullptr;
+        m_userSelection.clear();
         m_stack.clear();
         TakeSnapshot();
     } else if (change.Has(kEdits)) {
@@ -161,12 +168,12 @@ HistoryEntry CUndoHistory::Observe(const CDocumentChange& change)
                 slot = m_slots.emplace(told.widget, std::make_shared<WidgetSlot>()).first->second;
             slot->widget = told.widget;
             slot->seen = StateOf(*told.widget);
-            entry.widgets.push_back({slot, DocChange::Added, {}, {}, after.at(told.widget)});
+            entry.widgets.push_back({slot, DocChange::Added, {}, {}, PositionOf(after, told.widget)});
         } else if (!slot || told.what == DocChange::Order) {
             continue; // a widget replaced by the history, or one that only moved in the order
         } else if (removed) {
             // The slot stays with the widget until the document hands the widget over.
-            entry.widgets.push_back({slot, DocChange::Removed, {}, {}, before.at(told.widget)});
+            entry.widgets.push_back({slot, DocChange::Removed, {}, {}, PositionOf(before, told.widget)});
         } else {
             HistoryWidgetChange widget{slot, told.what, slot->seen, {}, 0};
             widget.after = widget.IsGeometryOnly() ? WidgetState{slot->seen.text, told.widget->GetWidgetRect()}
@@ -255,10 +262,10 @@ void CUndoHistory::Restore(HistoryWidgetChange& change, const WidgetState& state
     m_document.ReplaceWidget(widget, std::move(replacement));
 }
 
-void CUndoHistory::Select(const std::vector<WidgetSlotPtr>& known)
+void CUndoHistory::Select(const std::vector<WidgetSlotPtr>& chosen)
 {
     std::vector<CHmiWidget*> widgets;
-    for (const WidgetSlotPtr& slot : known)
+    for (const WidgetSlotPtr& slot : chosen)
         if (m_slots.contains(slot->widget) && !IsWindowWidget(*slot->widget))
             widgets.push_back(slot->widget);
     if (widgets.empty())

@@ -60,7 +60,7 @@ private:
     void CloseLastEntry();
     // Puts a widget in a state: in place for a move or a resize, else as a new object.
     void Restore(HistoryWidgetChange& change, const WidgetState& state);
-    void Select(const std::vector<WidgetSlotPtr>& known);
+    void Select(const std::vector<WidgetSlotPtr>& chosen);
 
     CTamloDoc& m_document;
     CCanvasSelection& m_selection;
