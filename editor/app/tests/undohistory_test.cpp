@@ -4,6 +4,7 @@
 
 #include "editor/app/historydock.h"
 #include "editor/app/toolbox.h"
+#include "editor/app/widgetnamecombo.h"
 #include "editor/canvascontrols/controlkinds.h"
 #include "catalogue/hmiwidgetcontrols.h"
 #include "editor/model/undohistory.h"
@@ -189,6 +190,9 @@ private slots:
         // The panes show the widget that is selected, which may be a new object standing in for
         // the one edited.
         QCOMPARE(editor->frame.PropertyPane().CurrentWidget(), view->Selection().Widgets().back());
+        CWidgetNameCombo& names = editor->frame.NameCombo();
+        QCOMPARE(names.currentText(), Take(*view).selected.back());
+        QCOMPARE(std::size_t(names.count()), document->Widgets().size());
     }
 
     // A deleted widget is out of the document's list, so nothing saves or draws it, and the
