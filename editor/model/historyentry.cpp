@@ -103,8 +103,10 @@ QString CEntryText::Of(const HistoryEntry& entry, const QString& verb)
         return tr("Delete %1").arg(subject);
     if (HasAny(what, DocChange::Added))
         return tr("Add %1").arg(subject);
-    if (widgets.empty()) // only the drawing order changed: one widget went to the top or the bottom
-        return entry.orderAfter.back() != entry.orderBefore.back() ? tr("Move to Top") : tr("Move to Bottom");
+    if (widgets.empty()) { // only the drawing order changed: a widget went to the top or the bottom
+        const bool toTop = entry.reordered.size() == 1 && entry.reordered.front() == entry.orderAfter.back();
+        return toTop ? tr("Move to Top") : tr("Move to Bottom");
+    }
     if (HasAny(what, DocChange::Events))
         return tr("Change events of %1").arg(subject);
     if (HasAny(what, DocChange::Bindings))

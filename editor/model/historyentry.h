@@ -50,6 +50,7 @@ struct HistoryEntry {
     std::vector<HistoryWidgetChange> widgets; // added, removed and changed widgets
     std::vector<WidgetSlotPtr> orderBefore;   // the whole drawing order, when it changed
     std::vector<WidgetSlotPtr> orderAfter;
+    std::vector<WidgetSlotPtr> reordered; // the widgets told as moved in the order
     std::vector<WidgetSlotPtr> selectionBefore;
     std::vector<WidgetSlotPtr> selectionAfter;
 };

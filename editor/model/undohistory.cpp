@@ -169,8 +169,10 @@ HistoryEntry CUndoHistory::Observe(const CDocumentChange& change)
             slot->widget = told.widget;
             slot->seen = StateOf(*told.widget);
             entry.widgets.push_back({slot, DocChange::Added, {}, {}, PositionOf(after, told.widget)});
-        } else if (!slot || told.what == DocChange::Order) {
-            continue; // a widget replaced by the history, or one that only moved in the order
+        } else if (!slot) {
+            continue; // a widget replaced by the history
+        } else if (told.what == DocChange::Order) {
+            entry.reordered.push_back(slot);
         } else if (removed) {
             // The slot stays with the widget until the document hands the widget over.
             entry.widgets.push_back({slot, DocChange::Removed, {}, {}, PositionOf(before, told.widget)});

@@ -100,58 +100,61 @@ private slots:
 
     void everyKindOfEditIsUndoneAndRedone_data()
     {
-        QTest::addColumn<bool>("withB"); // b is selected after a before the edit
+        QTest::addColumn<QString>("selected"); // before the edit: a, a then b, or b
         QTest::addColumn<Edit>("edit");
         QTest::addColumn<QString>("text"); // {a} and {last} stand for those widgets' names
-        QTest::newRow("mouse move") << true << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("mouse move") << QString("ab") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Drag(view, QPoint(20, 20), QPoint(45, 60));
         }) << "Move 2 widgets";
-        QTest::newRow("handle resize") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("handle resize") << QString("a") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Drag(view, QPoint(50, 50), QPoint(70, 90));
         }) << "Resize {a}";
-        QTest::newRow("placing") << false << Edit([](QWidget* view, CMainFrame& frame, CTamloDoc&) {
+        QTest::newRow("placing") << QString("a") << Edit([](QWidget* view, CMainFrame& frame, CTamloDoc&) {
             CToolbox& toolbox = frame.Toolbox();
             const QListWidgetItem* rectangle = toolbox.findItems(QStringLiteral("Rectangle"), Qt::MatchExactly).first();
             Click(toolbox.viewport(), toolbox.visualItemRect(rectangle).center());
             Drag(view, QPoint(200, 200), QPoint(260, 250));
             Key(view, Qt::Key_Escape);
         }) << "Add {last}";
-        QTest::newRow("arrow key") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("arrow key") << QString("a") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Key(view, Qt::Key_Down);
         }) << "Move {a}";
-        QTest::newRow("shift arrow key") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("shift arrow key") << QString("a") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Key(view, Qt::Key_Right, Qt::ShiftModifier);
         }) << "Resize {a}";
-        QTest::newRow("align left") << true << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+        QTest::newRow("align left") << QString("ab") << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
             Trigger(frame, QStringLiteral("actionAlignLeft"));
         }) << "Move {a}";
-        QTest::newRow("move to top") << false << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+        QTest::newRow("move to top") << QString("a") << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
             Trigger(frame, QStringLiteral("actionMoveToTop"));
         }) << "Move to Top";
-        QTest::newRow("property pane") << false << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+        QTest::newRow("move to bottom") << QString("b") << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+            Trigger(frame, QStringLiteral("actionMoveToBottom"));
+        }) << "Move to Bottom";
+        QTest::newRow("property pane") << QString("a") << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
             CPropertyPane& pane = frame.PropertyPane();
             pane.FindItem("Name")->SetEditText("pump");
             emit pane.itemChanged(pane.FindItem("Name"));
         }) << "Change Name of pump";
         // What the binding and event dialogs do once the user has confirmed.
-        QTest::newRow("binding") << false << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
+        QTest::newRow("binding") << QString("a") << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
             CHmiWidget& widget = *document.Widgets()[1];
             widget.AddWidgetDynProp("fillcolor", "$plc.level > 50");
             document.WidgetChanged(widget, DocChange::Bindings);
         }) << "Change bindings of {a}";
-        QTest::newRow("event") << false << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
+        QTest::newRow("event") << QString("a") << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
             CHmiWidget& widget = *document.Widgets()[1];
             widget.SetWidgetEventCode(widget.GetEvents().front().name, "beep();");
             document.WidgetChanged(widget, DocChange::Events);
         }) << "Change events of {a}";
-        QTest::newRow("paste") << true << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("paste") << QString("ab") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Key(view, Qt::Key_C, Qt::ControlModifier);
             Key(view, Qt::Key_V, Qt::ControlModifier);
         }) << "Paste 2 widgets";
-        QTest::newRow("delete") << true << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("delete") << QString("ab") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Key(view, Qt::Key_Delete);
         }) << "Delete 2 widgets";
-        QTest::newRow("cut") << false << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
+        QTest::newRow("cut") << QString("a") << Edit([](QWidget* view, CMainFrame&, CTamloDoc&) {
             Key(view, Qt::Key_X, Qt::ControlModifier);
         }) << "Cut {a}";
     }
@@ -160,10 +163,10 @@ private slots:
     // back as they were before it, Redo as they were after it, through the keys.
     void everyKindOfEditIsUndoneAndRedone()
     {
-        QFETCH(bool, withB);
+        QFETCH(QString, selected);
         QFETCH(Edit, edit);
-        if (withB)
-            Click(view, QPoint(110, 20), Qt::ControlModifier);
+        if (selected.contains(QLatin1Char('b')))
+            Click(view, QPoint(110, 20), selected == QStringLiteral("ab") ? Qt::ControlModifier : Qt::NoModifier);
         QFETCH(QString, text);
         const QString nameOfA = QString::fromStdString(a->GetWidgetName());
         const QString nameOfB = QString::fromStdString(b->GetWidgetName());
