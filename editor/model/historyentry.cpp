@@ -2,6 +2,8 @@
 
 #include "undohistory.h"
 
+#include "editor/translations/coretexts.h"
+
 #include "base/textcodec.h"
 
 #include <QCoreApplication>
@@ -62,7 +64,8 @@ QString ChangedPropertyLabel(const HistoryEntry& entry, const std::set<std::stri
     if (others.size() != 1)
         return {};
     const CHmiWidgetProp* prop = entry.widgets.front().slot->widget->FindProperty(others.front());
-    return QString::fromStdString(Gb2312ToUtf8OrKeep(prop ? prop->m_strLabel : others.front()));
+    return prop ? TranslateCoreText(CoreTextContext::kProperty, prop->m_strLabel)
+                : QString::fromStdString(Gb2312ToUtf8OrKeep(others.front()));
 }
 
 } // namespace
