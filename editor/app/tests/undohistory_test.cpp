@@ -136,6 +136,12 @@ private slots:
             pane.FindItem("Name")->SetEditText("pump");
             emit pane.itemChanged(pane.FindItem("Name"));
         }) << "Change Name of pump";
+        QTest::newRow("pane, two widgets") << QString("ab") << Edit([](QWidget*, CMainFrame& frame, CTamloDoc&) {
+            CPropertyPane& pane = frame.PropertyPane();
+            QTRY_VERIFY(pane.FindItem("Flash speed"));
+            pane.FindItem("Flash speed")->SetEditText("3");
+            emit pane.itemChanged(pane.FindItem("Flash speed"));
+        }) << "Change Flash speed of 2 widgets";
         // What the binding and event dialogs do once the user has confirmed.
         QTest::newRow("binding") << QString("a") << Edit([](QWidget*, CMainFrame&, CTamloDoc& document) {
             CHmiWidget& widget = *document.Widgets()[1];
@@ -192,7 +198,7 @@ private slots:
         }
         // The panes show the widget that is selected, which may be a new object standing in for
         // the one edited.
-        QCOMPARE(editor->frame.PropertyPane().CurrentWidget(), view->Selection().Widgets().back());
+        QCOMPARE(editor->frame.PropertyPane().Widgets(), view->Selection().Widgets());
         CWidgetNameCombo& names = editor->frame.NameCombo();
         QCOMPARE(names.currentText(), Take(*view).selected.back());
         QCOMPARE(std::size_t(names.count()), document->Widgets().size());
