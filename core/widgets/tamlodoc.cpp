@@ -8,21 +8,16 @@
 #include <filesystem>
 #include <utility>
 
-// Collects the changes of one operation, such as a load or an Undo, and tells them as one.
-class CTamloDoc::CChangeBatch {
-public:
-    explicit CChangeBatch(CTamloDoc& document) : m_document(document) { ++m_document.m_nBatchDepth; }
-    ~CChangeBatch()
-    {
-        --m_document.m_nBatchDepth;
-        m_document.SendChange();
-    }
-    CChangeBatch(const CChangeBatch&) = delete;
-    CChangeBatch& operator=(const CChangeBatch&) = delete;
+CTamloDoc::CChangeBatch::CChangeBatch(CTamloDoc& document) : m_document(document)
+{
+    ++m_document.m_nBatchDepth;
+}
 
-private:
-    CTamloDoc& m_document;
-};
+CTamloDoc::CChangeBatch::~CChangeBatch()
+{
+    --m_document.m_nBatchDepth;
+    m_document.SendChange();
+}
 
 int& CTamloDoc::WidgetNameCounter()
 {
@@ -81,13 +76,23 @@ void CTamloDoc::SendChange()
     if (m_change.what != DocChange::None) {
         const CDocumentChange change = std::exchange(m_change, {});
         m_changeIndex.clear();
+        if (m_history)
+            m_history->DocumentChanged(change);
         // An observer may go or come while another one is told.
         const std::vector<CDocumentObserver*> observers = m_observers;
         for (CDocumentObserver* observer : observers)
             if (std::find(m_observers.begin(), m_observers.end(), observer) != m_observers.end())
                 observer->DocumentChanged(change);
     }
-    m_removedWidgets.clear();
+    for (HmiWidgetPtr& removed : std::exchange(m_removedWidgets, {}))
+        if (m_history)
+            m_history->KeepRemovedWidget(std::move(removed));
+}
+
+void CTamloDoc::SetHistory(CDocumentHistory* history)
+{
+    DestroyDeletedWidgets();
+    m_history = history;
 }
 
 void CTamloDoc::ResetChange(DocChange what)
@@ -227,6 +232,8 @@ void CTamloDoc::RecordUndo(UndoOperation operation, CHmiWidget* widget)
 {
     if (!m_bUndoStepOpen || !widget)
         return;
+    if (operation == UndoOperation::Deleted && m_history)
+        return RemoveWidget(widget); // it leaves for the history at once
     m_undoStep.push_back({operation, widget->GetWidgetRect(), widget});
     if (operation == UndoOperation::Deleted) {
         m_deletedWidgets.insert(widget);
@@ -243,6 +250,8 @@ void CTamloDoc::EndUndoStep()
     if (changed)
         SetModifiedFlag();
     m_bUndoStepOpen = false;
+    if (m_history)
+        ClearUndoStep(); // the history undoes the step
     SendChange();
 }
 
@@ -297,6 +306,56 @@ bool CTamloDoc::MoveWidget(CHmiWidget* widget, std::size_t index)
     m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(moved));
     ListChanged();
     Record(*widget, DocChange::Order);
+    SetModifiedFlag();
+    return true;
+}
+
+void CTamloDoc::PutBackWidget(HmiWidgetPtr widget, std::size_t index)
+{
+    if (!widget)
+        return;
+    CChangeBatch batch(*this);
+    CHmiWidget& back = *widget;
+    m_widgets.insert(m_widgets.begin() + std::ptrdiff_t(std::min(index, m_widgets.size())), std::move(widget));
+    ListChanged();
+    Record(back, DocChange::Added);
+    SetModifiedFlag();
+}
+
+bool CTamloDoc::ReplaceWidget(CHmiWidget* widget, HmiWidgetPtr replacement)
+{
+    const auto found = std::find_if(m_widgets.begin(), m_widgets.end(),
+                                    [widget](const HmiWidgetPtr& w) { return w.get() == widget; });
+    if (found == m_widgets.end() || !replacement)
+        return false;
+    CChangeBatch batch(*this);
+    const std::size_t index = std::size_t(found - m_widgets.begin());
+    RemoveWidget(widget);
+    replacement->m_pDocument = this;
+    PutBackWidget(std::move(replacement), index);
+    return true;
+}
+
+bool CTamloDoc::RestoreOrder(const std::vector<CHmiWidget*>& order)
+{
+    if (order.size() != m_widgets.size())
+        return false;
+    std::unordered_map<const CHmiWidget*, std::size_t> index;
+    for (std::size_t i = 0; i < m_widgets.size(); ++i)
+        index.emplace(m_widgets[i].get(), i);
+    if (!std::all_of(order.begin(), order.end(), [&index](const CHmiWidget* w) { return index.contains(w); }) ||
+        std::unordered_set<const CHmiWidget*>(order.begin(), order.end()).size() != order.size())
+        return false;
+    CChangeBatch batch(*this);
+    std::deque<HmiWidgetPtr> reordered;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const std::size_t from = index.at(order[i]);
+        reordered.push_back(std::move(m_widgets[from]));
+        if (from != i)
+            Record(*order[i], DocChange::Order);
+    }
+    m_widgets = std::move(reordered);
+    ListChanged();
     SetModifiedFlag();
     return true;
 }

@@ -19,6 +19,15 @@
 class CHmiView;
 class CTamloDoc;
 
+// The undo history of a document, when the editor keeps more than one step. It hears of each
+// change before the observers do, so that it sees the editor as the command left it (a deleted
+// widget still selected, say), and it takes over every widget that leaves the document, which
+// it may bring back later.
+class CDocumentHistory : public CDocumentObserver {
+public:
+    virtual void KeepRemovedWidget(HmiWidgetPtr widget) = 0;
+};
+
 // The names a document's widgets have at one moment, so that naming many new widgets at once,
 // as a paste does, asks a set instead of every widget.
 class CWidgetNames {
@@ -36,6 +45,18 @@ private:
 // of every change (documentchange.h), so that each view refreshes only what changed.
 class CTamloDoc {
 public:
+    // Collects the changes of one operation, such as a load or an Undo, and tells them as one.
+    class CChangeBatch {
+    public:
+        explicit CChangeBatch(CTamloDoc& document);
+        ~CChangeBatch();
+        CChangeBatch(const CChangeBatch&) = delete;
+        CChangeBatch& operator=(const CChangeBatch&) = delete;
+
+    private:
+        CTamloDoc& m_document;
+    };
+
     CTamloDoc() : m_grid(*this) {}
     CTamloDoc(const CTamloDoc&) = delete;
     CTamloDoc& operator=(const CTamloDoc&) = delete;
@@ -55,6 +76,15 @@ public:
     // Takes the widget out of the list and puts it back at an index of the shortened list (the
     // end at most). False when the widget is not in the list.
     bool MoveWidget(CHmiWidget* widget, std::size_t index);
+    // Puts a widget that left the document back at an index of the list (the end at most), as
+    // it was: it is neither initialised nor named again.
+    void PutBackWidget(HmiWidgetPtr widget, std::size_t index);
+    // Puts an initialised replacement where the widget stands; the widget leaves the document.
+    // False when the widget is not in the list.
+    bool ReplaceWidget(CHmiWidget* widget, HmiWidgetPtr replacement);
+    // Puts the widgets in this drawing order. False, changing nothing, unless the order holds
+    // exactly the document's widgets.
+    bool RestoreOrder(const std::vector<CHmiWidget*>& order);
     bool HasWidgetName(std::string_view name) const;
     const std::deque<HmiWidgetPtr>& Widgets() const { return m_widgets; }
     // The first widget whose class key is "window", or null.
@@ -106,6 +136,12 @@ public:
     // changed since the observer last looked. Saving leaves it as it is.
     std::uint64_t Revision() const { return m_nRevision; }
 
+    // Gives the document an undo history (null: none). With one, the document keeps no undo step
+    // of its own: a widget recorded as deleted leaves the list at once, and every widget that
+    // leaves the list goes to the history once the observers have heard of it. Setting it ends
+    // the document's own step, destroying the widgets that step deleted.
+    void SetHistory(CDocumentHistory* history);
+
     // The one-step undo record. Beginning a step discards the previous one, destroying for good
     // the widgets it deleted. A deleted widget stays in the list until then, so that Undo can
     // bring it back, but it is neither drawn, hit nor saved.
@@ -120,6 +156,9 @@ public:
     bool CanUndo() const { return !m_undoStep.empty(); }
     bool IsWidgetDeleted(const CHmiWidget* widget) const;
     const std::vector<HmiUndoEntry>& UndoStep() const { return m_undoStep; }
+    // True while an undo step or a batch is open: a command is under way, and its changes are
+    // told together when it closes.
+    bool IsCollecting() const { return m_bUndoStepOpen || m_nBatchDepth > 0; }
 
     // The topmost widget under a point, skipping deleted ones and the window widget, which is
     // the background of the canvas.
@@ -136,8 +175,6 @@ public:
     static int& WidgetNameCounter();
 
 private:
-    class CChangeBatch;
-
     // The widgets that are not deleted, written in drawing order.
     CWindowFileWriter WriteWidgets() const;
     void DeleteContents();
@@ -148,7 +185,6 @@ private:
     // Adds to the change being collected, and tells it unless more is to come.
     void Record(CHmiWidget& widget, DocChange what, const HmiRect& rectBefore);
     void Record(CHmiWidget& widget, DocChange what);
-    bool IsCollecting() const { return m_bUndoStepOpen || m_nBatchDepth > 0; }
     // Tells the observers the change collected so far, unless an undo step or a batch is open.
     void SendChange();
     // Starts collecting the next change.
@@ -180,6 +216,7 @@ private:
     mutable CHmiWidget* m_windowWidget = nullptr; // GetWindowWidget's answer while m_windowKnown
     mutable bool m_windowKnown = false;
     mutable CWidgetGrid m_grid; // where the widgets that can be hit stand
-    std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed once told
+    std::vector<HmiWidgetPtr> m_removedWidgets; // out of the list, destroyed or kept once told
+    CDocumentHistory* m_history = nullptr;
     mutable std::size_t m_nLastTextSize = 0;    // of the window file last read or written
 };

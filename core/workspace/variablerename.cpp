@@ -86,6 +86,7 @@ std::vector<ReferenceChange> RenameReference(CTamloDoc& document, const std::str
                                              std::string_view to)
 {
     std::vector<ReferenceChange> changes;
+    const CTamloDoc::CChangeBatch batch(document); // the window's observers hear of one rename
     for (const HmiWidgetPtr& widget : document.Widgets()) {
         if (document.IsWidgetDeleted(widget.get()))
             continue;

@@ -6,6 +6,8 @@
 #include "tamloview.h"
 
 #include "editor/model/editorsession.h"
+#include "editor/model/undohistory.h"
+#include "editor/preferences/editorpreferences.h"
 
 #include "widgets/tamlodoc.h"
 
@@ -66,13 +68,30 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
             [this] { m_view->SetLayoutAids(LayoutAidsOf(m_preferences.Get())); });
     RefreshTitle();
     m_document->AddObserver(this);
+    FollowUndoPreference();
+    connect(&m_preferences, &CEditorPreferences::changed, this, &CChildFrame::FollowUndoPreference);
+    connect(m_view, &CTamloView::selectionChanged, this, [this] {
+        if (m_history)
+            m_history->SelectionChanged();
+    });
 }
 
-// The view goes before the document it shows.
+// The history goes first, with the widgets it kept, while the canvas that shows their live
+// controls is there; then the view goes before the document it shows.
 CChildFrame::~CChildFrame()
 {
+    m_history.reset();
     m_document->RemoveObserver(this);
     delete widget();
+}
+
+void CChildFrame::FollowUndoPreference()
+{
+    const bool unlimited = m_preferences.Get().undoHistory == CEditorPreferences::UndoHistory::Unlimited;
+    if (unlimited == (m_history != nullptr))
+        return;
+    m_history = unlimited ? std::make_unique<CUndoHistory>(*m_document, m_view->Selection()) : nullptr;
+    emit historyChanged();
 }
 
 void CChildFrame::DocumentChanged(const CDocumentChange& change)

@@ -14,6 +14,7 @@ class CEditorSession;
 class CTamloDoc;
 class CEditorPreferences;
 class CTamloView;
+class CUndoHistory;
 class QLabel;
 
 // The child window of one open HMI window: owns the document and shows its canvas in a
@@ -30,6 +31,10 @@ public:
     CTamloDoc& Document() const { return *m_document; }
     CTamloView& View() const { return *m_view; }
     CEditorPreferences& Preferences() const { return m_preferences; }
+    // The document's unlimited undo history while the preferences ask for one, else null (the
+    // document's own one step). Switching the preference on starts an empty history from the
+    // document as it stands; switching it off drops the history and the widgets it kept.
+    CUndoHistory* History() const { return m_history.get(); }
     // The window file's name, or a numbered name while it has never been saved.
     QString DisplayName() const;
     QString FilePath() const;
@@ -51,6 +56,8 @@ signals:
     void documentSaved(const QString& path);
     // The user closed the window, and its changes were saved or discarded.
     void closedByUser();
+    // The window started or dropped its unlimited undo history.
+    void historyChanged();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,11 +68,13 @@ private:
     bool DiskCopyIsOurs() const;
     // Shows the name and the modified mark in the title.
     void RefreshTitle();
+    void FollowUndoPreference();
 
     std::unique_ptr<CTamloDoc> m_document;
     CEditorPrompts& m_prompts;
     CEditorPreferences& m_preferences;
     CTamloView* m_view;
+    std::unique_ptr<CUndoHistory> m_history;
     QString m_untitledName;
     std::optional<QByteArray> m_diskDigest; // of the file as read or written last; none without one
     QLabel* m_diskNotice;

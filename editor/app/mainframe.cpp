@@ -4,6 +4,7 @@
 #include "editorprompts.h"
 #include "firststartlayout.h"
 #include "formatactions.h"
+#include "historydock.h"
 #include "layoutaidactions.h"
 #include "pathtext.h"
 #include "previewactions.h"
@@ -18,6 +19,7 @@
 #include "editor/explorer/projectexplorer.h"
 #include "editor/model/editcommands.h"
 #include "editor/model/editorsession.h"
+#include "editor/model/undohistory.h"
 #include "editor/problems/problemspane.h"
 #include "editor/problems/renamevariabledialog.h"
 #include "editor/problems/searchresults.h"
@@ -46,6 +48,8 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QUndoGroup>
+#include <QUndoView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -112,6 +116,8 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     });
     connect(m_formatActions, &CFormatActions::documentEdited, this, &CMainFrame::UpdateEditActions);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateEditActions);
+    connect(&m_historyDock->Group(), &QUndoGroup::indexChanged, this, &CMainFrame::UpdateEditActions);
+    connect(&m_preferences, &CEditorPreferences::changed, this, &CMainFrame::UpdateEditActions);
     if (!restoreGeometry(m_settings.value(kGeometryKey).toByteArray())) {
         const QSize canvas = kFirstStartCanvas + QSize(CTamloView::kCanvasMargin, CTamloView::kCanvasMargin);
         setGeometry(FirstStartGeometry(*this, *m_mdiArea, canvas + ChildFrameExtent(*style())));
@@ -168,6 +174,10 @@ void CMainFrame::CreateDocks()
     ConnectRowDialogs();
     CreateProjectDocks();
     CreatePreviewDock(); // after the property dock, whose tab it shares
+    m_historyDock = new CHistoryDock(this);
+    addDockWidget(Qt::RightDockWidgetArea, m_historyDock);
+    tabifyDockWidget(propertyDock, m_historyDock);
+    propertyDock->raise();
 }
 
 void CMainFrame::CreatePreviewDock()
@@ -194,6 +204,7 @@ void CMainFrame::CreatePreviewDock()
 void CMainFrame::PreviewRunningChanged(bool running)
 {
     m_propertyPane->setEnabled(!running);
+    m_historyDock->widget()->setEnabled(!running);
     m_toolbox->setEnabled(!running);
     m_formatActions->SyncWithActiveView();
     UpdateEditActions();
@@ -259,6 +270,10 @@ void CMainFrame::CreateActions()
 {
     m_undoAction = AddCanvasAction(tr("Undo(&U)\tCtrl+Z"), tr("Undo the last action"),
                                    QKeySequence::Undo, &CMainFrame::EditUndo);
+    m_redoAction = AddCanvasAction(tr("Redo(&R)\tCtrl+Y"), tr("Redo the last undone action"),
+                                   QKeySequence::Redo, &CMainFrame::EditRedo);
+    m_redoAction->setObjectName(QStringLiteral("actionRedo"));
+    m_redoAction->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     m_cutAction = AddCanvasAction(tr("Cu&t"),
                                   tr("Cut the selection and put it on the Clipboard"), QKeySequence::Cut,
                                   &CMainFrame::EditCut);
@@ -312,6 +327,7 @@ void CMainFrame::CreateMenus()
 
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     edit->addAction(m_undoAction);
+    edit->addAction(m_redoAction);
     edit->addSeparator();
     edit->addAction(m_cutAction);
     edit->addAction(m_copyAction);
@@ -331,10 +347,11 @@ void CMainFrame::CreateMenus()
     m_openAction->setIcon(icon(QStyle::SP_DialogOpenButton));
     m_saveAction->setIcon(icon(QStyle::SP_DialogSaveButton));
     m_undoAction->setIcon(icon(QStyle::SP_ArrowBack));
+    m_redoAction->setIcon(icon(QStyle::SP_ArrowForward));
     m_deleteAction->setIcon(icon(QStyle::SP_TrashIcon));
     standard->addActions({m_newAction, m_openAction, m_saveAction});
     standard->addSeparator();
-    standard->addActions({m_undoAction, m_deleteAction});
+    standard->addActions({m_undoAction, m_redoAction, m_deleteAction});
 
     QMenu* view = menuBar()->addMenu(tr("&View"));
     view->addAction(standard->toggleViewAction());
@@ -498,6 +515,7 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
 {
     auto* child = new CChildFrame(std::move(document), m_prompts, m_session, m_preferences);
     m_problems->WatchWindow(child->Document());
+    m_historyDock->Watch(*child);
     CTamloView& view = child->View();
     view.SetContextMenu(m_canvasMenu);
     connect(&view, &CTamloView::selectionChanged, this, [this, child] {
@@ -681,6 +699,7 @@ void CMainFrame::ChildActivated(QMdiSubWindow* window)
     if (m_preview->IsRunning() && (!child || &child->View() != m_preview->PreviewedView()))
         m_preview->Leave();
     m_shownChild = child;
+    m_historyDock->ShowChild(child);
     ShowChildInPanes();
     m_formatActions->SyncWithActiveView();
     UpdateEditActions();
@@ -728,7 +747,10 @@ void CMainFrame::UpdateEditActions()
     CTamloView* view = ActiveView();
     const bool editable = view && !view->Preview();
     const bool hasWidgets = editable && HasEditableWidgets(view->Selection().Widgets());
-    m_undoAction->setEnabled(editable && view->Document().CanUndo());
+    CUndoHistory* history = editable ? ActiveChild()->History() : nullptr;
+    m_undoAction->setEnabled(history ? history->Stack().canUndo() : editable && view->Document().CanUndo());
+    m_redoAction->setEnabled(history && history->Stack().canRedo());
+    m_redoAction->setVisible(m_preferences.Get().undoHistory == CEditorPreferences::UndoHistory::Unlimited);
     m_cutAction->setEnabled(hasWidgets);
     m_copyAction->setEnabled(hasWidgets);
     m_deleteAction->setEnabled(hasWidgets);
@@ -837,10 +859,21 @@ void CMainFrame::CancelTool()
 
 void CMainFrame::EditUndo()
 {
-    CTamloView* view = ActiveView();
-    if (!view || !view->Document().CanUndo())
+    CChildFrame* child = ActiveChild();
+    if (!child || m_preview->IsRunning())
         return;
-    view->Document().Undo();
+    if (CUndoHistory* history = child->History())
+        history->Stack().undo();
+    else if (child->Document().CanUndo())
+        child->Document().Undo();
+    UpdateEditActions();
+}
+
+void CMainFrame::EditRedo()
+{
+    CChildFrame* child = ActiveChild();
+    if (CUndoHistory* history = child ? child->History() : nullptr; history && !m_preview->IsRunning())
+        history->Stack().redo();
     UpdateEditActions();
 }
 
@@ -858,6 +891,8 @@ void CMainFrame::EditCopy()
 void CMainFrame::EditCut()
 {
     EditCopy();
+    if (CChildFrame* child = ActiveChild(); child && child->History())
+        child->History()->NameNextEntry(tr("Cut %1"));
     EditDelete();
 }
 
@@ -867,6 +902,8 @@ void CMainFrame::EditPaste()
     const QMimeData* clipboard = QApplication::clipboard()->mimeData();
     if (!view || !clipboard || !clipboard->hasFormat(kWidgetsMimeType))
         return;
+    if (CUndoHistory* history = ActiveChild()->History())
+        history->NameNextEntry(tr("Paste %1"));
     const std::vector<CHmiWidget*> pasted =
         PasteWidgets(view->Document(), clipboard->data(kWidgetsMimeType).toStdString());
     if (!pasted.empty())

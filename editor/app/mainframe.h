@@ -21,6 +21,7 @@ class CEditorPrompts;
 class CEditorSession;
 class CFileWatch;
 class CFormatActions;
+class CHistoryDock;
 class CHmiWidget;
 class CProblemsPane;
 class CProjectExplorer;
@@ -156,6 +157,7 @@ private:
     void FileSave();
     void FileSaveAs();
     void EditUndo();
+    void EditRedo();
     void EditCut();
     void EditCopy();
     void EditPaste();
@@ -183,6 +185,7 @@ private:
     CFormatActions* m_formatActions = nullptr;
     CVariablesDock* m_variables = nullptr;
     CPreviewActions* m_preview = nullptr;
+    CHistoryDock* m_historyDock = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
     bool m_painted = false;              // the frame has painted once: the explorer shows the project
     QMenu* m_canvasMenu = nullptr;
@@ -199,6 +202,7 @@ private:
     QAction* m_recentSeparator = nullptr;
     QAction* m_exitAction = nullptr;
     QAction* m_undoAction = nullptr;
+    QAction* m_redoAction = nullptr; // shown with an unlimited undo history
     QAction* m_cutAction = nullptr;
     QAction* m_copyAction = nullptr;
     QAction* m_pasteAction = nullptr;

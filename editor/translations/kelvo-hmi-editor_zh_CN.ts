@@ -148,6 +148,55 @@ Overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>CEntryText</name>
+    <message numerus="yes">
+        <source>%n widgets</source>
+        <translation>
+            <numerusform>%n 个控件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>删除 %1</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>添加 %1</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>移到顶层</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>移到底层</translation>
+    </message>
+    <message>
+        <source>Change events of %1</source>
+        <translation>修改 %1 的事件</translation>
+    </message>
+    <message>
+        <source>Change bindings of %1</source>
+        <translation>修改 %1 的动态属性</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>修改 %1</translation>
+    </message>
+    <message>
+        <source>Change %1 of %2</source>
+        <translation>修改 %2 的 %1</translation>
+    </message>
+    <message>
+        <source>Resize %1</source>
+        <translation>调整 %1 的大小</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>移动 %1</translation>
+    </message>
+</context>
+<context>
     <name>CEventEditDialog</name>
     <message>
         <source>Insert</source>
@@ -384,6 +433,21 @@ Move to Bottom</source>
         <translation>
 
 ……另有 %1 条。</translation>
+    </message>
+</context>
+<context>
+    <name>CHistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>历史</translation>
+    </message>
+    <message>
+        <source>Undo takes back the last edit only. Choose an unlimited undo history in Tools &gt; Preferences to list every edit here.</source>
+        <translation>撤销只能撤回上一步编辑。在“工具 &gt; 首选项”中选择不限步数的撤销历史，即可在此列出每一步编辑。</translation>
+    </message>
+    <message>
+        <source>&lt;opened&gt;</source>
+        <translation>&lt;打开时&gt;</translation>
     </message>
 </context>
 <context>
@@ -717,6 +781,22 @@ Move to Bottom</source>
     <message>
         <source>Please select project path!</source>
         <translation>请选择工程路径！</translation>
+    </message>
+    <message>
+        <source>Redo(&amp;R)	Ctrl+Y</source>
+        <translation>重做(&amp;R)	Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>Redo the last undone action</source>
+        <translation>重做上一步撤销的操作</translation>
+    </message>
+    <message>
+        <source>Cut %1</source>
+        <translation>剪切 %1</translation>
+    </message>
+    <message>
+        <source>Paste %1</source>
+        <translation>粘贴 %1</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,7 @@ struct EditedWindow {
         doc.OnNewDocument();
         doc.AddWidget(MakeGauge("a"), true);
         doc.AddWidget(MakeGauge("b"), true);
+        window = doc.Widgets()[0].get();
         a = doc.Widgets()[1].get();
         b = doc.Widgets()[2].get();
         a->SetWidgetRect({10, 10, 50, 50});
@@ -225,8 +226,17 @@ struct EditedWindow {
     }
 
     CTamloDoc doc;
+    CHmiWidget* window = nullptr;
     CHmiWidget* a = nullptr;
     CHmiWidget* b = nullptr;
+};
+
+// Keeps what leaves the document, as an undo history does.
+struct KeepingHistory : CDocumentHistory {
+    void DocumentChanged(const CDocumentChange& change) override { told.push_back(change.what); }
+    void KeepRemovedWidget(HmiWidgetPtr widget) override { kept.push_back(std::move(widget)); }
+    std::vector<DocChange> told;
+    std::vector<HmiWidgetPtr> kept;
 };
 
 } // namespace
@@ -268,6 +278,13 @@ TEST_F(TamloDocTest, EveryEditIsToldOnceAndCountsARevision)
              w.doc.WidgetChanged(*w.a, DocChange::Properties, {10, 10, 50, 50});
          },
          {"modified; a:geometry+properties<10,10"}, true},
+        {"putting a widget back", none, [](EditedWindow& w) { w.doc.PutBackWidget(MakeGauge("c"), 1); },
+         {"modified; c:added"}, true},
+        {"replacing a widget", none, [](EditedWindow& w) { w.doc.ReplaceWidget(w.a, MakeGauge("new")); },
+         {"modified; a:removed new:added"}, true},
+        {"restoring an order", none, [](EditedWindow& w) { w.doc.RestoreOrder({w.b, w.a, w.window}); },
+         {"modified; b:order window:order"}, true},
+        {"an order of other widgets", none, [](EditedWindow& w) { w.doc.RestoreOrder({w.a, w.a, w.b}); }, {}, false},
         {"loading", none, [&file](EditedWindow& w) { w.doc.Load(file); }, {"reloaded;"}, true},
         {"saving", [](EditedWindow& w) { w.doc.SetModifiedFlag(); },
          [this](EditedWindow& w) { w.doc.Save(dir.Path("saved.xml")); }, {"modified;"}, false},
@@ -284,4 +301,28 @@ TEST_F(TamloDocTest, EveryEditIsToldOnceAndCountsARevision)
         EXPECT_EQ(observer.heard, row.heard);
         EXPECT_EQ(window.doc.Revision() != revision, row.revises);
     }
+}
+
+// With a history, a deleted widget leaves the list at once and lives on in the history, which
+// can put the same object back; the document keeps no undo step of its own.
+TEST_F(TamloDocTest, AHistoryKeepsTheWidgetsThatLeaveTheDocument)
+{
+    EditedWindow window;
+    window.Delete(window.b); // the document's own step, which the history ends
+    KeepingHistory history;
+    window.doc.SetHistory(&history);
+    EXPECT_EQ(NamesOf(window.doc), (std::vector<std::string>{"window", "a"}));
+    EXPECT_TRUE(history.kept.empty()) << "the document's own step destroyed its deleted widget";
+
+    window.Delete(window.a);
+    EXPECT_EQ(NamesOf(window.doc), std::vector<std::string>{"window"});
+    ASSERT_EQ(history.kept.size(), 1u);
+    EXPECT_EQ(history.kept.front().get(), window.a);
+    EXPECT_EQ(history.told, std::vector<DocChange>{DocChange::Removed}) << "the history hears first";
+    EXPECT_FALSE(window.doc.CanUndo());
+    EXPECT_EQ(window.doc.Serialize().find("\"a\""), std::string::npos);
+
+    window.doc.PutBackWidget(std::move(history.kept.front()), 5);
+    EXPECT_EQ(window.doc.Widgets().back().get(), window.a);
+    window.doc.SetHistory(nullptr);
 }
