@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+class CCanvasZoomer;
 class CEditorPrompts;
 class CEditorSession;
 class CTamloDoc;
@@ -29,6 +30,7 @@ public:
 
     CTamloDoc& Document() const { return *m_document; }
     CTamloView& View() const { return *m_view; }
+    CCanvasZoomer& Zoomer() const { return *m_zoomer; }
     CEditorPreferences& Preferences() const { return m_preferences; }
     // The window file's name, or a numbered name while it has never been saved.
     QString DisplayName() const;
@@ -66,6 +68,7 @@ private:
     CEditorPrompts& m_prompts;
     CEditorPreferences& m_preferences;
     CTamloView* m_view;
+    CCanvasZoomer* m_zoomer; // a child of the view
     QString m_untitledName;
     std::optional<QByteArray> m_diskDigest; // of the file as read or written last; none without one
     QLabel* m_diskNotice;

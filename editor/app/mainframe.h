@@ -28,6 +28,7 @@ class CPreviewActions;
 class CPropertyPane;
 class CSearchResults;
 class CTamloDoc;
+class CViewZoomActions;
 class CTamloView;
 class CToolbox;
 class CVariablesDock;
@@ -181,6 +182,7 @@ private:
     CProblemsPane* m_problems = nullptr;
     CSearchResults* m_searchResults = nullptr;
     CFormatActions* m_formatActions = nullptr;
+    CViewZoomActions* m_zoomActions = nullptr;
     CVariablesDock* m_variables = nullptr;
     CPreviewActions* m_preview = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
