@@ -13,21 +13,21 @@
 CViewZoomActions::CViewZoomActions(QMdiArea& area, QStatusBar& statusBar, QObject* parent)
     : QObject(parent), m_area(area), m_percent(new QLabel(&statusBar))
 {
-    QAction* zoomIn = AddAction("actionViewZoomIn", QStringLiteral("Zoom &In"),
-                                QStringLiteral("Show the window larger; the widgets keep their sizes"),
+    QAction* zoomIn = AddAction("actionViewZoomIn", tr("Zoom &In"),
+                                tr("Show the window larger; the widgets keep their sizes"),
                                 &CCanvasZoomer::ZoomIn);
     zoomIn->setShortcuts({QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    AddAction("actionViewZoomOut", QStringLiteral("Zoom &Out"),
-              QStringLiteral("Show the window smaller; the widgets keep their sizes"), &CCanvasZoomer::ZoomOut)
+    AddAction("actionViewZoomOut", tr("Zoom &Out"),
+              tr("Show the window smaller; the widgets keep their sizes"), &CCanvasZoomer::ZoomOut)
         ->setShortcut(QKeySequence::ZoomOut);
-    AddAction("actionViewZoom100", QStringLiteral("Zoom &100%"), QStringLiteral("Show the window at its own size"),
+    AddAction("actionViewZoom100", tr("Zoom &100%"), tr("Show the window at its own size"),
               &CCanvasZoomer::ZoomToActualSize)
         ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
-    AddAction("actionFitWindow", QStringLiteral("&Fit Window"),
-              QStringLiteral("Show the whole window in the space of its frame"), &CCanvasZoomer::FitWindow);
+    AddAction("actionFitWindow", tr("&Fit Window"),
+              tr("Show the whole window in the space of its frame"), &CCanvasZoomer::FitWindow);
     m_percent->setObjectName(QStringLiteral("zoomPercent"));
     m_percent->setMinimumWidth(m_percent->fontMetrics().horizontalAdvance(QStringLiteral("0000 %")));
-    m_percent->setToolTip(QStringLiteral("View zoom: Ctrl+wheel, Ctrl+plus, Ctrl+minus"));
+    m_percent->setToolTip(tr("View zoom: Ctrl+wheel, Ctrl+plus, Ctrl+minus"));
     statusBar.addPermanentWidget(m_percent);
     connect(&area, &QMdiArea::subWindowActivated, this, &CViewZoomActions::FollowActiveChild);
     FollowActiveChild(area.activeSubWindow());
@@ -82,5 +82,5 @@ void CViewZoomActions::FollowActiveChild(QMdiSubWindow* window)
 
 void CViewZoomActions::ShowPercent(int percent)
 {
-    m_percent->setText(QStringLiteral("%1 %").arg(percent));
+    m_percent->setText(tr("%1 %").arg(percent));
 }
