@@ -112,13 +112,14 @@ private slots:
     // Live controls stand on the zoomed rectangles, and the selection's handles show above them.
     void handlesShowAboveLiveControlsAtEveryZoom()
     {
-        auto* check = AddWidget<CHmiWidgetCheckbox>(*document, {100, 100, 200, 140});
+        // Far enough that at 200 % it stands beyond the canvas's size at 100 %.
+        auto* check = AddWidget<CHmiWidgetCheckbox>(*document, {600, 400, 700, 440});
         CCanvasControl* control = view->Controls().ControlOf(*check);
         QVERIFY(control);
         for (const int percent : {100, 200, 50}) {
             view->SetZoomPercent(percent);
-            const QPoint topLeft = At(100, 100);
-            QCOMPARE(control->Widget()->geometry(), QRect(topLeft, At(200, 140) - QPoint(1, 1)));
+            const QPoint topLeft = At(600, 400);
+            QCOMPARE(control->Widget()->geometry(), QRect(topLeft, At(700, 440) - QPoint(1, 1)));
             view->Selection().Select(check, false);
             const QImage shot = view->grab().toImage();
             // The active handle: a white frame around black, centred on the corner.
