@@ -82,6 +82,7 @@ bool HasLiveControl(const CHmiWidget& widget)
     return control && control->GetControl();
 }
 
+// The class's toolbox icon where its record has one, else the class key's initial in a box.
 void DrawOutline(QPainter& painter, const QRect& outline, const std::string& classKey)
 {
     painter.setBrush(Qt::NoBrush);
@@ -90,6 +91,11 @@ void DrawOutline(QPainter& painter, const QRect& outline, const std::string& cla
     const QRect glyph(outline.topLeft() + QPoint(2, 2), QSize(kGlyphSize, kGlyphSize));
     if (!outline.contains(glyph) || classKey.empty())
         return;
+    const CWidgetRunTimeClass* entry = CHmiWidget::FindWidgetClassEntry(classKey);
+    if (entry && entry->m_pToolboxIcon) {
+        painter.drawImage(glyph, QImage(entry->m_pToolboxIcon));
+        return;
+    }
     painter.setPen(QPen(kOutlineColor, 0, Qt::SolidLine));
     painter.drawRect(glyph.adjusted(0, 0, -1, -1));
     painter.drawText(glyph, Qt::AlignCenter, QString(QChar::fromLatin1(classKey.front())).toUpper());

@@ -12,9 +12,10 @@ class QPainter;
 
 // Design-time outlines: a widget that draws nothing on the panel, a timer, a custom widget of a
 // library that is not loaded, a text without text, would be lost on the canvas. The canvas shows
-// it as a faint dashed outline with a small box holding its class key's initial. Only the canvas
-// draws these: rendered images and window files never see them. Whether a widget draws nothing
-// is found by drawing it once where nothing is painted, and kept until its properties change.
+// it as a faint dashed outline with its class's toolbox icon, or its class key's initial in a
+// small box for a class without one. Only the canvas draws these: rendered images and window
+// files never see them. Whether a widget draws nothing is found by drawing it once where nothing
+// is painted, and kept until its properties change.
 class CDesignOutlines : public CDocumentObserver {
 public:
     explicit CDesignOutlines(CTamloDoc& document);

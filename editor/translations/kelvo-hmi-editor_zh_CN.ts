@@ -135,16 +135,16 @@ Overwrite it?</source>
         <translation>整体缩放</translation>
     </message>
     <message>
-        <source>Scale (%):</source>
-        <translation>比例（%）：</translation>
-    </message>
-    <message>
         <source>Find References</source>
         <translation>查找引用</translation>
     </message>
     <message>
         <source>Variable reference:</source>
         <translation>变量引用：</translation>
+    </message>
+    <message>
+        <source>Scale of the selected widgets&apos; sizes and positions (%):</source>
+        <translation>选中控件的大小和位置的缩放比例(%)：</translation>
     </message>
 </context>
 <context>
