@@ -146,7 +146,7 @@ void CDesignOutlines::Paint(QPainter& painter, const CCanvasMapping& mapping, st
         if (!shown || IsWindowWidget(*widget) || m_document.IsWidgetDeleted(widget.get()) || HasLiveControl(*widget) ||
             !DrawsNothing(*widget))
             continue;
-        const HmiRect client = mapping.DocToClient(rect).ForDrawing();
+        const HmiRect client = mapping.DocRectToClient(rect).ForDrawing();
         if (client.Width() > 1 && client.Height() > 1)
             DrawOutline(painter, QRect(client.left, client.top, client.Width() - 1, client.Height() - 1),
                         widget->GetWidgetClassName());

@@ -192,7 +192,7 @@ QRect CTamloView::ToClientRect(const HmiRect& docRect) const
     // Room for the handles, which keep their size on screen, and for what widgets draw around
     // their rectangles, which grows with the zoom.
     const int room = std::max(kHandleMargin, m_mapping.ClientLength(kHandleMargin));
-    return ToQRect(m_mapping.DocToClient(docRect)).adjusted(-room, -room, room, room);
+    return ToQRect(m_mapping.DocRectToClient(docRect)).adjusted(-room, -room, room, room);
 }
 
 void CTamloView::InvalidateDocRect(const HmiRect& area)
@@ -392,7 +392,7 @@ void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
     painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
     std::vector<HmiRect> areas;
     for (const QRect& rect : region) {
-        const HmiRect shown = m_mapping.ClientToDoc(HmiRect{rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1});
+        const HmiRect shown = m_mapping.ClientRectToDoc(HmiRect{rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1});
         areas.push_back(shown.Inflated(kHandleMargin, kHandleMargin));
     }
     painter.save();
@@ -569,5 +569,5 @@ void CTamloView::PaintPreview(QPainter& painter, const QRegion& region) const
     painter.setPen(QPen(Qt::red, 2, Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
     for (const BindingProblem& problem : m_preview->Scene().Problems())
-        painter.drawRect(ToQRect(m_mapping.DocToClient(problem.area)).adjusted(-1, -1, 1, 1));
+        painter.drawRect(ToQRect(m_mapping.DocRectToClient(problem.area)).adjusted(-1, -1, 1, 1));
 }

@@ -32,18 +32,29 @@ void CCanvasMapping::SetPercent(int percent)
     m_percent = std::clamp(percent, kMinPercent, kMaxPercent);
 }
 
+// A client pixel shows what the painter puts at its centre: the window point c + 1/2 divided by
+// the zoom falls in. A window point is first shown by the pixel whose centre is at or past it.
+std::int32_t CCanvasMapping::ClientToDoc(std::int32_t client) const
+{
+    return Saturated(FloorDiv((2 * std::int64_t(client) + 1) * kPercent, 2 * std::int64_t(m_percent)));
+}
+
+std::int32_t CCanvasMapping::DocToClient(std::int32_t doc) const
+{
+    return Saturated(CeilDiv(2 * std::int64_t(doc) * m_percent - kPercent, 2 * kPercent));
+}
+
 HmiPoint CCanvasMapping::DocToClient(HmiPoint point) const
 {
-    return {Saturated(FloorDiv(std::int64_t(point.x) * m_percent, kPercent)),
-            Saturated(FloorDiv(std::int64_t(point.y) * m_percent, kPercent))};
+    return {DocToClient(point.x), DocToClient(point.y)};
 }
 
 HmiPoint CCanvasMapping::ClientToDoc(HmiPoint point) const
 {
-    return {Saturated(FloorDiv(point.x * kPercent, m_percent)), Saturated(FloorDiv(point.y * kPercent, m_percent))};
+    return {ClientToDoc(point.x), ClientToDoc(point.y)};
 }
 
-HmiRect CCanvasMapping::DocToClient(const HmiRect& rect) const
+HmiRect CCanvasMapping::DocRectToClient(const HmiRect& rect) const
 {
     const HmiRect r = rect.Normalized();
     return {Saturated(FloorDiv(std::int64_t(r.left) * m_percent, kPercent)),
@@ -52,7 +63,7 @@ HmiRect CCanvasMapping::DocToClient(const HmiRect& rect) const
             Saturated(CeilDiv(std::int64_t(r.bottom) * m_percent, kPercent))};
 }
 
-HmiRect CCanvasMapping::ClientToDoc(const HmiRect& rect) const
+HmiRect CCanvasMapping::ClientRectToDoc(const HmiRect& rect) const
 {
     const HmiRect r = rect.Normalized();
     return {Saturated(FloorDiv(r.left * kPercent, m_percent)), Saturated(FloorDiv(r.top * kPercent, m_percent)),

@@ -3,9 +3,11 @@
 #include "base/hmitypes.h"
 
 #include <array>
+#include <cstdint>
 
-// How a canvas shows its window at the view's zoom: the window point d stands at the client
-// point d × zoom, rounded down, and a client pixel shows the window point it falls in. The
+// How a canvas shows its window at the view's zoom: a client pixel shows the window point under
+// its centre, as the scaled painter draws it, and a window point stands at the first pixel that
+// shows it, so that hit tests meet what is drawn at every zoom. The
 // zoom changes what the user sees only; the widgets' rectangles, and so the saved window, never
 // change with it. Everything that converts between the two, painting, hit tests, drags, handles
 // and guides, goes through this one mapping.
@@ -25,8 +27,8 @@ public:
     HmiPoint ClientToDoc(HmiPoint point) const;
     // Rectangles grow outward: the client pixels that show any part of a window rectangle, and
     // the window pixels any part of which a client rectangle shows.
-    HmiRect DocToClient(const HmiRect& rect) const;
-    HmiRect ClientToDoc(const HmiRect& rect) const;
+    HmiRect DocRectToClient(const HmiRect& rect) const;
+    HmiRect ClientRectToDoc(const HmiRect& rect) const;
     // A length of the window in client pixels, rounded up: room that must not fall short.
     int ClientLength(int docLength) const;
 
@@ -38,5 +40,8 @@ public:
     static int FitPercent(HmiPoint windowSize, HmiPoint room);
 
 private:
+    std::int32_t DocToClient(std::int32_t doc) const;
+    std::int32_t ClientToDoc(std::int32_t client) const;
+
     int m_percent = 100;
 };
