@@ -13,8 +13,6 @@ namespace {
 
 // One notch of an ordinary mouse wheel, in eighths of a degree.
 constexpr int kWheelNotch = 120;
-// The canvas's empty border right and below the window, kept in view by Fit Window.
-constexpr int kFitMargin = 8;
 
 } // namespace
 
@@ -43,7 +41,9 @@ void CCanvasZoomer::FitWindow()
 {
     const CHmiWidget* window = m_view.Document().FindWindowWidget();
     const HmiRect rect = window ? CanvasRect(*window) : HmiRect{};
-    const QSize room = m_scroller.maximumViewportSize() - QSize(kFitMargin, kFitMargin);
+    // The canvas's empty border right and below the window stays in view too.
+    const QSize room =
+        m_scroller.maximumViewportSize() - QSize(CTamloView::kCanvasMargin, CTamloView::kCanvasMargin);
     m_view.SetZoomPercent(CCanvasMapping::FitPercent({rect.right, rect.bottom}, {room.width(), room.height()}));
 }
 

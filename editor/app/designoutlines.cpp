@@ -1,5 +1,7 @@
 #include "designoutlines.h"
 
+#include "toolboxicons.h"
+
 #include "editor/model/canvasmapping.h"
 #include "widgets/hmictrlwidget.h"
 #include "widgets/hmidc.h"
@@ -12,8 +14,9 @@
 
 namespace {
 
-// The side of the box that holds the class key's initial, in screen pixels.
-constexpr int kGlyphSize = 13;
+// The side of the class's icon, or of the box that holds its key's initial, in screen pixels.
+constexpr int kGlyphSize = 16;
+constexpr double kIconOpacity = 0.6;
 const QColor kOutlineColor(0, 0, 0, 110);
 
 // A drawing target that paints nothing and notes whether anything drawn would have shown.
@@ -82,7 +85,7 @@ bool HasLiveControl(const CHmiWidget& widget)
     return control && control->GetControl();
 }
 
-// The class's toolbox icon where its record has one, else the class key's initial in a box.
+// The class's toolbox icon, its record's own or the built-in kind's, else its key's initial in a box.
 void DrawOutline(QPainter& painter, const QRect& outline, const std::string& classKey)
 {
     painter.setBrush(Qt::NoBrush);
@@ -92,8 +95,13 @@ void DrawOutline(QPainter& painter, const QRect& outline, const std::string& cla
     if (!outline.contains(glyph) || classKey.empty())
         return;
     const CWidgetRunTimeClass* entry = CHmiWidget::FindWidgetClassEntry(classKey);
-    if (entry && entry->m_pToolboxIcon) {
-        painter.drawImage(glyph, QImage(entry->m_pToolboxIcon));
+    const QIcon icon = entry && entry->m_pToolboxIcon ? QIcon(QPixmap::fromImage(QImage(entry->m_pToolboxIcon)))
+                                                      : BuiltinKindIcon(classKey);
+    if (!icon.isNull()) {
+        painter.save();
+        painter.setOpacity(kIconOpacity);
+        icon.paint(&painter, glyph);
+        painter.restore();
         return;
     }
     painter.setPen(QPen(kOutlineColor, 0, Qt::SolidLine));
@@ -138,7 +146,7 @@ void CDesignOutlines::Paint(QPainter& painter, const CCanvasMapping& mapping, st
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     QFont font = painter.font();
-    font.setPixelSize(kGlyphSize - 4);
+    font.setPixelSize(kGlyphSize - 5);
     painter.setFont(font);
     for (const HmiWidgetPtr& widget : m_document.Widgets()) {
         const HmiRect rect = widget->GetWidgetRect().Normalized();

@@ -28,8 +28,8 @@ constexpr int kHandleMargin = 6;
 // A repaint during a drag that covers more than this part of the canvas copies the canvas drawn
 // once instead of drawing it, unless the canvas, zoomed in on a large window, is larger than this.
 constexpr int kLargeRepaintDivisor = 16;
-constexpr std::int64_t kMaxBackdropPixels =
-    std::int64_t(kMaxDrawnWindowExtent + kCanvasMargin) * (kMaxDrawnWindowExtent + kCanvasMargin);
+constexpr std::int64_t kMaxBackdropSide = kMaxDrawnWindowExtent + CTamloView::kCanvasMargin;
+constexpr std::int64_t kMaxBackdropPixels = kMaxBackdropSide * kMaxBackdropSide;
 // A change of more widgets than this repaints the whole canvas: so many separate areas would
 // cost more to gather than to paint.
 constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
