@@ -150,7 +150,8 @@ void CDesignOutlines::Paint(QPainter& painter, const CCanvasMapping& mapping, st
     painter.setFont(font);
     for (const HmiWidgetPtr& widget : m_document.Widgets()) {
         const HmiRect rect = widget->GetWidgetRect().Normalized();
-        const bool shown = std::any_of(areas.begin(), areas.end(), [&rect](const HmiRect& area) { return Meets(rect, area); });
+        const auto meets = [&rect](const HmiRect& area) { return Meets(rect, area); };
+        const bool shown = std::any_of(areas.begin(), areas.end(), meets);
         if (!shown || IsWindowWidget(*widget) || m_document.IsWidgetDeleted(widget.get()) || HasLiveControl(*widget) ||
             !DrawsNothing(*widget))
             continue;

@@ -61,8 +61,8 @@ std::optional<int> CEditorPrompts::AskZoomPercent(QWidget* parent)
     // tells this zoom from the view zoom, which leaves the widgets alone.
     bool ok = false;
     const int percent = QInputDialog::getInt(parent, tr("Metafile Holistic Zoom"),
-                                             tr("Scale of the selected widgets' sizes and positions (%):"), 100, std::numeric_limits<int>::min(),
-                                             std::numeric_limits<int>::max(), 1, &ok);
+                                             tr("Scale of the selected widgets' sizes and positions (%):"), 100,
+                                             std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), 1, &ok);
     return ok ? std::optional<int>(percent) : std::nullopt;
 }
 

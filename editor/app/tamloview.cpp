@@ -26,8 +26,10 @@ namespace {
 // Room around a widget for its handles, which stand 3 pixels outside and 4 inside its corners.
 constexpr int kHandleMargin = 6;
 // A repaint during a drag that covers more than this part of the canvas copies the canvas drawn
-// once instead of drawing it, unless the canvas, zoomed in on a large window, is larger than this.
+// once instead of drawing it...
 constexpr int kLargeRepaintDivisor = 16;
+// ...unless the canvas, zoomed in on a large window, is larger than any canvas at 100 %: the copy
+// would take too much memory.
 constexpr std::int64_t kMaxBackdropSide = kMaxDrawnWindowExtent + CTamloView::kCanvasMargin;
 constexpr std::int64_t kMaxBackdropPixels = kMaxBackdropSide * kMaxBackdropSide;
 // A change of more widgets than this repaints the whole canvas: so many separate areas would
@@ -392,8 +394,8 @@ void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
     painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
     std::vector<HmiRect> areas;
     for (const QRect& rect : region) {
-        const HmiRect shown = m_mapping.ClientRectToDoc(HmiRect{rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1});
-        areas.push_back(shown.Inflated(kHandleMargin, kHandleMargin));
+        const HmiRect client{rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1};
+        areas.push_back(m_mapping.ClientRectToDoc(client).Inflated(kHandleMargin, kHandleMargin));
     }
     painter.save();
     if (m_mapping.Percent() != 100)
