@@ -235,7 +235,7 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
 void CTamloView::RedrawDocRect(const HmiRect& area)
 {
     if (!m_backdrop.isNull())
-        m_staleBackdrop += ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
+        m_staleBackdrop += ToClientRect(area);
     InvalidateDocRect(area);
 }
 
