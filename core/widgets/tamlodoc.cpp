@@ -168,7 +168,11 @@ void CTamloDoc::OnNewDocument()
 
 bool CTamloDoc::AddWidget(HmiWidgetPtr widget, bool atTail, CWidgetNames* names)
 {
-    if (!widget || !widget->Init())
+    if (!widget)
+        return false;
+    if (!widget->m_pView && !m_views.empty())
+        widget->m_pView = m_views.front();
+    if (!widget->Init())
         return false;
     CChangeBatch batch(*this);
     CHmiWidget& added = *widget;
@@ -383,10 +387,7 @@ FileResult CTamloDoc::Load(const std::string& path)
     DeleteContents();
     m_strPathName = path;
     const FileResult result =
-        ReadWindowFile(path, [this](HmiWidgetPtr widget) {
-            widget->m_pView = m_views.empty() ? nullptr : m_views.front();
-            AddWidget(std::move(widget), false);
-        });
+        ReadWindowFile(path, [this](HmiWidgetPtr widget) { AddWidget(std::move(widget), false); });
     if (!GetWindowWidget())
         AddWindowWidget(false);
     m_bModified = false;
@@ -449,11 +450,21 @@ void CTamloDoc::AddView(CHmiView* view)
 {
     if (std::find(m_views.begin(), m_views.end(), view) == m_views.end())
         m_views.push_back(view);
+    HandViewOver(nullptr);
 }
 
 void CTamloDoc::RemoveView(CHmiView* view)
 {
     std::erase(m_views, view);
+    HandViewOver(view);
+}
+
+void CTamloDoc::HandViewOver(const CHmiView* from)
+{
+    CHmiView* first = m_views.empty() ? nullptr : m_views.front();
+    for (const HmiWidgetPtr& widget : m_widgets)
+        if (widget->m_pView == from)
+            widget->m_pView = first;
 }
 
 CWidgetNames::CWidgetNames(const CTamloDoc& document)

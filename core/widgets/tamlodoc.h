@@ -113,7 +113,9 @@ public:
     // and events (CheckWindowFileReadsBack); fails with what cannot be written.
     FileResult SerializeChecked(std::string& text) const;
 
-    // Views that show this document; not owned.
+    // Views that show this document; not owned. Widgets convert and repaint through the first
+    // view: a widget added without one gets it, and a view that comes or goes hands it to
+    // those that had none or had the one going.
     void AddView(CHmiView* view);
     void RemoveView(CHmiView* view);
     const std::vector<CHmiView*>& Views() const { return m_views; }
@@ -179,6 +181,8 @@ private:
     CWindowFileWriter WriteWidgets() const;
     void DeleteContents();
     void DestroyDeletedWidgets();
+    // Gives the widgets that convert through this view (none: through no view) the first view.
+    void HandViewOver(const CHmiView* from);
     void AddWindowWidget(bool atTail);
     // Takes the widget out of the list; it lives on until its removal has been told.
     void TakeOut(std::deque<HmiWidgetPtr>::iterator widget);

@@ -1,5 +1,6 @@
 #include "childframe.h"
 
+#include "canvaszoomer.h"
 #include "editorprompts.h"
 #include "layoutaidactions.h"
 #include "pathtext.h"
@@ -48,6 +49,7 @@ CChildFrame::CChildFrame(std::unique_ptr<CTamloDoc> document, CEditorPrompts& pr
     scroller->setWidget(m_view);
     scroller->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     scroller->setBackgroundRole(QPalette::Dark);
+    m_zoomer = new CCanvasZoomer(*scroller, *m_view);
     m_diskNotice->setObjectName(QStringLiteral("diskChangeNotice"));
     m_diskNotice->setWordWrap(true);
     m_diskNotice->setMargin(6);

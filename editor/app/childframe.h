@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+class CCanvasZoomer;
 class CEditorPrompts;
 class CEditorSession;
 class CTamloDoc;
@@ -30,6 +31,7 @@ public:
 
     CTamloDoc& Document() const { return *m_document; }
     CTamloView& View() const { return *m_view; }
+    CCanvasZoomer& Zoomer() const { return *m_zoomer; }
     CEditorPreferences& Preferences() const { return m_preferences; }
     // The document's unlimited undo history while the preferences ask for one, else null (the
     // document's own one step). Switching the preference on starts an empty history from the
@@ -74,6 +76,7 @@ private:
     CEditorPrompts& m_prompts;
     CEditorPreferences& m_preferences;
     CTamloView* m_view;
+    CCanvasZoomer* m_zoomer; // a child of the view
     std::unique_ptr<CUndoHistory> m_history;
     QString m_untitledName;
     std::optional<QByteArray> m_diskDigest; // of the file as read or written last; none without one

@@ -57,11 +57,12 @@ QString CEditorPrompts::AskOpenFileName(QWidget* parent, const QString& folder)
 
 std::optional<int> CEditorPrompts::AskZoomPercent(QWidget* parent)
 {
-    // Any whole number is taken; one of zero or less leaves the widgets as they are.
+    // Any whole number is taken; one of zero or less leaves the widgets as they are. The label
+    // tells this zoom from the view zoom, which leaves the widgets alone.
     bool ok = false;
     const int percent = QInputDialog::getInt(parent, tr("Metafile Holistic Zoom"),
-                                             tr("Scale (%):"), 100, std::numeric_limits<int>::min(),
-                                             std::numeric_limits<int>::max(), 1, &ok);
+                                             tr("Scale of the selected widgets' sizes and positions (%):"), 100,
+                                             std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), 1, &ok);
     return ok ? std::optional<int>(percent) : std::nullopt;
 }
 

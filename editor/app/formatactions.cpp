@@ -88,6 +88,8 @@ CFormatActions::CFormatActions(CEditorPrompts& prompts, ActiveView activeView, Q
                            if (const std::optional<int> percent = m_prompts.AskZoomPercent(&view))
                                ZoomWidgets(view.Document(), view.Selection().Widgets(), *percent);
                        });
+    // Not the view zoom of the View menu: this one changes the widgets themselves.
+    m_zoom->setToolTip(tr("Rescale the selected widgets: their sizes and positions change, unlike the view zoom"));
     SyncWithActiveView();
 }
 

@@ -10,6 +10,7 @@
 #include "previewactions.h"
 #include "tamloview.h"
 #include "toolbox.h"
+#include "viewzoomactions.h"
 #include "widgetlibrarydialog.h"
 #include "widgetnamecombo.h"
 
@@ -99,6 +100,8 @@ CMainFrame::CMainFrame(CEditorPrompts& prompts, QSettings& settings, CEditorSess
     setCentralWidget(m_mdiArea);
     m_formatActions = new CFormatActions(m_prompts, [this] { return ActiveView(); }, this);
     m_canvasMenu = m_formatActions->CreateContextMenu(this);
+    m_zoomActions = new CViewZoomActions(*m_mdiArea, *statusBar(), this);
+    m_zoomActions->AddToContextMenu(*m_canvasMenu);
     CreateDocks();
     CreateActions();
     CreateMenus();
@@ -361,6 +364,8 @@ void CMainFrame::CreateMenus()
     AddLayoutAidToggles(*view, m_preferences);
     view->addSeparator();
     view->addAction(m_preview->PreviewAction());
+    view->addSeparator();
+    m_zoomActions->AddToViewMenu(*view);
     view->addSeparator();
     QAction* statusBarToggle = view->addAction(tr("&Status Bar"));
     statusBarToggle->setCheckable(true);

@@ -29,6 +29,7 @@ class CPreviewActions;
 class CPropertyPane;
 class CSearchResults;
 class CTamloDoc;
+class CViewZoomActions;
 class CTamloView;
 class CToolbox;
 class CVariablesDock;
@@ -183,6 +184,7 @@ private:
     CProblemsPane* m_problems = nullptr;
     CSearchResults* m_searchResults = nullptr;
     CFormatActions* m_formatActions = nullptr;
+    CViewZoomActions* m_zoomActions = nullptr;
     CVariablesDock* m_variables = nullptr;
     CPreviewActions* m_preview = nullptr;
     CHistoryDock* m_historyDock = nullptr;

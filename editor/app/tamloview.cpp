@@ -1,5 +1,6 @@
 #include "tamloview.h"
 
+#include "canvasoverlay.h"
 #include "editor/model/canvasgeometry.h"
 #include "editor/model/formatcommands.h"
 #include "editor/model/previewsession.h"
@@ -25,8 +26,12 @@ namespace {
 // Room around a widget for its handles, which stand 3 pixels outside and 4 inside its corners.
 constexpr int kHandleMargin = 6;
 // A repaint during a drag that covers more than this part of the canvas copies the canvas drawn
-// once instead of drawing it.
+// once instead of drawing it...
 constexpr int kLargeRepaintDivisor = 16;
+// ...unless the canvas, zoomed in on a large window, is larger than any canvas at 100 %: the copy
+// would take too much memory.
+constexpr std::int64_t kMaxBackdropSide = kMaxDrawnWindowExtent + CTamloView::kCanvasMargin;
+constexpr std::int64_t kMaxBackdropPixels = kMaxBackdropSide * kMaxBackdropSide;
 // A change of more widgets than this repaints the whole canvas: so many separate areas would
 // cost more to gather than to paint.
 constexpr std::size_t kWidgetsRepaintedOneByOne = 64;
@@ -137,6 +142,10 @@ CTamloView::CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent
     , m_document(document)
     , m_tools(tools)
     , m_selection(document, *this)
+    , m_outlines(document)
+    , m_overlay(new CCanvasOverlay(*this, [this](QPainter& painter, const QRegion& region) {
+        PaintOverlay(painter, region);
+    }))
     , m_controls(*this, *this, document)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -161,16 +170,37 @@ void CTamloView::FitToWindow()
 {
     const CHmiWidget* window = m_document.FindWindowWidget();
     const HmiRect rect = window ? CanvasRect(*window) : HmiRect{};
-    const QSize size(std::clamp(rect.right, 0, kMaxDrawnWindowExtent) + kCanvasMargin,
-                     std::clamp(rect.bottom, 0, kMaxDrawnWindowExtent) + kCanvasMargin);
+    const QSize size(m_mapping.ClientLength(std::clamp(rect.right, 0, kMaxDrawnWindowExtent)) + kCanvasMargin,
+                     m_mapping.ClientLength(std::clamp(rect.bottom, 0, kMaxDrawnWindowExtent)) + kCanvasMargin);
     if (size != this->size())
         setFixedSize(size);
+}
+
+void CTamloView::SetZoomPercent(int percent)
+{
+    const int before = m_mapping.Percent();
+    m_mapping.SetPercent(percent);
+    if (m_mapping.Percent() == before)
+        return;
+    m_backdrop = QImage();
+    FitToWindow();
+    m_controls.PlaceAll();
+    update();
+    emit zoomChanged(m_mapping.Percent());
+}
+
+QRect CTamloView::ToClientRect(const HmiRect& docRect) const
+{
+    // Room for the handles, which keep their size on screen, and for what widgets draw around
+    // their rectangles, which grows with the zoom.
+    const int room = std::max(kHandleMargin, m_mapping.ClientLength(kHandleMargin));
+    return ToQRect(m_mapping.DocRectToClient(docRect)).adjusted(-room, -room, room, room);
 }
 
 void CTamloView::InvalidateDocRect(const HmiRect& area)
 {
     if (!m_painting)
-        update(ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin));
+        update(ToClientRect(area));
 }
 
 void CTamloView::InvalidateView()
@@ -205,7 +235,7 @@ void CTamloView::DocumentChanged(const CDocumentChange& change)
 void CTamloView::RedrawDocRect(const HmiRect& area)
 {
     if (!m_backdrop.isNull())
-        m_staleBackdrop += ToQRect(area).adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
+        m_staleBackdrop += ToClientRect(area);
     InvalidateDocRect(area);
 }
 
@@ -309,23 +339,31 @@ void CTamloView::paintEvent(QPaintEvent* event)
         PaintDocument(backdrop, m_staleBackdrop);
     }
     m_staleBackdrop = QRegion();
-    if (!m_feedback.empty() && large && m_backdrop.isNull()) {
+    const bool backdropFits = std::int64_t(width()) * height() <= kMaxBackdropPixels;
+    if (!m_feedback.empty() && large && backdropFits && m_backdrop.isNull()) {
         m_backdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
         m_backdrop.setDevicePixelRatio(devicePixelRatio());
         QPainter backdrop(&m_backdrop);
         PaintDocument(backdrop, rect());
     }
-    painter.save();
     ClipTo(painter, event->region());
     if (m_backdrop.isNull())
         PaintDocument(painter, event->region());
     else
         CopyBackdrop(painter, event->region());
     DrawGrid(painter, event->region());
+}
+
+void CTamloView::PaintOverlay(QPainter& painter, const QRegion& region) const
+{
+    if (m_preview)
+        return;
+    painter.save();
+    ClipTo(painter, region);
     DrawTrackers(painter);
     DrawSnapGuides(painter);
     painter.restore();
-    DrawDragFeedback(painter, area);
+    DrawDragFeedback(painter, region.boundingRect());
 }
 
 void CTamloView::CopyBackdrop(QPainter& painter, const QRegion& region) const
@@ -356,11 +394,18 @@ void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
     painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
     std::vector<HmiRect> areas;
     for (const QRect& rect : region) {
-        const QRect room = rect.adjusted(-kHandleMargin, -kHandleMargin, kHandleMargin, kHandleMargin);
-        areas.push_back({room.left(), room.top(), room.right() + 1, room.bottom() + 1});
+        const HmiRect client{rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1};
+        areas.push_back(m_mapping.ClientRectToDoc(client).Inflated(kHandleMargin, kHandleMargin));
     }
+    painter.save();
+    if (m_mapping.Percent() != 100)
+        painter.scale(m_mapping.Scale(), m_mapping.Scale());
+    // Kept drawings are pixels at 100 %: the drawing target paints from them only where the
+    // painter maps whole pixels, so a zoomed canvas draws afresh.
     CHmiPainterDC dc(painter, &m_drawings);
     DrawWindow(m_document, dc, areas);
+    painter.restore();
+    m_outlines.Paint(painter, m_mapping, areas);
     painter.restore();
 }
 
@@ -376,8 +421,9 @@ void CTamloView::DrawTrackers(QPainter& painter) const
             widget->DrawTracker(canvasDC, state);
             continue;
         }
+        const HmiPoint shift = m_mapping.DocToClient(origin); // handles are drawn in client coordinates
         painter.save();
-        painter.translate(-double(origin.x), -double(origin.y));
+        painter.translate(-double(shift.x), -double(shift.y));
         CHmiPainterDC dc(painter);
         widget->DrawTracker(dc, state);
         painter.restore();
@@ -451,13 +497,13 @@ void CTamloView::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
     if (m_preview)
-        return emit previewClicked(event->position().toPoint());
+        return emit previewClicked(ToQPoint(ClientToDoc(ToHmiPoint(event->position().toPoint()))));
     m_tools.ButtonDown(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
 }
 
 void CTamloView::mouseMoveEvent(QMouseEvent* event)
 {
-    emit cursorMoved(event->position().toPoint());
+    emit cursorMoved(ToQPoint(ClientToDoc(ToHmiPoint(event->position().toPoint()))));
     if (m_preview)
         return;
     m_tools.MouseMove(*this, ToHmiPoint(event->position().toPoint()), ToMouseFlags(event->modifiers()));
@@ -516,10 +562,14 @@ void CTamloView::PaintPreview(QPainter& painter, const QRegion& region) const
 {
     ClipTo(painter, region);
     painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
+    painter.save();
+    if (m_mapping.Percent() != 100)
+        painter.scale(m_mapping.Scale(), m_mapping.Scale());
     CHmiPainterDC dc(painter);
     m_preview->Draw(dc);
+    painter.restore();
     painter.setPen(QPen(Qt::red, 2, Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
     for (const BindingProblem& problem : m_preview->Scene().Problems())
-        painter.drawRect(ToQRect(problem.area).adjusted(-1, -1, 1, 1));
+        painter.drawRect(ToQRect(m_mapping.DocRectToClient(problem.area)).adjusted(-1, -1, 1, 1));
 }

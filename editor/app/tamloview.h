@@ -1,6 +1,9 @@
 #pragma once
 
+#include "designoutlines.h"
+
 #include "editor/canvascontrols/canvascontrols.h"
+#include "editor/model/canvasmapping.h"
 #include "editor/model/canvasselection.h"
 #include "editor/model/canvastools.h"
 #include "widgets/documentchange.h"
@@ -14,14 +17,17 @@
 #include <span>
 #include <vector>
 
+class CCanvasOverlay;
 class CPreviewSession;
 class CTamloDoc;
 class QMenu;
 
 // The canvas of one HMI window: draws the document and the selection trackers, and hands the
-// mouse to the current canvas tool and the arrow keys to the nudge command. Client coordinates
-// are window coordinates, because the canvas is as large as the window and scrolls as a whole.
-// It repaints only where the document changed, and painting never asks for another repaint.
+// mouse to the current canvas tool and the arrow keys to the nudge command. The canvas is as
+// large as the window at the view's zoom and scrolls as a whole: client coordinates are window
+// coordinates through the zoom's mapping. It repaints only where the document changed, and
+// painting never asks for another repaint. The handles and the drag's outlines are drawn on a
+// layer above the live controls.
 class CTamloView : public QWidget, public CHmiView, public CCanvasToolHost, public CDocumentObserver {
     Q_OBJECT
 public:
@@ -35,8 +41,8 @@ public:
     CTamloDoc& Document() const { return m_document; }
 
     // CHmiView
-    HmiPoint DocToClient(HmiPoint point) const override { return point; }
-    HmiPoint ClientToDoc(HmiPoint point) const override { return point; }
+    HmiPoint DocToClient(HmiPoint point) const override { return m_mapping.DocToClient(point); }
+    HmiPoint ClientToDoc(HmiPoint point) const override { return m_mapping.ClientToDoc(point); }
     // Both are ignored while the canvas paints: what a widget finds out of place then is in
     // place by the time the canvas has painted.
     void InvalidateDocRect(const HmiRect& area) override;
@@ -58,6 +64,10 @@ public:
     // The grid to show and what drags snap to; Ctrl+arrow keys move by one grid step.
     void SetLayoutAids(const LayoutAids& aids);
 
+    // The view zoom: the canvas, its controls and its handles follow; the document does not.
+    const CCanvasMapping& Mapping() const { return m_mapping; }
+    void SetZoomPercent(int percent);
+
     void SetLocked(bool locked) { m_locked = locked; }
     const CCanvasControls& Controls() const { return m_controls; }
     // The menu the canvas pops up on a right click; the main frame provides it.
@@ -78,6 +88,7 @@ signals:
     void commandEnded();
     // The mouse stands over this point of the window.
     void cursorMoved(const QPoint& point);
+    void zoomChanged(int percent);
     // The left button went down at this point of the window while the canvas shows a preview.
     void previewClicked(const QPoint& point);
 
@@ -91,12 +102,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    // Grows or shrinks the canvas to the window widget's size.
+    // Grows or shrinks the canvas to the window widget's size at the zoom.
     void FitToWindow();
+    QRect ToClientRect(const HmiRect& docRect) const;
     static void ClipTo(QPainter& painter, const QRegion& region);
     void CopyBackdrop(QPainter& painter, const QRegion& region) const;
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
+    // On the overlay: the handles and the drag's outlines over the controls.
+    void PaintOverlay(QPainter& painter, const QRegion& region) const;
     void DrawTrackers(QPainter& painter) const;
     // The grid's dots that fall in the region, inside the window.
     void DrawGrid(QPainter& painter, const QRegion& region) const;
@@ -118,6 +132,7 @@ private:
     CCanvasTools& m_tools;
     CCanvasSelection m_selection;
     bool m_locked = false;
+    CCanvasMapping m_mapping;
     std::vector<HmiRect> m_feedback;
     LayoutAids m_aids;
     std::vector<SnapGuide> m_snapGuides; // in window coordinates
@@ -129,5 +144,7 @@ private:
     QMenu* m_contextMenu = nullptr;
     bool m_painting = false;
     const CPreviewSession* m_preview = nullptr;
+    mutable CDesignOutlines m_outlines; // what it learns of the widgets while painting is kept
+    CCanvasOverlay* m_overlay; // a child
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes
 };

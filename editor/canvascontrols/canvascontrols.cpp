@@ -62,6 +62,13 @@ void CCanvasControls::SetHidden(bool hidden)
                 control->Widget()->setVisible(!hidden && !m_document.IsWidgetDeleted(controlWidget));
 }
 
+void CCanvasControls::PlaceAll()
+{
+    for (const HmiWidgetPtr& widget : m_document.Widgets())
+        if (auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(widget.get()))
+            controlWidget->PlaceControl();
+}
+
 void CCanvasControls::Sync()
 {
     for (const HmiWidgetPtr& widget : m_document.Widgets())

@@ -30,6 +30,8 @@ public:
     // Hides every control while the canvas shows something else than the document, and shows
     // those of the window's widgets again.
     void SetHidden(bool hidden);
+    // Moves every control to its widget's rectangle, after the view's mapping changed.
+    void PlaceAll();
 
 private:
     // Brings every control in step with the document, as after a load.

@@ -145,8 +145,11 @@ void CCanvasTools::ShowHoverCursor(CCanvasToolHost& host, HmiPoint point) const
 CCanvasTools::DragStep CCanvasTools::StepTo(CCanvasToolHost& host, HmiPoint point, MouseFlags flags) const
 {
     CCanvasSelection& selection = host.Selection();
-    // A move's offset is taken in client coordinates and applied unchanged.
-    DragStep step{{point.x - m_pressPoint.x, point.y - m_pressPoint.y}, selection.View().ClientToDoc(point), {}};
+    // A move's offset is the mouse's from the press in window units: at 100 % the client offset
+    // applied unchanged.
+    const HmiPoint to = selection.View().ClientToDoc(point);
+    const HmiPoint from = selection.View().ClientToDoc(m_pressPoint);
+    DragStep step{{to.x - from.x, to.y - from.y}, to, {}};
     const std::optional<CSnapper> snapper = SnapperFor(host, flags);
     if (!snapper)
         return step;

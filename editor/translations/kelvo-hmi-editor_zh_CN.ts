@@ -135,16 +135,16 @@ Overwrite it?</source>
         <translation>整体缩放</translation>
     </message>
     <message>
-        <source>Scale (%):</source>
-        <translation>比例（%）：</translation>
-    </message>
-    <message>
         <source>Find References</source>
         <translation>查找引用</translation>
     </message>
     <message>
         <source>Variable reference:</source>
         <translation>变量引用：</translation>
+    </message>
+    <message>
+        <source>Scale of the selected widgets&apos; sizes and positions (%):</source>
+        <translation>选中控件的大小和位置的缩放比例(%)：</translation>
     </message>
 </context>
 <context>
@@ -422,6 +422,10 @@ Move to Bottom</source>
     <message>
         <source>F&amp;ormat</source>
         <translation>格式(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Rescale the selected widgets: their sizes and positions change, unlike the view zoom</source>
+        <translation>缩放选中的控件：控件的大小和位置会改变，与视图缩放不同</translation>
     </message>
 </context>
 <context>
@@ -1308,6 +1312,49 @@ Restored windows open as modified; saving writes their window files.</source>
     <message>
         <source>%1 holds a number: &quot;%2&quot; is none.</source>
         <translation>%1 存放数值：“%2”不是数值。</translation>
+    </message>
+</context>
+<context>
+    <name>CViewZoomActions</name>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Show the window larger; the widgets keep their sizes</source>
+        <translation>放大显示窗口；控件大小不变</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show the window smaller; the widgets keep their sizes</source>
+        <translation>缩小显示窗口；控件大小不变</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;100%</source>
+        <translation>实际大小 100%(&amp;1)</translation>
+    </message>
+    <message>
+        <source>Show the window at its own size</source>
+        <translation>按窗口的实际大小显示</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Window</source>
+        <translation>适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show the whole window in the space of its frame</source>
+        <translation>在框架内显示整个窗口</translation>
+    </message>
+    <message>
+        <source>View zoom: Ctrl+wheel, Ctrl+plus, Ctrl+minus</source>
+        <translation>视图缩放：Ctrl+滚轮、Ctrl+加号、Ctrl+减号</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
