@@ -27,8 +27,9 @@ TEST(CanvasMappingTest, PointsMeetThePixelsThatShowThemAndRectanglesGrowOutward)
             const HmiPoint shows = mapping.ClientToDoc(shownAt);
             EXPECT_TRUE(shows.x >= x && shows.y >= -x) << percent << " % at " << x;
             EXPECT_TRUE(mapping.ClientToDoc(HmiPoint{shownAt.x - 1, 0}).x < x) << percent << " % at " << x;
-            if (percent >= 100)
+            if (percent >= 100) {
                 EXPECT_EQ(shows, (HmiPoint{x, -x})) << percent << " % at " << x;
+            }
         }
     }
     EXPECT_EQ(At(50).ClientToDoc(HmiPoint{0, 1}), (HmiPoint{1, 3})); // the pixels' centres
