@@ -21,7 +21,9 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace {
@@ -96,6 +98,47 @@ void MeasurePaint(int widgetCount)
                 double(mixedDrawings.Bytes()) / (1 << 20));
 }
 
+// The repaint of the mixed window split by kind: each kind's widgets alone, where the mix places
+// them, repainted with their drawings kept, against as many plain rectangles; the costliest first.
+void MeasurePaintByKind(int widgetCount)
+{
+    CTamloDoc mixed;
+    FillMixedWindow(mixed, widgetCount, kSeed);
+    std::map<std::string, std::vector<CHmiWidget*>> kinds;
+    for (const HmiWidgetPtr& widget : mixed.Widgets())
+        if (widget.get() != mixed.GetWindowWidget())
+            kinds[widget->GetWidgetClassName()].push_back(widget.get());
+    QImage image(kMixedWindowWidth, kMixedWindowHeight, QImage::Format_ARGB32_Premultiplied);
+    struct Cost {
+        std::string kind;
+        std::size_t count;
+        double repaint;
+        double plain;
+    };
+    std::vector<Cost> costs;
+    for (const auto& [kind, widgets] : kinds) {
+        CHmiDrawingCache drawings;
+        const auto paint = [&](bool plain) {
+            QPainter painter(&image);
+            CHmiPainterDC dc(painter, &drawings);
+            for (CHmiWidget* widget : widgets) {
+                if (plain)
+                    dc.Rectangle(widget->GetWidgetRect());
+                else
+                    widget->Draw(dc);
+            }
+        };
+        paint(false); // the first paint notes the drawings to keep, the second keeps them
+        costs.push_back({kind, widgets.size(), MedianMilliseconds(7, [&] { paint(false); }),
+                         MedianMilliseconds(7, [&] { paint(true); })});
+    }
+    std::sort(costs.begin(), costs.end(), [](const Cost& a, const Cost& b) { return a.repaint > b.repaint; });
+    std::printf("%7d  repaint by kind: ms for the kind's widgets alone (x their plain rectangles)\n", widgetCount);
+    for (const Cost& cost : costs)
+        std::printf("%7s  %-16s %5zu widgets %8.2f ms (%6.1fx)\n", "", cost.kind.c_str(), cost.count, cost.repaint,
+                    cost.repaint / cost.plain);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -112,6 +155,7 @@ int main(int argc, char* argv[])
         MeasureRender(folder, count);
     for (const int count : {5000, 10000})
         MeasurePaint(count);
+    MeasurePaintByKind(5000);
     std::filesystem::remove_all(folder);
     return 0;
 }
