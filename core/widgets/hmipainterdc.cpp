@@ -187,6 +187,53 @@ private:
     std::int64_t m_steps;
 };
 
+// The pixels of a line in one colour, gathered as they come into runs along a row or a column.
+class PixelRuns {
+public:
+    void Add(int x, int y)
+    {
+        if (!m_runs.empty()) {
+            QRect& run = m_runs.back();
+            const bool alongRow = run.height() == 1 && y == run.top();
+            const bool alongColumn = run.width() == 1 && x == run.left();
+            if (alongRow && (x == run.left() - 1 || x == run.right() + 1)) {
+                run |= QRect(x, y, 1, 1);
+                return;
+            }
+            if (alongColumn && (y == run.top() - 1 || y == run.bottom() + 1)) {
+                run |= QRect(x, y, 1, 1);
+                return;
+            }
+        }
+        m_runs.emplace_back(x, y, 1, 1);
+    }
+
+    // Each run as one filled rectangle where a pixel of the painter is one of its device;
+    // otherwise each pixel as a point, which the painter maps as it maps a point.
+    void Paint(QPainter& painter, const QColor& color, bool wholePixels) const
+    {
+        if (m_runs.empty())
+            return;
+        if (wholePixels) {
+            for (const QRect& run : m_runs)
+                painter.fillRect(run, color);
+            return;
+        }
+        std::vector<QPoint> points;
+        for (const QRect& run : m_runs)
+            for (int y = run.top(); y <= run.bottom(); ++y)
+                for (int x = run.left(); x <= run.right(); ++x)
+                    points.emplace_back(x, y);
+        QPen pen(color, 1);
+        pen.setCosmetic(true);
+        painter.setPen(pen);
+        painter.drawPoints(points.data(), int(points.size()));
+    }
+
+private:
+    std::vector<QRect> m_runs;
+};
+
 // The most pixels of one layer of thin lines: a larger area is painted in bands of rows.
 constexpr qsizetype kMaxLayerPixels = qsizetype(1) << 20;
 
@@ -296,13 +343,21 @@ bool Meets(const HmiRect& a, const HmiRect& b)
     return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
-// What the drawing cache keeps of one drawing: its pixels, and where it leaves the current
-// position. No image: the drawing has partly transparent pixels, whose copy would blend them
-// once more, or it could not be drawn aside; it is then painted anew each time.
-struct KeptDrawing {
+// What the drawing cache keeps of one drawing: the pixels it sets, from origin in its area, and
+// where it leaves the current position. No image: the drawing has partly transparent pixels,
+// whose copy would blend them once more, or it could not be drawn aside; it is then painted anew
+// each time.
+} // namespace
+
+struct CHmiDrawingCache::Drawing {
     QImage image;
+    QPoint origin;
     HmiPoint position;
 };
+
+namespace {
+
+using KeptDrawing = CHmiDrawingCache::Drawing;
 
 // The largest drawing kept, in pixels, and all of them together, in bytes; an entry's own
 // bookkeeping counts as some bytes besides its pixels and key.
@@ -317,7 +372,8 @@ HmiRect Intersection(const HmiRect& a, const HmiRect& b)
 }
 
 // Draws what paint draws, alone, into an image of the area, as a drawing to keep: pixels that
-// are opaque or untouched throughout can be painted again as they are.
+// are opaque or untouched throughout can be painted again as they are. Only the part that
+// holds pixels is kept, so that a short text in a large box keeps little.
 KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& paint)
 {
     QImage image(area.Width(), area.Height(), QImage::Format_ARGB32_Premultiplied);
@@ -332,17 +388,34 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
         paint(target);
         drawing.position = target.MoveTo({});
     }
-    bool opaque = true;
+    int left = image.width();
+    int right = -1;
+    int top = image.height();
+    int bottom = -1;
+    std::int64_t opaquePixels = 0;
     for (int y = 0; y < image.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x) {
             const int alpha = qAlpha(line[x]);
-            if (alpha != 0 && alpha != 255)
+            if (alpha == 0)
+                continue;
+            if (alpha != 255)
                 return {};
-            opaque = opaque && alpha == 255;
+            ++opaquePixels;
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
         }
     }
+    if (right < 0) // nothing drawn: one transparent pixel paints as little
+        left = right = top = bottom = 0;
+    const QRect used(QPoint(left, top), QPoint(right, bottom));
+    if (used != image.rect())
+        image = image.copy(used);
+    drawing.origin = used.topLeft();
     // An opaque drawing is copied rather than blended.
+    const bool opaque = opaquePixels == std::int64_t(used.width()) * used.height();
     drawing.image = opaque ? std::move(image).convertToFormat(QImage::Format_RGB32) : std::move(image);
     return drawing;
 }
@@ -515,24 +588,18 @@ void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
         return;
     }
     const HmiSteps seen = line.Within(m_clipBox);
-    std::vector<QPoint> on;
-    std::vector<QPoint> off;
-    on.reserve(std::size_t(seen.end - seen.first));
+    PixelRuns on;
+    PixelRuns off;
     line.Walk(seen, [&](std::int64_t i, int x, int y) {
         const bool isOn = !pattern || (m_patternPhase + i) % pattern->period < pattern->on;
-        (isOn ? on : off).emplace_back(x, y);
+        (isOn ? on : off).Add(x, y);
     });
     if (pattern)
         m_patternPhase = int((m_patternPhase + line.Steps()) % pattern->period);
-    QPen pen(ToQColor(m_pen.color), 1);
-    pen.setCosmetic(true);
-    m_painter.setPen(pen);
-    m_painter.drawPoints(on.data(), int(on.size()));
-    if (!off.empty() && m_bkMode == HmiBkMode::Opaque) {
-        pen.setColor(ToQColor(m_bkColor));
-        m_painter.setPen(pen);
-        m_painter.drawPoints(off.data(), int(off.size()));
-    }
+    const bool wholePixels = PaintsWholeDevicePixels();
+    on.Paint(m_painter, ToQColor(m_pen.color), wholePixels);
+    if (m_bkMode == HmiBkMode::Opaque)
+        off.Paint(m_painter, ToQColor(m_bkColor), wholePixels);
 }
 
 bool CHmiPainterDC::PaintsWholeDevicePixels() const
@@ -653,7 +720,33 @@ void CHmiPainterDC::FillSolidRect(const HmiRect& rect, HmiColor color)
 
 void CHmiPainterDC::DrawText(std::string_view text, const HmiRect& rect, std::uint32_t format)
 {
+    // The same text in the same look and box size sets the same pixels wherever the box stands,
+    // so a canvas paints texts it has drawn before from their pixels.
     const QRect box = ToQRect(rect);
+    const auto draw = [&](CHmiDC& target) {
+        target.SelectFont(m_font);
+        target.SetTextColor(m_textColor);
+        target.SetBkColor(m_bkColor);
+        target.SetBkMode(m_bkMode);
+        target.DrawText(text, rect, format);
+    };
+    if (!box.isEmpty() && box.intersects(QRect(m_clipBox.left, m_clipBox.top, m_clipBox.Width(), m_clipBox.Height()))) {
+        std::string key = HmiReuseKey("text", {box.width(), box.height(), format, m_textColor, m_bkColor,
+                                               std::int64_t(m_bkMode), m_font.height, m_font.weight, m_font.italic,
+                                               m_font.underline, m_font.strikeOut, m_font.charSet,
+                                               m_font.pitchAndFamily, std::int64_t(m_font.face.size())});
+        key.append(m_font.face).append(text);
+        const HmiRect area{box.left(), box.top(), box.left() + box.width(), box.top() + box.height()};
+        if (const KeptDrawing* kept = Kept(key, area, draw)) {
+            m_painter.drawImage(box.topLeft() + kept->origin, kept->image);
+            return;
+        }
+    }
+    DrawTextAnew(text, box, format);
+}
+
+void CHmiPainterDC::DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format)
+{
     int flags = 0;
     if (format & HMI_DT_CENTER)
         flags |= Qt::AlignHCenter;
@@ -701,20 +794,29 @@ void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, con
 {
     // Only what lies on the device is kept, and the key names that part too.
     const HmiRect area = Intersection(box.ForDrawing().Normalized(), m_deviceArea);
-    const bool keepable = m_cache && area.Width() > 0 && area.Height() > 0 &&
-                          std::int64_t(area.Width()) * area.Height() <= kMaxKeptPixels && Meets(area, m_clipBox) &&
-                          PaintsWholeDevicePixels();
-    if (!keepable)
+    if (!Meets(area, m_clipBox))
         return paint(*this);
+    const KeptDrawing* kept = Kept(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}), area, paint);
+    if (!kept)
+        return paint(*this);
+    m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
+    MoveTo(kept->position);
+}
+
+const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& area,
+                                       const std::function<void(CHmiDC&)>& paint)
+{
+    const bool keepable = m_cache && area.Width() > 0 && area.Height() > 0 &&
+                          std::int64_t(area.Width()) * area.Height() <= kMaxKeptPixels && PaintsWholeDevicePixels();
+    if (!keepable)
+        return nullptr;
     CHmiDrawingCache::Store& store = *m_cache->m_store;
-    CHmiDrawingCache::Store::Entry* entry =
-        store.Use(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}));
+    CHmiDrawingCache::Store::Entry* entry = store.Use(key);
     if (entry && !entry->drawing && store.MakeRoom(std::size_t(area.Width()) * std::size_t(area.Height()) * 4))
         store.Keep(*entry, DrawAside(area, paint));
     if (!entry || !entry->drawing || entry->drawing->image.isNull())
-        return paint(*this);
-    m_painter.drawImage(QPoint(area.left, area.top), entry->drawing->image);
-    MoveTo(entry->drawing->position);
+        return nullptr;
+    return &*entry->drawing;
 }
 
 HmiRect CHmiPainterDC::GetClipBox() const

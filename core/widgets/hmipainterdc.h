@@ -6,6 +6,7 @@
 #include <memory>
 
 class QPainter;
+class QRect;
 
 // Drawings kept for CHmiPainterDC::DrawReusable under their keys, for a canvas that paints the
 // same widgets again and again. Bounded: a drawing larger than a set size is never kept, and
@@ -19,6 +20,8 @@ public:
 
     // What the kept drawings take, in bytes.
     std::size_t Bytes() const;
+
+    struct Drawing; // what is kept of one drawing
 
 private:
     friend class CHmiPainterDC;
@@ -60,6 +63,11 @@ private:
     // A line from one point up to, not including, the other, in the current pen.
     void DrawPenLine(HmiPoint from, HmiPoint to);
     void DrawThinLine(HmiPoint from, HmiPoint to);
+    void DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format);
+    // The drawing kept under the key for paint's drawing of the area, kept now if the key has
+    // come before; null when there is none, and the caller paints anew.
+    const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area,
+                                          const std::function<void(CHmiDC&)>& paint);
     // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
     bool PaintsWholeDevicePixels() const;
     void ApplyPenAndBrush();
