@@ -194,15 +194,17 @@ public:
     {
         if (!m_runs.empty()) {
             QRect& run = m_runs.back();
-            const bool alongRow = run.height() == 1 && y == run.top();
-            const bool alongColumn = run.width() == 1 && x == run.left();
-            if (alongRow && (x == run.left() - 1 || x == run.right() + 1)) {
-                run |= QRect(x, y, 1, 1);
-                return;
+            if (y == run.top() && y == run.bottom()) { // a row, or a single pixel
+                if (x == run.right() + 1)
+                    return run.setRight(x);
+                if (x == run.left() - 1)
+                    return run.setLeft(x);
             }
-            if (alongColumn && (y == run.top() - 1 || y == run.bottom() + 1)) {
-                run |= QRect(x, y, 1, 1);
-                return;
+            if (x == run.left() && x == run.right()) {
+                if (y == run.bottom() + 1)
+                    return run.setBottom(y);
+                if (y == run.top() - 1)
+                    return run.setTop(y);
             }
         }
         m_runs.emplace_back(x, y, 1, 1);
@@ -215,8 +217,13 @@ public:
         if (m_runs.empty())
             return;
         if (wholePixels) {
-            for (const QRect& run : m_runs)
-                painter.fillRect(run, color);
+            // Filled without an outline, as fillRect fills; the painter keeps pen and brush
+            // from line to line when they stay the same.
+            if (painter.pen().style() != Qt::NoPen)
+                painter.setPen(Qt::NoPen);
+            if (painter.brush().style() != Qt::SolidPattern || painter.brush().color() != color)
+                painter.setBrush(color);
+            painter.drawRects(m_runs.data(), int(m_runs.size()));
             return;
         }
         std::vector<QPoint> points;
