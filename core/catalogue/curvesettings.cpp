@@ -9,6 +9,7 @@
 #include <ctime>
 #include <deque>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -118,18 +119,22 @@ void CurveSettings::DrawPreview(CHmiDC& dc, const HmiRect& rect) const
     const HmiSteps inView = HmiStepsWithin(0, points, box.left, box.right, pointX);
     const HmiSteps drawn{std::max<std::int64_t>(inView.first - 1, 0), std::min<std::int64_t>(inView.end + 1, points)};
     const std::int32_t curves = std::min<std::int32_t>(m_nCurveNum, std::int32_t(kSeriesCount));
+    std::vector<HmiPoint> line;
+    line.reserve(std::size_t(drawn.end - drawn.first));
     for (std::int32_t c = 0; c < curves; ++c) {
         HmiSetPen(&dc, 0, m_dataColor[std::size_t(c)], false);
+        line.clear();
         for (std::int64_t p = drawn.first; p < drawn.end; ++p) {
             const float sample = float(RandomSample()());
             const float value = std::clamp(sample * (m_fMaxValue - m_fMinValue) * kSampleScale + m_fMinValue,
                                            std::min(m_fMinValue, m_fMaxValue), std::max(m_fMinValue, m_fMaxValue));
             const float rise = (value - m_fMinValue) / (m_fMaxValue - m_fMinValue) * float(height);
-            const std::int32_t y = plotBottom - (std::isfinite(rise) ? std::int32_t(rise) : 0);
-            const auto x = std::int32_t(pointX(p));
-            if (p == drawn.first)
-                HmiMoveTo(&dc, x, y);
-            HmiLineTo(&dc, x, y);
+            line.push_back({std::int32_t(pointX(p)), plotBottom - (std::isfinite(rise) ? std::int32_t(rise) : 0)});
+        }
+        // The line starts where its first point stands, and the first point is drawn to as well.
+        if (!line.empty()) {
+            dc.MoveTo(line.front());
+            dc.PolylineTo(line);
         }
         // The time labels stand under the left edge and each vertical line, all showing now.
         if (c == 0 && m_nHLines > 0 && m_nXPoints / m_nHLines > 0) {

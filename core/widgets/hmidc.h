@@ -104,6 +104,13 @@ public:
     // A line from the current position to the point with the current pen; the point becomes the
     // current position and is itself not painted.
     virtual void LineTo(HmiPoint point) = 0;
+    // Lines through the points in turn, as LineTo draws them one after the other: curves of
+    // many points draw this way; a target may do it faster.
+    virtual void PolylineTo(std::span<const HmiPoint> points)
+    {
+        for (const HmiPoint& point : points)
+            LineTo(point);
+    }
 
     // Many lines at once, later ones over earlier ones, each as a solid pen of width 1 in its
     // colour draws it from MoveTo to LineTo: the pen in effect stays, and the current position

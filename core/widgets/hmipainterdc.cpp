@@ -126,6 +126,9 @@ public:
     // The steps whose pixels lie in the box: along the line, x and y each move one way only.
     HmiSteps Within(const HmiRect& box) const
     {
+        const HmiPoint to{m_from.x + m_dx, m_from.y + m_dy};
+        if (box.Contains(m_from) && box.Contains(to)) // then so does every pixel between them
+            return {0, m_steps};
         const HmiSteps columns =
             HmiStepsWithin(0, m_steps, box.left, box.right, [&](std::int64_t i) { return At(i).x(); });
         return HmiStepsWithin(columns.first, columns.end, box.top, box.bottom,
@@ -145,6 +148,33 @@ public:
             visit(i, x.Place(), y.Place());
             x.Advance();
             y.Advance();
+        }
+    }
+
+    // Calls visit(rect) for each run of the steps' pixels along a row (a line wider than tall)
+    // or a column, in order: pixel i is one step along the longer side, and the shorter side's
+    // offset floor((2i|d| + steps) / 2steps) reaches k from step ceil((2k - 1)steps / 2|d|) on.
+    template <class Visit>
+    void Runs(const HmiSteps& steps, Visit visit) const
+    {
+        if (steps.first >= steps.end)
+            return;
+        const bool alongRows = std::abs(m_dx) >= std::abs(m_dy);
+        const std::int64_t across = alongRows ? std::abs(m_dy) : std::abs(m_dx);
+        const auto stepReaching = [&](std::int64_t k) {
+            if (k <= 0 || across == 0)
+                return k <= 0 ? std::int64_t(0) : m_steps;
+            const std::int64_t numerator = (2 * k - 1) * m_steps;
+            return (numerator + 2 * across - 1) / (2 * across);
+        };
+        const auto offsetAt = [&](std::int64_t i) { return (2 * i * across + m_steps) / (2 * m_steps); };
+        for (std::int64_t k = offsetAt(steps.first), last = offsetAt(steps.end - 1); k <= last; ++k) {
+            const std::int64_t first = std::max(steps.first, stepReaching(k));
+            const std::int64_t end = std::min(steps.end, stepReaching(k + 1));
+            const QPoint a = At(first);
+            const QPoint b = At(end - 1);
+            visit(QRect(QPoint(std::min(a.x(), b.x()), std::min(a.y(), b.y())),
+                        QPoint(std::max(a.x(), b.x()), std::max(a.y(), b.y()))));
         }
     }
 
@@ -209,6 +239,8 @@ public:
         }
         m_runs.emplace_back(x, y, 1, 1);
     }
+
+    void AddRun(const QRect& run) { m_runs.push_back(run); }
 
     // Each run as one filled rectangle where a pixel of the painter is one of its device;
     // otherwise each pixel as a point, which the painter maps as it maps a point.
@@ -595,18 +627,36 @@ void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
         return;
     }
     const HmiSteps seen = line.Within(m_clipBox);
+    const bool wholePixels = PaintsWholeDevicePixels();
     PixelRuns on;
+    if (!pattern) {
+        line.Runs(seen, [&](const QRect& run) { on.AddRun(run); });
+        on.Paint(m_painter, ToQColor(m_pen.color), wholePixels);
+        return;
+    }
     PixelRuns off;
     line.Walk(seen, [&](std::int64_t i, int x, int y) {
-        const bool isOn = !pattern || (m_patternPhase + i) % pattern->period < pattern->on;
+        const bool isOn = (m_patternPhase + i) % pattern->period < pattern->on;
         (isOn ? on : off).Add(x, y);
     });
-    if (pattern)
-        m_patternPhase = int((m_patternPhase + line.Steps()) % pattern->period);
-    const bool wholePixels = PaintsWholeDevicePixels();
+    m_patternPhase = int((m_patternPhase + line.Steps()) % pattern->period);
     on.Paint(m_painter, ToQColor(m_pen.color), wholePixels);
     if (m_bkMode == HmiBkMode::Opaque)
         off.Paint(m_painter, ToQColor(m_bkColor), wholePixels);
+}
+
+void CHmiPainterDC::PolylineTo(std::span<const HmiPoint> points)
+{
+    // A solid one-pixel pen gathers the runs of pixels of all the lines, to fill them at once.
+    if (m_pen.style != HmiPenStyle::Solid || m_pen.width > 1 || !PaintsWholeDevicePixels())
+        return CHmiDC::PolylineTo(points);
+    PixelRuns runs;
+    for (const HmiPoint& point : points) {
+        const LinePixels line(m_position.ForDrawing(), point.ForDrawing());
+        line.Runs(line.Within(m_clipBox), [&](const QRect& run) { runs.AddRun(run); });
+        m_position = point;
+    }
+    runs.Paint(m_painter, ToQColor(m_pen.color), true);
 }
 
 bool CHmiPainterDC::PaintsWholeDevicePixels() const
