@@ -240,7 +240,22 @@ public:
         m_runs.emplace_back(x, y, 1, 1);
     }
 
-    void AddRun(const QRect& run) { m_runs.push_back(run); }
+    // A run that meets or overlaps the last one along the same column or row joins it, as
+    // where the lines of a polyline meet.
+    void AddRun(const QRect& run)
+    {
+        if (!m_runs.empty()) {
+            QRect& last = m_runs.back();
+            const bool sameColumn = run.width() == 1 && last.width() == 1 && run.left() == last.left();
+            const bool sameRow = run.height() == 1 && last.height() == 1 && run.top() == last.top();
+            if ((sameColumn && run.top() <= last.bottom() + 1 && last.top() <= run.bottom() + 1) ||
+                (sameRow && run.left() <= last.right() + 1 && last.left() <= run.right() + 1)) {
+                last |= run;
+                return;
+            }
+        }
+        m_runs.push_back(run);
+    }
 
     // Each run as one filled rectangle where a pixel of the painter is one of its device;
     // otherwise each pixel as a point, which the painter maps as it maps a point.

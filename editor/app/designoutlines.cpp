@@ -123,6 +123,9 @@ CDesignOutlines::~CDesignOutlines()
 
 void CDesignOutlines::DocumentChanged(const CDocumentChange& change)
 {
+    if (change.Has(DocChange::Properties | DocChange::Added | DocChange::Removed | DocChange::Order |
+                   DocChange::Reloaded))
+        m_candidates.reset();
     if (change.Has(DocChange::Reloaded))
         return m_drawsNothing.clear();
     for (const HmiWidgetChange& entry : change.widgets)
@@ -148,12 +151,11 @@ void CDesignOutlines::Paint(QPainter& painter, const CCanvasMapping& mapping, st
     QFont font = painter.font();
     font.setPixelSize(kGlyphSize - 5);
     painter.setFont(font);
-    for (const HmiWidgetPtr& widget : m_document.Widgets()) {
+    for (CHmiWidget* widget : Candidates()) {
         const HmiRect rect = widget->GetWidgetRect().Normalized();
         const auto meets = [&rect](const HmiRect& area) { return Meets(rect, area); };
         const bool shown = std::any_of(areas.begin(), areas.end(), meets);
-        if (!shown || IsWindowWidget(*widget) || m_document.IsWidgetDeleted(widget.get()) || HasLiveControl(*widget) ||
-            !DrawsNothing(*widget))
+        if (!shown || m_document.IsWidgetDeleted(widget) || HasLiveControl(*widget) || !DrawsNothing(*widget))
             continue;
         const HmiRect client = mapping.DocRectToClient(rect).ForDrawing();
         if (client.Width() > 1 && client.Height() > 1)
@@ -161,4 +163,17 @@ void CDesignOutlines::Paint(QPainter& painter, const CCanvasMapping& mapping, st
                         widget->GetWidgetClassName());
     }
     painter.restore();
+}
+
+const std::vector<CHmiWidget*>& CDesignOutlines::Candidates()
+{
+    if (!m_candidates) {
+        // A widget shown as a live control is not drawn here to be found out, as drawing
+        // places its control: whether it draws nothing is asked when it has none.
+        m_candidates.emplace();
+        for (const HmiWidgetPtr& widget : m_document.Widgets())
+            if (!IsWindowWidget(*widget) && (HasLiveControl(*widget) || DrawsNothing(*widget)))
+                m_candidates->push_back(widget.get());
+    }
+    return *m_candidates;
 }

@@ -2,8 +2,10 @@
 
 #include "widgets/documentchange.h"
 
+#include <optional>
 #include <span>
 #include <unordered_map>
+#include <vector>
 
 class CCanvasMapping;
 class CHmiWidget;
@@ -31,7 +33,11 @@ public:
 
 private:
     bool DrawsNothing(CHmiWidget& widget);
+    // The widgets that may need an outline, in drawing order: those that draw nothing and those
+    // shown as live controls, kept until a change adds, removes, reorders or edits widgets.
+    const std::vector<CHmiWidget*>& Candidates();
 
     CTamloDoc& m_document;
     std::unordered_map<const CHmiWidget*, bool> m_drawsNothing;
+    std::optional<std::vector<CHmiWidget*>> m_candidates;
 };
