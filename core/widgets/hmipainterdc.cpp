@@ -152,8 +152,9 @@ public:
     }
 
     // Calls visit(rect) for each run of the steps' pixels along a row (a line wider than tall)
-    // or a column, in order: pixel i is one step along the longer side, and the shorter side's
-    // offset floor((2i|d| + steps) / 2steps) reaches k from step ceil((2k - 1)steps / 2|d|) on.
+    // or a column, in order. Pixel i lies i pixels along the longer side; on the shorter side
+    // it is offset by floor((2i|d| + steps) / 2steps), which reaches k at step
+    // ceil((2k - 1)steps / 2|d|).
     template <class Visit>
     void Runs(const HmiSteps& steps, Visit visit) const
     {
@@ -161,20 +162,24 @@ public:
             return;
         const bool alongRows = std::abs(m_dx) >= std::abs(m_dy);
         const std::int64_t across = alongRows ? std::abs(m_dy) : std::abs(m_dx);
-        const auto stepReaching = [&](std::int64_t k) {
-            if (k <= 0 || across == 0)
-                return k <= 0 ? std::int64_t(0) : m_steps;
-            const std::int64_t numerator = (2 * k - 1) * m_steps;
-            return (numerator + 2 * across - 1) / (2 * across);
-        };
+        const int alongSign = (alongRows ? m_dx : m_dy) < 0 ? -1 : 1;
+        const int acrossSign = (alongRows ? m_dy : m_dx) < 0 ? -1 : 1;
         const auto offsetAt = [&](std::int64_t i) { return (2 * i * across + m_steps) / (2 * m_steps); };
-        for (std::int64_t k = offsetAt(steps.first), last = offsetAt(steps.end - 1); k <= last; ++k) {
-            const std::int64_t first = std::max(steps.first, stepReaching(k));
+        const auto stepReaching = [&](std::int64_t k) {
+            return across == 0 ? m_steps : ((2 * k - 1) * m_steps + 2 * across - 1) / (2 * across);
+        };
+        std::int64_t first = steps.first;
+        for (std::int64_t k = offsetAt(first); first < steps.end; ++k) {
             const std::int64_t end = std::min(steps.end, stepReaching(k + 1));
-            const QPoint a = At(first);
-            const QPoint b = At(end - 1);
-            visit(QRect(QPoint(std::min(a.x(), b.x()), std::min(a.y(), b.y())),
-                        QPoint(std::max(a.x(), b.x()), std::max(a.y(), b.y()))));
+            const int from = int(alongSign * first);
+            const int to = int(alongSign * (end - 1));
+            const int offset = int(acrossSign * k);
+            const QRect run = alongRows ? QRect(QPoint(m_from.x + std::min(from, to), m_from.y + offset),
+                                                QPoint(m_from.x + std::max(from, to), m_from.y + offset))
+                                        : QRect(QPoint(m_from.x + offset, m_from.y + std::min(from, to)),
+                                                QPoint(m_from.x + offset, m_from.y + std::max(from, to)));
+            visit(run);
+            first = end;
         }
     }
 
