@@ -351,22 +351,26 @@ QImage Masked(const QImage& picture, HmiColor transparent)
 }
 
 // Decoded pictures, so that repainting a canvas does not decode its files again, nor mask them
-// again for the same transparent colour. An entry is replaced when its file changes on disk.
+// again for the same transparent colour. An entry is replaced when its file changes on disk,
+// which is looked at once in each paint, however many widgets show the file.
 class PictureCache {
 public:
     // The picture, masked when a transparent colour is given; null when the file cannot be read
     // or decoded.
-    const QImage* Find(const std::string& path, const HmiColor* transparent)
+    const QImage* Find(const std::string& path, const HmiColor* transparent, std::uint64_t paint)
     {
-        const QFileInfo info(QString::fromStdString(path));
-        if (!info.isFile())
-            return nullptr;
-        const QDateTime modified = info.lastModified();
         auto found = m_entries.find(path);
-        if (found == m_entries.end() || found->second.modified != modified) {
-            if (m_entries.size() >= kMaxEntries)
-                m_entries.clear();
-            found = m_entries.insert_or_assign(path, Entry{modified, ReadPicture(path), {}, {}}).first;
+        if (found == m_entries.end() || found->second.lookedAtInPaint != paint) {
+            const QFileInfo info(QString::fromStdString(path));
+            const bool isFile = info.isFile();
+            const QDateTime modified = isFile ? info.lastModified() : QDateTime();
+            if (found == m_entries.end() || found->second.modified != modified) {
+                if (m_entries.size() >= kMaxEntries)
+                    m_entries.clear();
+                const QImage image = isFile ? ReadPicture(path) : QImage();
+                found = m_entries.insert_or_assign(path, Entry{modified, image, {}, {}, 0}).first;
+            }
+            found->second.lookedAtInPaint = paint;
         }
         Entry& entry = found->second;
         if (entry.image.isNull())
@@ -383,13 +387,17 @@ public:
 private:
     static constexpr std::size_t kMaxEntries = 64;
     struct Entry {
-        QDateTime modified;
+        QDateTime modified; // invalid: not a regular file
         QImage image;
         QImage masked;
         std::optional<HmiColor> maskedBy; // the transparent colour of the masked copy
+        std::uint64_t lookedAtInPaint;
     };
     std::map<std::string, Entry> m_entries;
 };
+
+// Counts the drawing targets made, each one paint.
+std::uint64_t g_paints = 0;
 
 PictureCache& Pictures()
 {
@@ -568,7 +576,7 @@ std::size_t CHmiDrawingCache::Bytes() const
 }
 
 CHmiPainterDC::CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache)
-    : m_painter(painter), m_cache(cache), m_deviceArea(VisibleArea(painter, false)),
+    : m_painter(painter), m_cache(cache), m_paint(++g_paints), m_deviceArea(VisibleArea(painter, false)),
       m_clipBox(VisibleArea(painter, true))
 {
     m_painter.setRenderHint(QPainter::Antialiasing, false);
@@ -859,7 +867,7 @@ HmiPoint CHmiPainterDC::GetTextExtent(std::string_view text)
 
 bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
-    const QImage* picture = Pictures().Find(path, transparent);
+    const QImage* picture = Pictures().Find(path, transparent, m_paint);
     const QRect target = ToQRect(rect);
     if (!picture || target.isEmpty())
         return false;

@@ -3,6 +3,7 @@
 #include "hmidc.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 class QPainter;
@@ -75,6 +76,7 @@ private:
 
     QPainter& m_painter;
     CHmiDrawingCache* m_cache;
+    std::uint64_t m_paint; // which paint this is, from the first target made on
     HmiRect m_deviceArea; // the device in the painter's coordinates
     HmiRect m_clipBox;
     HmiPen m_pen;
