@@ -154,7 +154,7 @@ public:
     // Calls visit(rect) for each run of the steps' pixels along a row (a line wider than tall)
     // or a column, in order. Pixel i lies i pixels along the longer side; on the shorter side
     // it is offset by floor((2i|d| + steps) / 2steps), which reaches k at step
-    // ceil((2k - 1)steps / 2|d|).
+    // ceil((2k - 1)steps / 2|d|): that quotient is carried from run to run.
     template <class Visit>
     void Runs(const HmiSteps& steps, Visit visit) const
     {
@@ -164,22 +164,30 @@ public:
         const std::int64_t across = alongRows ? std::abs(m_dy) : std::abs(m_dx);
         const int alongSign = (alongRows ? m_dx : m_dy) < 0 ? -1 : 1;
         const int acrossSign = (alongRows ? m_dy : m_dx) < 0 ? -1 : 1;
-        const auto offsetAt = [&](std::int64_t i) { return (2 * i * across + m_steps) / (2 * m_steps); };
-        const auto stepReaching = [&](std::int64_t k) {
-            return across == 0 ? m_steps : ((2 * k - 1) * m_steps + 2 * across - 1) / (2 * across);
-        };
-        std::int64_t first = steps.first;
-        for (std::int64_t k = offsetAt(first); first < steps.end; ++k) {
-            const std::int64_t end = std::min(steps.end, stepReaching(k + 1));
+        std::int64_t k = (2 * steps.first * across + m_steps) / (2 * m_steps);
+        // The step at which the offset reaches k + 1, as quotient and remainder by 2|d|.
+        const std::int64_t divisor = std::max<std::int64_t>(2 * across, 1);
+        const std::int64_t numerator = (2 * k + 1) * m_steps + divisor - 1;
+        std::int64_t nextQuotient = numerator / divisor;
+        std::int64_t nextRemainder = numerator % divisor;
+        const std::int64_t growthQuotient = 2 * m_steps / divisor;
+        const std::int64_t growthRemainder = 2 * m_steps % divisor;
+        for (std::int64_t first = steps.first; first < steps.end; ++k) {
+            const std::int64_t end = across == 0 ? steps.end : std::min(steps.end, nextQuotient);
             const int from = int(alongSign * first);
             const int to = int(alongSign * (end - 1));
             const int offset = int(acrossSign * k);
-            const QRect run = alongRows ? QRect(QPoint(m_from.x + std::min(from, to), m_from.y + offset),
-                                                QPoint(m_from.x + std::max(from, to), m_from.y + offset))
-                                        : QRect(QPoint(m_from.x + offset, m_from.y + std::min(from, to)),
-                                                QPoint(m_from.x + offset, m_from.y + std::max(from, to)));
-            visit(run);
+            visit(alongRows ? QRect(QPoint(m_from.x + std::min(from, to), m_from.y + offset),
+                                    QPoint(m_from.x + std::max(from, to), m_from.y + offset))
+                            : QRect(QPoint(m_from.x + offset, m_from.y + std::min(from, to)),
+                                    QPoint(m_from.x + offset, m_from.y + std::max(from, to))));
             first = end;
+            nextQuotient += growthQuotient;
+            nextRemainder += growthRemainder;
+            if (nextRemainder >= divisor) {
+                nextRemainder -= divisor;
+                ++nextQuotient;
+            }
         }
     }
 
