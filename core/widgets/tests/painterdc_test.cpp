@@ -127,40 +127,54 @@ TEST(PainterDC, ThinLinesPaintTheRoundedPixelsUpToTheirEndInEveryDirection)
 
 // Lines handed over at once paint what they paint one by one, later ones over earlier ones,
 // also on a painter that is moved or scaled, and leave the pen and position as those would.
-TEST(PainterDC, ThinLinesAtOnceEqualThemDrawnOneByOne)
+TEST(PainterDC, ThinLinesAndPolylinesAtOnceEqualThemDrawnOneByOne)
 {
     std::vector<HmiThinLine> fan;
-    for (int i = 0; i < 40; ++i)
+    std::vector<HmiPoint> zigzag; // through the fan's ends, in and out of the image
+    for (int i = 0; i < 40; ++i) {
         fan.push_back({{20, 15}, {i * 3 - 20, (i * 7) % 50 - 10}, HmiRgb(std::uint8_t(i * 6), 90, std::uint8_t(i))});
-    for (const QTransform& transform : {QTransform(), QTransform::fromTranslate(3, -2), QTransform::fromScale(2, 2)}) {
-        QImage oneByOne(50, 40, QImage::Format_RGB32);
-        oneByOne.fill(Qt::white);
-        QImage atOnce = oneByOne;
-        const HmiPen dotted{HmiPenStyle::Dot, 1, kBlue};
-        {
-            QPainter painter(&oneByOne);
-            painter.setTransform(transform);
-            CHmiPainterDC dc(painter);
-            for (const HmiThinLine& line : fan) {
-                dc.SelectPen({HmiPenStyle::Solid, 1, line.color});
-                DrawLine(dc, line.from, line.to);
-            }
-            dc.SelectPen(dotted);
-            dc.LineTo({0, 39});
-        }
-        {
-            QPainter painter(&atOnce);
-            painter.setTransform(transform);
-            CHmiPainterDC dc(painter);
-            dc.SelectPen(dotted);
-            dc.ThinLines(fan);
-            dc.LineTo({0, 39});
-        }
-        EXPECT_TRUE(atOnce == oneByOne) << transform.dx() << "," << transform.m11();
+        zigzag.push_back(fan.back().to);
     }
+    const HmiPen dotted{HmiPenStyle::Dot, 1, kBlue};
+    const HmiPen curve{HmiPenStyle::Solid, 0, kRed};
+    for (const QTransform& transform : {QTransform(), QTransform::fromTranslate(3, -2), QTransform::fromScale(2, 2)})
+        for (const bool clipped : {false, true}) {
+            QImage oneByOne(50, 40, QImage::Format_RGB32);
+            oneByOne.fill(Qt::white);
+            QImage atOnce = oneByOne;
+            const auto paint = [&](QImage& image, const std::function<void(CHmiPainterDC&)>& draw) {
+                QPainter painter(&image);
+                painter.setTransform(transform);
+                if (clipped)
+                    painter.setClipRect(7, 3, 30, 25);
+                CHmiPainterDC dc(painter);
+                draw(dc);
+            };
+            paint(oneByOne, [&](CHmiPainterDC& dc) {
+                for (const HmiThinLine& line : fan) {
+                    dc.SelectPen({HmiPenStyle::Solid, 1, line.color});
+                    DrawLine(dc, line.from, line.to);
+                }
+                dc.SelectPen(curve);
+                dc.MoveTo(zigzag.front());
+                for (const HmiPoint& point : zigzag)
+                    dc.LineTo(point);
+                dc.SelectPen(dotted);
+                dc.LineTo({0, 39});
+            });
+            paint(atOnce, [&](CHmiPainterDC& dc) {
+                dc.SelectPen(dotted);
+                dc.ThinLines(fan);
+                dc.SelectPen(curve);
+                dc.MoveTo(zigzag.front());
+                dc.PolylineTo(zigzag);
+                dc.SelectPen(dotted);
+                dc.LineTo({0, 39});
+            });
+            EXPECT_TRUE(atOnce == oneByOne) << transform.dx() << "," << transform.m11() << (clipped ? ", clipped" : "");
+        }
 }
 
-// Dots run three on, three off from the line's start; an opaque background fills the gaps.
 TEST(PainterDC, DottedPensFillTheirGapsWithTheBackgroundWhenOpaque)
 {
     CHmiImageDC dc(14, 4);

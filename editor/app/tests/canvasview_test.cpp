@@ -132,13 +132,15 @@ private slots:
     }
 
     // Widgets that draw nothing are outlined on the canvas, inside their rectangles; rendering
-    // and saving never see the outlines, whatever the canvas has shown.
+    // and saving never see the outlines, whatever the canvas has shown. An edit that gives a
+    // widget something to draw takes its outline away, and one that takes it away outlines it.
     void outlinesOfWidgetsThatDrawNothingStayOnTheCanvas()
     {
         AddRect(*document, {20, 20, 60, 60});
         const HmiRect inkless[] = {{100, 20, 140, 60}, {160, 20, 240, 60}, {260, 20, 300, 60}};
         AddWidget<CHmiWidgetTimer>(*document, inkless[0]);
-        AddWidget<CHmiWidgetText>(*document, inkless[1])->m_strText.clear();
+        CHmiWidgetText* text = AddWidget<CHmiWidgetText>(*document, inkless[1]);
+        text->m_strText.clear();
         AddWidget<CHmiWidgetCustom>(*document, inkless[2]);
         const QString before = editor->folder.filePath(QStringLiteral("before.xml"));
         const QString after = editor->folder.filePath(QStringLiteral("after.xml"));
@@ -150,25 +152,35 @@ private slots:
         view->SetZoomPercent(200);
         view->grab();
         view->SetZoomPercent(100);
-        const QImage shot = view->grab(QRect(QPoint(), size)).toImage().convertToFormat(QImage::Format_RGB32);
+        // The pixels of each inkless widget where the canvas differs from the rendered window.
+        const auto outlinedPixels = [&] {
+            const QImage shot = view->grab(QRect(QPoint(), size)).toImage().convertToFormat(QImage::Format_RGB32);
+            const QImage rendered = Rendered(*document, size);
+            std::vector<int> outlined(std::size(inkless));
+            for (int y = 0; y < size.height(); ++y)
+                for (int x = 0; x < size.width(); ++x) {
+                    if (shot.pixel(x, y) == rendered.pixel(x, y))
+                        continue;
+                    const auto inside = [x, y](const HmiRect& r) { return r.Contains({x, y}); };
+                    const auto* owner = std::find_if(std::begin(inkless), std::end(inkless), inside);
+                    if (owner == std::end(inkless))
+                        return std::vector<int>{x, y, -1};
+                    ++outlined[std::size_t(owner - std::begin(inkless))];
+                }
+            return outlined;
+        };
+        const std::vector<int> outlined = outlinedPixels();
         QVERIFY(document->Save(after.toStdString()));
         QCOMPARE(ReadBytes(after), ReadBytes(before));
-        const QImage rendered = Rendered(*document, size);
-        QCOMPARE(rendered, renderedBefore);
+        QCOMPARE(Rendered(*document, size), renderedBefore);
+        QVERIFY(std::all_of(outlined.begin(), outlined.end(), [](int pixels) { return pixels > 0; }));
 
-        int outlined[std::size(inkless)] = {};
-        for (int y = 0; y < size.height(); ++y)
-            for (int x = 0; x < size.width(); ++x) {
-                if (shot.pixel(x, y) == rendered.pixel(x, y))
-                    continue;
-                const auto inside = [x, y](const HmiRect& r) { return r.Contains({x, y}); };
-                const auto* owner = std::find_if(std::begin(inkless), std::end(inkless), inside);
-                if (owner == std::end(inkless))
-                    QFAIL(qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
-                ++outlined[owner - std::begin(inkless)];
-            }
-        for (const int pixels : outlined)
-            QVERIFY(pixels > 0);
+        text->m_strText = "Tank";
+        document->WidgetChanged(*text, DocChange::Properties);
+        QCOMPARE(outlinedPixels(), (std::vector<int>{outlined[0], 0, outlined[2]}));
+        text->m_strText.clear();
+        document->WidgetChanged(*text, DocChange::Properties);
+        QCOMPARE(outlinedPixels(), outlined);
     }
 
     // Escape during a band or a drag ends it: the outlines go, and nothing is selected or moved.
