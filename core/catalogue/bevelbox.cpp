@@ -7,6 +7,9 @@
 
 namespace {
 
+// The largest box kept as a drawing, in pixels: a few times a button's.
+constexpr std::int64_t kMaxKeptBoxPixels = 160 * 80;
+
 void PaintBevelBox(CHmiDC& dc, const HmiRect& r, const BevelColors& colors, std::int32_t w)
 {
     HmiDrawRect(&dc, r.left - 1, r.top - 1, r.right + 2, r.bottom + 2, colors.edge, colors.back);
@@ -29,15 +32,19 @@ void PaintBevelBox(CHmiDC& dc, const HmiRect& r, const BevelColors& colors, std:
 
 void DrawBevelBox(CHmiDC& dc, const HmiRect& rect, const BevelColors& colors, std::int32_t shadowWidth)
 {
-    // Many buttons and fields stand on a panel, and polygons are slow to fill: the box is one
-    // drawing to keep. It reaches from the filled rectangle to the borders' corners, whose
-    // outlines cover their own pixels.
+    // Many buttons and fields stand on a panel, and their borders are polygons, which are slow
+    // to fill: a box of a button's size is one drawing to keep. It reaches from the filled
+    // rectangle to the borders' corners, whose outlines cover their own pixels. A larger box is
+    // mostly its filled rectangle, which is painted as fast as its copy would be.
     const HmiRect r = rect.ForDrawing();
     const std::int32_t w = HmiDrawingCoordinate(shadowWidth);
     const auto [left, right] = std::minmax({r.left - 1, r.right + 1, r.left + w, r.right - w});
     const auto [top, bottom] = std::minmax({r.top - 1, r.bottom + 1, r.top + w, r.bottom - w});
+    const HmiRect box = HmiRect{left, top, right + 1, bottom + 1}.Inflated(1, 1);
+    const auto paint = [&](CHmiDC& target) { PaintBevelBox(target, r, colors, w); };
+    if (std::int64_t(box.Width()) * box.Height() > kMaxKeptBoxPixels)
+        return paint(dc);
     dc.DrawReusable(HmiReuseKey("bevel", {r.left, r.top, r.right, r.bottom, w, colors.edge, colors.back,
                                           colors.upShadow, colors.downShadow}),
-                    HmiRect{left, top, right + 1, bottom + 1}.Inflated(1, 1),
-                    [&](CHmiDC& target) { PaintBevelBox(target, r, colors, w); });
+                    box, paint);
 }

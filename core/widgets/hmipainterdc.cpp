@@ -344,6 +344,17 @@ QImage ReadPicture(const std::string& path)
     return reader.read();
 }
 
+// The picture as it is painted: without transparency and with 32 bits or more per pixel, as
+// with 16 bits per channel, it becomes 32-bit RGB, which paints the same pixels without the
+// painter converting each of them at every paint; any other stays as it is, as a 32-bit copy
+// would take more room.
+QImage ForPainting(QImage picture)
+{
+    if (picture.hasAlphaChannel() || picture.depth() < 32)
+        return picture;
+    return std::move(picture).convertToFormat(QImage::Format_RGB32);
+}
+
 // The picture with its pixels of the transparent colour made transparent.
 QImage Masked(const QImage& picture, HmiColor transparent)
 {
@@ -375,7 +386,7 @@ public:
             if (found == m_entries.end() || found->second.modified != modified) {
                 if (m_entries.size() >= kMaxEntries)
                     m_entries.clear();
-                const QImage image = isFile ? ReadPicture(path) : QImage();
+                const QImage image = isFile ? ForPainting(ReadPicture(path)) : QImage();
                 found = m_entries.insert_or_assign(path, Entry{modified, image, {}, {}, 0}).first;
             }
             found->second.lookedAtInPaint = paint;
