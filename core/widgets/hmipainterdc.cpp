@@ -2,6 +2,7 @@
 
 #include "base/textcodec.h"
 #include "hmisteps.h"
+#include "pixelruns.h"
 #include "project/fileio.h"
 
 #include <QBuffer>
@@ -230,77 +231,6 @@ private:
     std::int64_t m_steps;
 };
 
-// The pixels of a line in one colour, gathered as they come into runs along a row or a column.
-class PixelRuns {
-public:
-    void Add(int x, int y)
-    {
-        if (!m_runs.empty()) {
-            QRect& run = m_runs.back();
-            if (y == run.top() && y == run.bottom()) { // a row, or a single pixel
-                if (x == run.right() + 1)
-                    return run.setRight(x);
-                if (x == run.left() - 1)
-                    return run.setLeft(x);
-            }
-            if (x == run.left() && x == run.right()) {
-                if (y == run.bottom() + 1)
-                    return run.setBottom(y);
-                if (y == run.top() - 1)
-                    return run.setTop(y);
-            }
-        }
-        m_runs.emplace_back(x, y, 1, 1);
-    }
-
-    // A run that meets or overlaps the last one along the same column or row joins it, as
-    // where the lines of a polyline meet.
-    void AddRun(const QRect& run)
-    {
-        if (!m_runs.empty()) {
-            QRect& last = m_runs.back();
-            const bool sameColumn = run.width() == 1 && last.width() == 1 && run.left() == last.left();
-            const bool sameRow = run.height() == 1 && last.height() == 1 && run.top() == last.top();
-            if ((sameColumn && run.top() <= last.bottom() + 1 && last.top() <= run.bottom() + 1) ||
-                (sameRow && run.left() <= last.right() + 1 && last.left() <= run.right() + 1)) {
-                last |= run;
-                return;
-            }
-        }
-        m_runs.push_back(run);
-    }
-
-    // Each run as one filled rectangle where a pixel of the painter is one of its device;
-    // otherwise each pixel as a point, which the painter maps as it maps a point.
-    void Paint(QPainter& painter, const QColor& color, bool wholePixels) const
-    {
-        if (m_runs.empty())
-            return;
-        if (wholePixels) {
-            // Filled without an outline, as fillRect fills; the painter keeps pen and brush
-            // from line to line when they stay the same.
-            if (painter.pen().style() != Qt::NoPen)
-                painter.setPen(Qt::NoPen);
-            if (painter.brush().style() != Qt::SolidPattern || painter.brush().color() != color)
-                painter.setBrush(color);
-            painter.drawRects(m_runs.data(), int(m_runs.size()));
-            return;
-        }
-        std::vector<QPoint> points;
-        for (const QRect& run : m_runs)
-            for (int y = run.top(); y <= run.bottom(); ++y)
-                for (int x = run.left(); x <= run.right(); ++x)
-                    points.emplace_back(x, y);
-        QPen pen(color, 1);
-        pen.setCosmetic(true);
-        painter.setPen(pen);
-        painter.drawPoints(points.data(), int(points.size()));
-    }
-
-private:
-    std::vector<QRect> m_runs;
-};
-
 // The most pixels of one layer of thin lines: a larger area is painted in bands of rows.
 constexpr qsizetype kMaxLayerPixels = qsizetype(1) << 20;
 
@@ -429,12 +359,12 @@ bool Meets(const HmiRect& a, const HmiRect& b)
     return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
+} // namespace
+
 // What the drawing cache keeps of one drawing: the pixels it sets, from origin in its area, and
 // where it leaves the current position. No image: the drawing has partly transparent pixels,
 // whose copy would blend them once more, or it could not be drawn aside; it is then painted anew
 // each time.
-} // namespace
-
 struct CHmiDrawingCache::Drawing {
     QImage image;
     QPoint origin;
@@ -675,16 +605,16 @@ void CHmiPainterDC::DrawThinLine(HmiPoint from, HmiPoint to)
     }
     const HmiSteps seen = line.Within(m_clipBox);
     const bool wholePixels = PaintsWholeDevicePixels();
-    PixelRuns on;
+    CPixelRuns on;
     if (!pattern) {
-        line.Runs(seen, [&](const QRect& run) { on.AddRun(run); });
+        line.Runs(seen, [&](const QRect& run) { on.Add(run); });
         on.Paint(m_painter, ToQColor(m_pen.color), wholePixels);
         return;
     }
-    PixelRuns off;
+    CPixelRuns off;
     line.Walk(seen, [&](std::int64_t i, int x, int y) {
         const bool isOn = (m_patternPhase + i) % pattern->period < pattern->on;
-        (isOn ? on : off).Add(x, y);
+        (isOn ? on : off).Add(QRect(x, y, 1, 1));
     });
     m_patternPhase = int((m_patternPhase + line.Steps()) % pattern->period);
     on.Paint(m_painter, ToQColor(m_pen.color), wholePixels);
@@ -697,10 +627,10 @@ void CHmiPainterDC::PolylineTo(std::span<const HmiPoint> points)
     // A solid one-pixel pen gathers the runs of pixels of all the lines, to fill them at once.
     if (m_pen.style != HmiPenStyle::Solid || m_pen.width > 1 || !PaintsWholeDevicePixels())
         return CHmiDC::PolylineTo(points);
-    PixelRuns runs;
+    CPixelRuns runs;
     for (const HmiPoint& point : points) {
         const LinePixels line(m_position.ForDrawing(), point.ForDrawing());
-        line.Runs(line.Within(m_clipBox), [&](const QRect& run) { runs.AddRun(run); });
+        line.Runs(line.Within(m_clipBox), [&](const QRect& run) { runs.Add(run); });
         m_position = point;
     }
     runs.Paint(m_painter, ToQColor(m_pen.color), true);
@@ -827,20 +757,20 @@ void CHmiPainterDC::DrawText(std::string_view text, const HmiRect& rect, std::ui
     // The same text in the same look and box size sets the same pixels wherever the box stands,
     // so a canvas paints texts it has drawn before from their pixels.
     const QRect box = ToQRect(rect);
-    const auto draw = [&](CHmiDC& target) {
-        target.SelectFont(m_font);
-        target.SetTextColor(m_textColor);
-        target.SetBkColor(m_bkColor);
-        target.SetBkMode(m_bkMode);
-        target.DrawText(text, rect, format);
-    };
-    if (!box.isEmpty() && box.intersects(QRect(m_clipBox.left, m_clipBox.top, m_clipBox.Width(), m_clipBox.Height()))) {
+    const HmiRect area{box.left(), box.top(), box.left() + box.width(), box.top() + box.height()};
+    if (Meets(area, m_clipBox)) {
         std::string key = HmiReuseKey("text", {box.width(), box.height(), format, m_textColor, m_bkColor,
                                                std::int64_t(m_bkMode), m_font.height, m_font.weight, m_font.italic,
                                                m_font.underline, m_font.strikeOut, m_font.charSet,
                                                m_font.pitchAndFamily, std::int64_t(m_font.face.size())});
         key.append(m_font.face).append(text);
-        const HmiRect area{box.left(), box.top(), box.left() + box.width(), box.top() + box.height()};
+        const auto draw = [&](CHmiDC& target) {
+            target.SelectFont(m_font);
+            target.SetTextColor(m_textColor);
+            target.SetBkColor(m_bkColor);
+            target.SetBkMode(m_bkMode);
+            target.DrawText(text, rect, format);
+        };
         if (const KeptDrawing* kept = Kept(key, area, draw)) {
             m_painter.drawImage(box.topLeft() + kept->origin, kept->image);
             return;
