@@ -71,6 +71,7 @@ HmiColor CHmiImageDC::SetBkColor(HmiColor color) { return m_canvas->dc->SetBkCol
 HmiBkMode CHmiImageDC::SetBkMode(HmiBkMode mode) { return m_canvas->dc->SetBkMode(mode); }
 HmiPoint CHmiImageDC::MoveTo(HmiPoint point) { return m_canvas->dc->MoveTo(point); }
 void CHmiImageDC::LineTo(HmiPoint point) { m_canvas->dc->LineTo(point); }
+void CHmiImageDC::PolylineTo(std::span<const HmiPoint> points) { m_canvas->dc->PolylineTo(points); }
 void CHmiImageDC::ThinLines(std::span<const HmiThinLine> lines) { m_canvas->dc->ThinLines(lines); }
 void CHmiImageDC::Rectangle(const HmiRect& rect) { m_canvas->dc->Rectangle(rect); }
 void CHmiImageDC::Ellipse(const HmiRect& rect) { m_canvas->dc->Ellipse(rect); }

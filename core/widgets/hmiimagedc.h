@@ -31,6 +31,7 @@ public:
     HmiBkMode SetBkMode(HmiBkMode mode) override;
     HmiPoint MoveTo(HmiPoint point) override;
     void LineTo(HmiPoint point) override;
+    void PolylineTo(std::span<const HmiPoint> points) override;
     void ThinLines(std::span<const HmiThinLine> lines) override;
     void Rectangle(const HmiRect& rect) override;
     void Ellipse(const HmiRect& rect) override;

@@ -7,6 +7,7 @@
 
 namespace {
 
+// How far ahead of the widget drawn the next ones are fetched into the processor's cache.
 constexpr std::size_t kFetchAhead = 4;
 
 template <typename Shown>
