@@ -9,9 +9,9 @@
 class QPainter;
 class QRect;
 
-// Drawings kept for CHmiPainterDC::DrawReusable under their keys, for a canvas that paints the
-// same widgets again and again. Bounded: a drawing larger than a set size is never kept, and
-// the least recently painted ones make room for new ones.
+// Drawings kept for CHmiPainterDC::DrawReusable under their keys, and the texts it draws, for a
+// canvas that paints the same widgets again and again. Bounded: a drawing larger than a set
+// size is never kept, and the least recently painted ones make room for new ones.
 class CHmiDrawingCache {
 public:
     CHmiDrawingCache();
@@ -35,8 +35,10 @@ private:
 // One-pixel lines are rasterised here rather than by Qt, so that the end point is left out
 // and dotted and dashed patterns run along the line as on the panel. The visible area is the
 // painter's device, clip and transformation as they stand when the target is made. With a
-// cache, reusable drawings are painted from the pixels kept there wherever the painter maps
-// whole pixels; they are opaque or absent pixel by pixel, so their copy paints the same pixels.
+// cache, reusable drawings and texts drawn before are painted from the pixels kept there wherever
+// the painter maps whole pixels; they are opaque or absent pixel by pixel, so their copy paints
+// the same pixels. A text's pixels are the same wherever its box stands, so they are kept by its
+// look and box size alone.
 class CHmiPainterDC : public CHmiDC {
 public:
     explicit CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache = nullptr);
