@@ -2,21 +2,6 @@
 
 #include <QPainter>
 
-void CPixelRuns::Add(const QRect& run)
-{
-    if (!m_runs.empty()) {
-        QRect& last = m_runs.back();
-        const bool sameColumn = run.width() == 1 && last.width() == 1 && run.left() == last.left();
-        const bool sameRow = run.height() == 1 && last.height() == 1 && run.top() == last.top();
-        if ((sameColumn && run.top() <= last.bottom() + 1 && last.top() <= run.bottom() + 1) ||
-            (sameRow && run.left() <= last.right() + 1 && last.left() <= run.right() + 1)) {
-            last |= run;
-            return;
-        }
-    }
-    m_runs.push_back(run);
-}
-
 void CPixelRuns::Paint(QPainter& painter, const QColor& color, bool wholePixels) const
 {
     if (m_runs.empty())
