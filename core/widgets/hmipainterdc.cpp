@@ -274,13 +274,12 @@ QImage ReadPicture(const std::string& path)
     return reader.read();
 }
 
-// The picture as it is painted: without transparency and with 32 bits or more per pixel, as
-// with 16 bits per channel, it becomes 32-bit RGB, which paints the same pixels without the
-// painter converting each of them at every paint; any other stays as it is, as a 32-bit copy
-// would take more room.
+// The picture as it is painted: with 16 bits per channel and without transparency, it becomes
+// 32-bit RGB, which paints the same pixels without the painter converting each of them at every
+// paint, in half the room; any other stays as it is.
 QImage ForPainting(QImage picture)
 {
-    if (picture.hasAlphaChannel() || picture.depth() < 32)
+    if (picture.format() != QImage::Format_RGBX64)
         return picture;
     return std::move(picture).convertToFormat(QImage::Format_RGB32);
 }
