@@ -7,7 +7,6 @@
 #include <memory>
 #include <new>
 #include <string_view>
-#include <vector>
 
 namespace {
 
@@ -41,15 +40,23 @@ void AppendChunk(std::string& png, std::string_view type, std::string_view data)
     AppendBigEndian(png, libdeflate_crc32(0, png.data() + checked, png.size() - checked));
 }
 
+// Bytes left uninitialised, for buffers that are written before they are read: megabytes that
+// need no clearing, and of which a compressor's output buffer touches only what it fills.
+struct Buffer {
+    explicit Buffer(std::size_t size) : bytes(new std::uint8_t[size]), size(size) {}
+    std::unique_ptr<std::uint8_t[]> bytes;
+    std::size_t size;
+};
+
 // The rows as the image data holds them before compression: each a filter byte and the row's
 // red, green and blue bytes, filtered.
-std::vector<std::uint8_t> FilteredRows(const HmiRgbPixels& pixels)
+Buffer FilteredRows(const HmiRgbPixels& pixels)
 {
     const std::size_t rowBytes = 1 + 3 * std::size_t(pixels.width);
-    std::vector<std::uint8_t> rows(rowBytes * std::size_t(pixels.height));
+    Buffer rows(rowBytes * std::size_t(pixels.height));
     for (int y = 0; y < pixels.height; ++y) {
         const std::uint32_t* row = pixels.top + y * pixels.stride;
-        std::uint8_t* out = rows.data() + std::size_t(y) * rowBytes;
+        std::uint8_t* out = rows.bytes.get() + std::size_t(y) * rowBytes;
         // Equal in all four bytes: a row that differs in alpha alone is merely stored unfiltered.
         if (y > 0 && std::equal(row, row + pixels.width, row - pixels.stride)) {
             out[0] = kFilterUp;
@@ -74,15 +81,15 @@ std::string EncodeRgbPng(const HmiRgbPixels& pixels)
     if (!pixels.top || pixels.width <= 0 || pixels.height <= 0)
         return {};
     try {
-        const std::vector<std::uint8_t> rows = FilteredRows(pixels);
+        const Buffer rows = FilteredRows(pixels);
         const std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor(
             libdeflate_alloc_compressor(kCompressionLevel));
         if (!compressor)
             return {};
-        std::vector<char> compressed(libdeflate_zlib_compress_bound(compressor.get(), rows.size()));
-        compressed.resize(libdeflate_zlib_compress(compressor.get(), rows.data(), rows.size(), compressed.data(),
-                                                   compressed.size()));
-        if (compressed.empty())
+        const Buffer compressed(libdeflate_zlib_compress_bound(compressor.get(), rows.size));
+        const std::size_t compressedSize = libdeflate_zlib_compress(compressor.get(), rows.bytes.get(), rows.size,
+                                                                    compressed.bytes.get(), compressed.size);
+        if (compressedSize == 0)
             return {};
 
         std::string header;
@@ -96,11 +103,11 @@ std::string EncodeRgbPng(const HmiRgbPixels& pixels)
         density += char(1);
 
         std::string png;
-        png.reserve(kSignature.size() + 4 * 12 + header.size() + density.size() + compressed.size());
+        png.reserve(kSignature.size() + 4 * 12 + header.size() + density.size() + compressedSize);
         png.append(kSignature);
         AppendChunk(png, "IHDR", header);
         AppendChunk(png, "pHYs", density);
-        AppendChunk(png, "IDAT", std::string_view(compressed.data(), compressed.size()));
+        AppendChunk(png, "IDAT", std::string_view(reinterpret_cast<const char*>(compressed.bytes.get()), compressedSize));
         AppendChunk(png, "IEND", {});
         return png;
     } catch (const std::bad_alloc&) {
