@@ -3,7 +3,6 @@
 #include <libdeflate.h>
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <new>
 #include <string_view>
@@ -15,8 +14,11 @@ constexpr char kBitDepth = 8;
 constexpr char kColourTypeRgb = 2;
 constexpr std::uint8_t kFilterNone = 0;
 constexpr std::uint8_t kFilterUp = 2;
-// 96 dots per inch, given in dots per metre (unit 1).
+// 96 dots per inch, given in dots per metre.
 constexpr std::uint32_t kDotsPerMetre = 3780;
+constexpr char kUnitMetre = 1;
+// What a chunk holds besides its data: its length, type and checksum.
+constexpr std::size_t kChunkFrame = 12;
 // The middle of libdeflate's levels 1 to 12: on drawn screens the levels above take twice the
 // time for a few per cent, the levels below save little time for a larger file.
 constexpr int kCompressionLevel = 6;
@@ -100,10 +102,10 @@ std::string EncodeRgbPng(const HmiRgbPixels& pixels)
         std::string density;
         AppendBigEndian(density, kDotsPerMetre);
         AppendBigEndian(density, kDotsPerMetre);
-        density += char(1);
+        density += kUnitMetre;
 
         std::string png;
-        png.reserve(kSignature.size() + 4 * 12 + header.size() + density.size() + compressedSize);
+        png.reserve(kSignature.size() + 4 * kChunkFrame + header.size() + density.size() + compressedSize);
         png.append(kSignature);
         AppendChunk(png, "IHDR", header);
         AppendChunk(png, "pHYs", density);

@@ -19,6 +19,7 @@ struct HmiRgbPixels {
 // Drawn screens are flat: long runs of one colour, many rows equal to the row above. Trying every
 // row filter on every row, as general-purpose encoders do, finds little more for them and costs
 // several times the compression. So each row is stored as it is ("none"), except a row equal to
-// the one above, which is stored as its difference from it ("up": all zeros); the compressor's
-// middle level then gives files about as small as the adaptive choice, in a fifth of the time.
+// the one above, which is stored as its difference from it ("up": all zeros). With libdeflate's
+// middle level the files come out from a tenth smaller (crowded screens) to half again larger
+// (sparse ones) than with the adaptive choice and zlib, in a quarter of the time.
 std::string EncodeRgbPng(const HmiRgbPixels& pixels);
