@@ -483,11 +483,15 @@ void CTamloView::DrawDragFeedback(QPainter& painter, const QRect& exposed) const
 {
     // Focus rectangles: dotted outlines that show on any background. The dots are set in an
     // image of their own and inverted onto the canvas at once, which outlines thousands of
-    // widgets far faster than a dotted pen strokes them.
+    // widgets far faster than a dotted pen strokes them. The image is kept, as a drag shows the
+    // outlines again at every mouse move: a new one would cost more than setting the dots.
     const QRect area = FeedbackArea() & exposed;
     if (area.isEmpty())
         return;
-    QImage dots(area.size(), QImage::Format_ARGB32_Premultiplied);
+    if (m_outlineDots.width() < area.width() || m_outlineDots.height() < area.height())
+        m_outlineDots = QImage(area.size().expandedTo(m_outlineDots.size()), QImage::Format_ARGB32_Premultiplied);
+    QImage dots(m_outlineDots.bits(), area.width(), area.height(), m_outlineDots.bytesPerLine(),
+                m_outlineDots.format());
     dots.fill(Qt::transparent);
     for (const HmiRect& rect : m_feedback) {
         const HmiRect r = rect.Normalized();
