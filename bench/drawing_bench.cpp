@@ -51,14 +51,16 @@ void MeasureRender(const std::filesystem::path& folder, int widgetCount)
     CHmiImageDC image(window.Width(), window.Height());
     const double draw = MedianMilliseconds(repetitions, [&] { DrawWindow(document, image); });
     const double encode = MedianMilliseconds(repetitions, [&] { image.SavePng(path + ".png"); });
+    const double pngKiB = double(std::filesystem::file_size(path + ".png")) / 1024;
     std::printf("%7d  %8.1f KiB  ", widgetCount, double(std::filesystem::file_size(path)) / 1024);
     if (!loaded) {
-        std::printf("load refused (over the file size limit); draw %.1f ms, PNG %.1f ms\n", draw, encode);
+        std::printf("load refused (over the file size limit); draw %.1f ms, PNG %.1f ms (%.1f KiB)\n", draw, encode,
+                    pngKiB);
         return;
     }
     const double render = load + draw + encode;
-    std::printf("load %8.1f ms  render %8.1f ms = %5.2fx the load (target 2x; draw %.1f ms, PNG %.1f ms)\n", load,
-                render, render / load, draw, encode);
+    std::printf("load %8.1f ms  render %8.1f ms = %5.2fx the load (target 2x; draw %.1f ms, PNG %.1f ms, %.1f KiB)\n",
+                load, render, render / load, draw, encode, pngKiB);
 }
 
 // A full paint of the mixed window through the painter target, as the canvas paints, against

@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
     cmake make g++ pkg-config
-    qt6-base-dev libxml2-dev libgtest-dev qt6-tools-dev qt6-l10n-tools
+    qt6-base-dev libxml2-dev libdeflate-dev libgtest-dev qt6-tools-dev qt6-l10n-tools
     locales
     xvfb xauth x11-utils xdotool imagemagick fonts-dejavu-core
     desktop-file-utils appstream dpkg-dev file

@@ -19,10 +19,11 @@ struct FileResult {
     explicit operator bool() const { return ok; }
 };
 
-// The largest file ReadWholeFile takes in. A window of 10,000 widgets is about 17 MB; the limit
-// keeps a hostile or mistaken path from filling the memory.
-inline constexpr std::uint64_t kMaxFileSize = std::uint64_t(64) << 20;
-// kMaxFileSize for messages and documentation: "64 MiB".
+// The largest file ReadWholeFile takes in. A window of 10,000 widgets is about 17 MB, one of 100,000
+// about 170 MB; a load holds about four times its file, so the limit keeps a hostile or mistaken path
+// from filling the memory while a window of that size still opens.
+inline constexpr std::uint64_t kMaxFileSize = std::uint64_t(256) << 20;
+// kMaxFileSize for messages and documentation: "256 MiB".
 std::string MaxFileSizeText();
 
 // Reads a file piece by piece, so that a reader that parses as it goes never holds the whole

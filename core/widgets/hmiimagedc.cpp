@@ -1,8 +1,8 @@
 #include "hmiimagedc.h"
 
 #include "hmipainterdc.h"
+#include "pngencoder.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -54,12 +54,15 @@ HmiColor CHmiImageDC::GetPixel(int x, int y) const
 FileResult CHmiImageDC::SavePng(const std::string& path) const
 {
     // Encoded in memory and then saved whole, so that a full disk leaves an older image as it was.
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!m_canvas->image.save(&buffer, "PNG"))
+    // The image's own 32-bit pixels are encoded as they stand, with no converted copy.
+    const QImage& image = m_canvas->image;
+    const std::string png = image.isNull() ? std::string()
+                                           : EncodeRgbPng({reinterpret_cast<const std::uint32_t*>(image.constBits()),
+                                                           image.width(), image.height(),
+                                                           image.bytesPerLine() / qsizetype(sizeof(std::uint32_t))});
+    if (png.empty())
         return FileResult::Failure("Cannot write the image " + path);
-    return WriteFileAtomically(path, std::string_view(png.constData(), std::size_t(png.size())));
+    return WriteFileAtomically(path, png);
 }
 
 // Everything else is the painter's, on the image.

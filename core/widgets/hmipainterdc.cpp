@@ -647,13 +647,13 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
 {
     if (lines.empty())
         return;
-    // Rows and columns are filled runs each. Other lines set their pixels in a layer of their
-    // own, which is then laid over the target: that takes whole pixels, which the painter's
-    // transformation must keep.
-    const bool straight = std::all_of(lines.begin(), lines.end(), [](const HmiThinLine& line) {
-        return line.from.x == line.to.x || line.from.y == line.to.y;
+    // Rows are filled runs each. Other lines set their pixels in a layer of their own, which is
+    // then laid over the target: that takes whole pixels, which the painter's transformation must
+    // keep. Columns go to the layer too, since a filled run one pixel wide is filled pixel by pixel.
+    const bool rows = std::all_of(lines.begin(), lines.end(), [](const HmiThinLine& line) {
+        return line.from.y == line.to.y;
     });
-    if (straight || !PaintsWholeDevicePixels()) {
+    if (rows || !PaintsWholeDevicePixels()) {
         CHmiDC::ThinLines(lines);
         return;
     }

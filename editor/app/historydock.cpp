@@ -19,7 +19,12 @@ CHistoryDock::CHistoryDock(QWidget* parent)
 {
     setObjectName(QStringLiteral("historyDock"));
     m_view->setEmptyLabel(tr("<opened>"));
-    m_view->setCleanIcon(style()->standardIcon(QStyle::SP_DialogSaveButton)); // where it was saved
+    // The icon marks where the window was saved; it is read from the style's images when the
+    // list is first seen, since the dock starts behind the property pane.
+    connect(this, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (visible && m_view->cleanIcon().isNull())
+            m_view->setCleanIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    });
     m_oneStepNote->setWordWrap(true);
     m_oneStepNote->setMargin(6);
     m_oneStepNote->hide();

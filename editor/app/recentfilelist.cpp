@@ -26,6 +26,9 @@ CRecentFileList::CRecentFileList(QSettings& settings) : m_settings(settings)
 
 void CRecentFileList::Add(const QString& path)
 {
+    // Storing an unchanged list would still have the settings file written out and synced.
+    if (!m_files.isEmpty() && m_files.first() == path)
+        return;
     m_files.removeAll(path);
     m_files.prepend(path);
     while (m_files.size() > kSize)

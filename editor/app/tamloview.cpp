@@ -185,7 +185,7 @@ void CTamloView::SetZoomPercent(int percent)
     m_backdrop = QImage();
     FitToWindow();
     m_controls.PlaceAll();
-    update();
+    m_overlay->update();
     emit zoomChanged(m_mapping.Percent());
 }
 
@@ -200,16 +200,24 @@ QRect CTamloView::ToClientRect(const HmiRect& docRect) const
 void CTamloView::InvalidateDocRect(const HmiRect& area)
 {
     if (!m_painting)
-        update(ToClientRect(area));
+        m_overlay->update(ToClientRect(area));
 }
 
 void CTamloView::InvalidateView()
 {
     if (!m_painting)
-        update();
+        m_overlay->update();
 }
 
 void CTamloView::DocumentChanged(const CDocumentChange& change)
+{
+    RepaintChanged(change);
+    // The controls move once the canvas has asked for its repaint: the repaint their moves ask
+    // for then joins it (see CCanvasOverlay).
+    m_controls.DocumentChanged(change);
+}
+
+void CTamloView::RepaintChanged(const CDocumentChange& change)
 {
     constexpr DocChange kDrawn =
         DocChange::Geometry | DocChange::Properties | DocChange::Added | DocChange::Removed | DocChange::Order;
@@ -262,7 +270,7 @@ void CTamloView::ShowDragFeedback(std::vector<HmiRect> clientRects)
 void CTamloView::InvalidateFeedback()
 {
     if (m_feedback.size() > kOutlinesRepaintedOneByOne)
-        return update(FeedbackArea());
+        return m_overlay->update(FeedbackArea());
     // Only the outlines change: a large widget dragged over many repaints none of them inside.
     // A small one is repainted whole, which is one area instead of four.
     for (const HmiRect& rect : m_feedback) {
@@ -270,13 +278,13 @@ void CTamloView::InvalidateFeedback()
         const int width = outline.width() + 2;
         const int height = outline.height() + 2;
         if (std::min(width, height) < kLeastOutlineRepaintedByEdges) {
-            update(outline.adjusted(-1, -1, 1, 1));
+            m_overlay->update(outline.adjusted(-1, -1, 1, 1));
             continue;
         }
-        update(outline.left() - 1, outline.top() - 1, width, 3);
-        update(outline.left() - 1, outline.bottom() - 1, width, 3);
-        update(outline.left() - 1, outline.top() - 1, 3, height);
-        update(outline.right() - 1, outline.top() - 1, 3, height);
+        m_overlay->update(outline.left() - 1, outline.top() - 1, width, 3);
+        m_overlay->update(outline.left() - 1, outline.bottom() - 1, width, 3);
+        m_overlay->update(outline.left() - 1, outline.top() - 1, 3, height);
+        m_overlay->update(outline.right() - 1, outline.top() - 1, 3, height);
     }
 }
 
@@ -285,7 +293,7 @@ void CTamloView::SetLayoutAids(const LayoutAids& aids)
     const bool gridChanged = aids.showGrid != m_aids.showGrid || (aids.showGrid && aids.gridSize != m_aids.gridSize);
     m_aids = aids;
     if (gridChanged)
-        update();
+        m_overlay->update();
 }
 
 void CTamloView::ShowSnapGuides(std::vector<SnapGuide> guides)
@@ -308,7 +316,7 @@ QRect CTamloView::SnapGuideArea(const SnapGuide& guide) const
 void CTamloView::InvalidateSnapGuides()
 {
     for (const SnapGuide& guide : m_snapGuides)
-        update(SnapGuideArea(guide));
+        m_overlay->update(SnapGuideArea(guide));
 }
 
 QRect CTamloView::FeedbackArea() const
@@ -475,11 +483,15 @@ void CTamloView::DrawDragFeedback(QPainter& painter, const QRect& exposed) const
 {
     // Focus rectangles: dotted outlines that show on any background. The dots are set in an
     // image of their own and inverted onto the canvas at once, which outlines thousands of
-    // widgets far faster than a dotted pen strokes them.
+    // widgets far faster than a dotted pen strokes them. The image is kept, as a drag shows the
+    // outlines again at every mouse move: a new one would cost more than setting the dots.
     const QRect area = FeedbackArea() & exposed;
     if (area.isEmpty())
         return;
-    QImage dots(area.size(), QImage::Format_ARGB32_Premultiplied);
+    if (m_outlineDots.width() < area.width() || m_outlineDots.height() < area.height())
+        m_outlineDots = QImage(area.size().expandedTo(m_outlineDots.size()), QImage::Format_ARGB32_Premultiplied);
+    QImage dots(m_outlineDots.bits(), area.width(), area.height(), m_outlineDots.bytesPerLine(),
+                m_outlineDots.format());
     dots.fill(Qt::transparent);
     for (const HmiRect& rect : m_feedback) {
         const HmiRect r = rect.Normalized();
@@ -549,7 +561,7 @@ void CTamloView::SetPreview(const CPreviewSession* preview)
     m_tools.Cancel(*this); // a drag in progress ends before the canvas turns read-only
     m_preview = preview;
     m_controls.SetHidden(preview != nullptr);
-    update();
+    m_overlay->update();
 }
 
 void CTamloView::InvalidatePreview(std::span<const HmiRect> areas)

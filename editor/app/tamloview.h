@@ -49,7 +49,7 @@ public:
     void InvalidateView() override;
 
     // CDocumentObserver: repaints where changed widgets stood and stand, and the whole canvas
-    // when the window widget, the background, changed.
+    // when the window widget, the background, changed; then brings the live controls in step.
     void DocumentChanged(const CDocumentChange& change) override;
 
     // CCanvasToolHost
@@ -104,6 +104,7 @@ protected:
 private:
     // Grows or shrinks the canvas to the window widget's size at the zoom.
     void FitToWindow();
+    void RepaintChanged(const CDocumentChange& change);
     QRect ToClientRect(const HmiRect& docRect) const;
     static void ClipTo(QPainter& painter, const QRegion& region);
     void CopyBackdrop(QPainter& painter, const QRegion& region) const;
@@ -138,6 +139,7 @@ private:
     std::vector<SnapGuide> m_snapGuides; // in window coordinates
     QImage m_backdrop;       // the document drawn once for a large drag, kept
     QRegion m_staleBackdrop; // where the document changed since the backdrop was drawn
+    mutable QImage m_outlineDots; // where the drag's outlines are set, kept from paint to paint
     // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
     // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.
     mutable CHmiDrawingCache m_drawings;
@@ -145,6 +147,6 @@ private:
     bool m_painting = false;
     const CPreviewSession* m_preview = nullptr;
     mutable CDesignOutlines m_outlines; // what it learns of the widgets while painting is kept
-    CCanvasOverlay* m_overlay; // a child
+    CCanvasOverlay* m_overlay; // a child, of which the canvas asks every repaint
     CCanvasControls m_controls; // last: it hands the controls back before the canvas goes
 };

@@ -19,12 +19,10 @@ CCanvasControls::CCanvasControls(QWidget& canvas, const CHmiView& view, CTamloDo
     : m_canvas(canvas), m_view(view), m_document(document), m_forwarder(new CControlMouseForwarder(canvas))
 {
     Sync();
-    m_document.AddObserver(this);
 }
 
 CCanvasControls::~CCanvasControls()
 {
-    m_document.RemoveObserver(this);
     for (const HmiWidgetPtr& widget : m_document.Widgets()) {
         auto* controlWidget = dynamic_cast<CHmiCtrlWidget*>(widget.get());
         if (controlWidget && ControlOf(*controlWidget))

@@ -11,9 +11,9 @@ class QWidget;
 
 // The live controls of one canvas: a real child widget for each control widget of the document
 // (check box, combo box, edit box, and the report lists of the alarm window and the history list).
-// The widgets own their controls; this class gives new widgets their controls and, as the
-// document's observer, keeps exactly the controls of changed widgets in step: it moves them,
-// shows their edited properties, and hides those of widgets that left the window.
+// The widgets own their controls; this class gives new widgets their controls and, told each
+// change of the document by its canvas, keeps exactly the controls of changed widgets in step:
+// it moves them, shows their edited properties, and hides those of widgets that left the window.
 class CCanvasControls : public CDocumentObserver {
 public:
     // view converts window coordinates to the canvas's client coordinates.
@@ -26,6 +26,8 @@ public:
     // The control of a widget when this canvas made it, else null.
     CCanvasControl* ControlOf(const CHmiCtrlWidget& widget) const;
 
+    // The canvas tells each change after it has asked for its own repaint, so that the controls
+    // that move join that repaint.
     void DocumentChanged(const CDocumentChange& change) override;
     // Hides every control while the canvas shows something else than the document, and shows
     // those of the window's widgets again.

@@ -69,6 +69,7 @@ CProjectExplorer::CProjectExplorer(QWidget* parent)
     , m_watch(new CFileWatch(this))
     , m_findReferences(new QAction(tr("Find References"), this))
 {
+    setHeaderLabel(QString());
     m_findReferences->setObjectName(QStringLiteral("findReferencesAction"));
     m_findReferences->setStatusTip(tr("List the windows and widgets that use this variable"));
     m_refreshSoon.setSingleShot(true);
@@ -83,7 +84,6 @@ CProjectExplorer::CProjectExplorer(QWidget* parent)
         if (QTreeWidgetItem* item = currentItem(); item && !item->data(0, ReferenceRole).isNull())
             emit findReferencesRequested(item->data(0, ReferenceRole).toString());
     });
-    Refresh();
 }
 
 void CProjectExplorer::Refresh()
@@ -129,8 +129,15 @@ void CProjectExplorer::Refresh()
 QTreeWidgetItem* CProjectExplorer::AddHeading(const QString& text)
 {
     auto* heading = new QTreeWidgetItem(this, {text});
-    heading->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
+    heading->setIcon(0, FolderIcon());
     return heading;
+}
+
+const QIcon& CProjectExplorer::FolderIcon()
+{
+    if (m_folderIcon.isNull())
+        m_folderIcon = style()->standardIcon(QStyle::SP_DirIcon);
+    return m_folderIcon;
 }
 
 void CProjectExplorer::AddWindows(const CProjectContents& contents)
@@ -161,7 +168,7 @@ void CProjectExplorer::AddVariables(const VariableNode& root)
         pending.pop_back();
         for (const VariableNode* child : node->children) {
             auto* folder = new QTreeWidgetItem(item, {VariableNodeText(*child)});
-            folder->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
+            folder->setIcon(0, FolderIcon());
             pending.emplace_back(child, folder);
         }
         const std::vector<std::string> columns = CHmiVariableDatabase::Columns(*node);

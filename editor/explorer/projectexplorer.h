@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -14,7 +15,8 @@ struct VariableNode;
 // asks for it to be opened; a variable's context menu offers "Find References".
 //
 // The explorer shows the project at GetProjectPath() as it was at the last Refresh, and reads
-// it again by itself when another program changes the project's files.
+// it again by itself when another program changes the project's files. It is empty until the
+// first Refresh, so that building it costs a start nothing.
 class CProjectExplorer : public QTreeWidget {
     Q_OBJECT
 public:
@@ -40,9 +42,12 @@ private:
     using TextOf = QString (*)(const std::string&);
     void AddNames(const QString& heading, const std::vector<std::string>& names, TextOf textOf);
     QTreeWidgetItem* AddHeading(const QString& text);
+    // The style's folder icon, read from its images once rather than for every folder.
+    const QIcon& FolderIcon();
 
     CFileWatch* m_watch;
     QAction* m_findReferences;
     // A program that saves changes several files in a row: the explorer reads them once.
     QTimer m_refreshSoon;
+    QIcon m_folderIcon;
 };

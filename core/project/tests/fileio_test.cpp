@@ -46,7 +46,7 @@ TEST(ReadWholeFile, OpensRegularFilesWithinTheSizeLimitOnly)
         {dir.Path("fifo"), "it is not a regular file"}, // would wait for a writer
         {"/dev/zero", "it is not a regular file"},      // would never end
         {dir.Path(""), "it is a folder"},
-        {WriteSparse(dir, "over", kMaxFileSize + 1), "it is larger than the limit of 64 MiB"},
+        {WriteSparse(dir, "over", kMaxFileSize + 1), "it is larger than the limit of 256 MiB"},
     };
     for (const auto& [path, reason] : cases) {
         const FileResult read = ReadWholeFile(path, bytes);
@@ -64,7 +64,7 @@ TEST(ReadWholeFile, StopsAtTheLimitWhenAFileHoldsMoreThanItsSizeTells)
     std::string bytes;
     const FileResult read = ReadWholeFile("/proc/self/pagemap", bytes);
     EXPECT_FALSE(read);
-    EXPECT_NE(read.error.find("larger than the limit of 64 MiB"), std::string::npos) << read.error;
+    EXPECT_NE(read.error.find("larger than the limit of 256 MiB"), std::string::npos) << read.error;
     EXPECT_TRUE(bytes.empty());
 }
 

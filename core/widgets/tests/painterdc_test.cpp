@@ -4,6 +4,7 @@
 #include "tests/support/tempdir.h"
 #include "widgets/hmiimagedc.h"
 #include "widgets/hmipainterdc.h"
+#include "widgets/pngencoder.h"
 
 #include <QImage>
 #include <QPainter>
@@ -14,6 +15,7 @@
 #include <cmath>
 #include <filesystem>
 #include <functional>
+#include <random>
 #include <set>
 #include <sys/stat.h>
 
@@ -248,6 +250,36 @@ TEST(PainterDC, PicturesAreReadFromRegularFilesWithinTheSizeLimit)
         EXPECT_FALSE(refused.DrawPictureFile(path, {0, 0, 6, 6}, nullptr)) << path;
         EXPECT_EQ(ColoursIn(refused), std::set<HmiColor>{kWhite}) << path;
     }
+}
+
+// Rows stored as they are and rows equal to the one above alike decode to the pixels given.
+TEST(PainterDC, SavedPngsDecodeToTheirPixels)
+{
+    // 0xAARRGGBB rows, 5 values apart, of which 4 are the image: noise, a row equal to it, one that
+    // differs in its last pixel, one in alpha alone. The fifth value of each row must not show.
+    std::minstd_rand random(7);
+    std::vector<std::uint32_t> values(5 * 4);
+    for (std::uint32_t& value : values)
+        value = std::uint32_t(random());
+    std::copy_n(values.begin(), 5, values.begin() + 5);
+    std::copy_n(values.begin(), 3, values.begin() + 10);
+    for (int x = 0; x < 4; ++x)
+        values[15 + x] = values[x] ^ 0xFF000000u;
+    const std::string png = EncodeRgbPng({values.data(), 4, 4, 5});
+    const QImage decoded = QImage::fromData(reinterpret_cast<const uchar*>(png.data()), qsizetype(png.size()));
+    ASSERT_EQ(decoded.size(), QSize(4, 4));
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 4; ++x)
+            EXPECT_EQ(decoded.pixel(x, y), values[std::size_t(5 * y + x)] | 0xFF000000u) << x << "," << y;
+    EXPECT_TRUE(EncodeRgbPng({values.data(), 0, 4, 5}).empty());
+
+    TempDir dir;
+    CHmiImageDC drawn(1, 3);
+    drawn.FillSolidRect({0, 1, 1, 2}, kRed);
+    ASSERT_TRUE(drawn.SavePng(dir.Path("drawn.png")));
+    EXPECT_EQ(QImage(QString::fromStdString(dir.Path("drawn.png"))).pixel(0, 1), qRgb(255, 0, 0));
+    EXPECT_FALSE(CHmiImageDC(0, 0).SavePng(dir.Path("empty.png")));
+    EXPECT_EQ(dir.Entries(), std::vector<std::string>{"drawn.png"});
 }
 
 TEST(PainterDC, ShapesRunningPastTheImageKeepEveryPixelInside)

@@ -255,7 +255,7 @@ private slots:
 
     // The modified mark follows the stack: saving makes the state clean, and undoing or redoing
     // back to it clears the mark.
-    void theModifiedMarkFollowsTheSavedState()
+    void theModifiedMarkFollowsTheSavedStateInTheList()
     {
         editor->prompts.saveFileName = editor->folder.filePath(QStringLiteral("saved.xml"));
         QVERIFY(child->Save());
@@ -270,6 +270,13 @@ private slots:
         QVERIFY(document->IsModified());
         Stack().redo();
         QVERIFY(!document->IsModified());
+
+        // The saved entry carries the save icon once the dock, which starts behind the property
+        // pane, is shown.
+        auto* dock = editor->frame.findChild<CHistoryDock*>();
+        dock->show();
+        dock->raise();
+        QTRY_VERIFY(!dock->View().cleanIcon().isNull());
     }
 
     // The preference switches every open window: unlimited starts an empty history from the
