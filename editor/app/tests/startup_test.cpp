@@ -22,6 +22,7 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -176,7 +177,9 @@ private slots:
             {{QStringLiteral("kelvo-hmi-editor")}, QStringLiteral("/main.xml")}};
         for (const auto& [arguments, window] : starts) {
             CTamloApp editor(prompts, sandbox.filePath(QStringLiteral("project-test")));
+            QSignalSpy finished(&editor, &CTamloApp::startFinished); // the window opens after the first paint
             QCOMPARE(editor.Start(arguments), CTamloApp::StartResult::Started);
+            QVERIFY(finished.wait());
             QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
             QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + window);
             SetProjectPath({});
