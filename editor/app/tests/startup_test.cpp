@@ -169,7 +169,8 @@ private slots:
         QVERIFY(CLibraryCrashGuard::CrashedLibraries(state).empty());
     }
 
-    // "*project*window" names the project and a window of it; without a file the demo opens.
+    // "*project*window" names the project and a window of it; without a file the demo opens, its
+    // window's rows in the property pane each as tall as its editor, a check box with its button.
     void theStarArgumentOrTheDemoNamesTheProject()
     {
         const std::pair<QStringList, QString> starts[] = {
@@ -181,6 +182,10 @@ private slots:
             QCOMPARE(editor.Start(arguments), CTamloApp::StartResult::Started);
             QVERIFY(finished.wait());
             QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
+            const CPropertyPaneItem* visible = editor.MainFrame()->PropertyPane().FindItem("Visible");
+            QVERIFY(visible && visible->BindButton());
+            QCOMPARE(editor.MainFrame()->PropertyPane().Tree()->visualItemRect(visible->Row()).height(),
+                     visible->BindButton()->parentWidget()->sizeHint().height());
             QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + window);
             SetProjectPath({});
         }
