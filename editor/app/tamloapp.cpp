@@ -90,7 +90,10 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings, m_session);
     m_mainFrame->SetWidgetLibraries(std::move(libraries));
     auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
-    connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, &CHandOverQueue::Add);
+    // A file handed over before the frame has painted opens after the start's own window.
+    connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, [this, handedOver](const QString& path) {
+        m_mainFrame->AfterFirstPaint([handedOver, path] { handedOver->Add(path); });
+    });
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 

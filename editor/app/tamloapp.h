@@ -10,8 +10,8 @@
 
 class CEditorPrompts;
 class CMainFrame;
-class CTamloDoc;
 class CRecoveryKeeper;
+class CTamloDoc;
 class CTerminationSignals;
 class QSettings;
 
