@@ -13,7 +13,7 @@
 
 namespace {
 
-// Connections that wait for the event loop to accept them; more are refused meanwhile.
+// Connections that wait for the event loop to accept them; further ones wait in their connect().
 constexpr int kBacklog = 50;
 constexpr std::size_t kReadChunk = 4096;
 
@@ -63,7 +63,7 @@ bool WriteAll(int fd, const QByteArray& bytes)
     return true;
 }
 
-bool PeerIsThisUser(int fd)
+bool SocketPeerIsThisUser(int fd)
 {
     ucred peer = {};
     socklen_t size = sizeof peer;

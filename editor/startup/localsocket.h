@@ -15,7 +15,7 @@ int ConnectLocalSocket(const QString& path, int timeoutMs);
 // Writes all the bytes to a blocking socket; false when the peer is gone or stops reading.
 bool WriteAll(int fd, const QByteArray& bytes);
 // True when the process at the other end of the connected socket runs as this user.
-bool PeerIsThisUser(int fd);
+bool SocketPeerIsThisUser(int fd);
 
 // One accepted connection, read from the event loop as bytes arrive.
 class CLocalConnection : public QObject {
@@ -25,7 +25,7 @@ public:
     explicit CLocalConnection(int fd, QObject* parent = nullptr);
     ~CLocalConnection() override;
 
-    bool PeerIsThisUser() const { return m_fd >= 0 && ::PeerIsThisUser(m_fd); }
+    bool PeerIsThisUser() const { return m_fd >= 0 && SocketPeerIsThisUser(m_fd); }
     qint64 BytesAvailable() const { return m_received.size(); }
     QByteArray Peek(qint64 count) const { return m_received.left(count); }
     QByteArray Read(qint64 count);

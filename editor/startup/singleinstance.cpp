@@ -45,7 +45,7 @@ QByteArray EncodeRecord(quint32 identifier, const QByteArray& text)
 bool AnEditorOfThisUserListens(const QString& serverName)
 {
     const int probe = ConnectLocalSocket(serverName, kProbeTimeoutMs);
-    const bool ours = probe >= 0 && PeerIsThisUser(probe);
+    const bool ours = probe >= 0 && SocketPeerIsThisUser(probe);
     if (probe >= 0)
         ::close(probe);
     return ours;
@@ -153,7 +153,7 @@ bool CInstanceGuard::SendRecord(const QString& serverName, quint32 identifier, c
     }
     // The bytes stay with the system once written; the listener reads them after this side has gone.
     const auto closing = qScopeGuard([socket] { ::close(socket); });
-    if (!PeerIsThisUser(socket)) {
+    if (!SocketPeerIsThisUser(socket)) {
         qCDebug(lcHandover, "the program on %s runs as another user: nothing sent", qUtf8Printable(serverName));
         return false;
     }
