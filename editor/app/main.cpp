@@ -47,7 +47,6 @@ int main(int argc, char* argv[])
     case CTamloApp::StartResult::Started:
         return QApplication::exec();
     case CTamloApp::StartResult::HandedOver:
-    case CTamloApp::StartResult::Ended:
         return 0;
     case CTamloApp::StartResult::Failed:
         break;

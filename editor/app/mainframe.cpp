@@ -494,13 +494,20 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
         m_mdiArea->setActiveSubWindow(open);
         return open;
     }
+    std::unique_ptr<CTamloDoc> document = LoadDocument(absolute, message);
+    return document ? AddChild(std::move(document)) : nullptr;
+}
+
+std::unique_ptr<CTamloDoc> CMainFrame::LoadDocument(const QString& path, QString& message)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
     auto document = std::make_unique<CTamloDoc>();
     const FileResult result = document->Load(ToModelPath(absolute));
     if (!result) {
         message = QString::fromStdString(result.error);
         m_recentFiles.Remove(absolute);
         UpdateRecentFileActions();
-        return nullptr;
+        return {};
     }
     m_recentFiles.Add(absolute);
     UpdateRecentFileActions();
@@ -513,7 +520,7 @@ CChildFrame* CMainFrame::OpenDocument(const QString& path, QString& message)
         if (result.notices.size() > kShownNotices)
             message += tr("\n\n... and %1 more notes.").arg(result.notices.size() - kShownNotices);
     }
-    return AddChild(std::move(document));
+    return document;
 }
 
 CChildFrame* CMainFrame::AddChild(std::unique_ptr<CTamloDoc> document)
@@ -725,13 +732,23 @@ bool CMainFrame::event(QEvent* event)
     return QMainWindow::event(event);
 }
 
+void CMainFrame::AfterFirstPaint(std::function<void()> step)
+{
+    if (m_painted)
+        QTimer::singleShot(0, this, std::move(step));
+    else
+        m_afterFirstPaint.push_back(std::move(step));
+}
+
 void CMainFrame::FinishAfterFirstPaint()
 {
     if (m_painted)
         return;
     m_painted = true;
-    m_explorer->Refresh();
-    m_preview->FollowProject();
+    // Queued first, so that the project shows also while a step's message box is open.
+    QTimer::singleShot(0, this, &CMainFrame::FollowProjectPath);
+    for (const std::function<void()>& step : std::exchange(m_afterFirstPaint, {}))
+        step();
 }
 
 void CMainFrame::ShowSelection(CTamloView& view)

@@ -62,6 +62,9 @@ public:
     CChildFrame* OpenDocument(const QString& path);
     // The same, but what the user should be told goes to message instead.
     CChildFrame* OpenDocument(const QString& path, QString& message);
+    // Reads a window file for a child window and adds it to the recent files; null when it
+    // cannot be read. message tells why, or what to know about a file that was read.
+    std::unique_ptr<CTamloDoc> LoadDocument(const QString& path, QString& message);
     // Shows a document that is in memory already in a new child window.
     CChildFrame* AddChild(std::unique_ptr<CTamloDoc> document);
     // The child window that shows the window file, or null.
@@ -92,6 +95,10 @@ public:
 
     // Brings the window to the front after another editor start handed a file over.
     void RaiseAndRestore();
+
+    // Runs the step from the event loop once the frame has painted for the first time, so that
+    // what the first window can do without does not delay it. Steps run in the order given.
+    void AfterFirstPaint(std::function<void()> step);
 
 public slots:
     // Lists every use of a variable reference in the project's windows under "Search Results".
@@ -139,8 +146,8 @@ private:
     void ShowChildInPanes();
     // Shows the widget selected last on the canvas in the property pane and the name list.
     void ShowSelection(CTamloView& view);
-    // The project explorer reads the project once the frame has painted, so that the first
-    // window shows sooner.
+    // The waiting steps run, and the project explorer reads the project, once the frame has
+    // painted, so that the first window shows sooner.
     void FinishAfterFirstPaint();
     // Enables the commands that have something to act on; the panes and the canvas follow the
     // documents' changes themselves.
@@ -190,6 +197,7 @@ private:
     CHistoryDock* m_historyDock = nullptr;
     CChildFrame* m_shownChild = nullptr; // the child whose widgets the panes show
     bool m_painted = false;              // the frame has painted once: the explorer shows the project
+    std::vector<std::function<void()>> m_afterFirstPaint;
     QMenu* m_canvasMenu = nullptr;
     QMenu* m_windowMenu = nullptr;
     std::vector<ScriptFunction> m_scriptFunctions;

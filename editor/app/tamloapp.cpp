@@ -17,6 +17,7 @@
 #include "editor/recovery/terminationsignals.h"
 #include "libraries/widgetlibraryfolders.h"
 #include "project/projectpath.h"
+#include "widgets/tamlodoc.h"
 
 #include <QApplication>
 #include <QDir>
@@ -89,26 +90,45 @@ CTamloApp::StartResult CTamloApp::Start(const QStringList& arguments)
     m_mainFrame = std::make_unique<CMainFrame>(m_prompts, *m_settings, m_session);
     m_mainFrame->SetWidgetLibraries(std::move(libraries));
     auto* handedOver = new CHandOverQueue(*m_mainFrame, m_prompts);
-    connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, &CHandOverQueue::Add);
+    // A file handed over before the frame has painted opens after the start's own window.
+    connect(&m_guard, &CInstanceGuard::openFileRequested, handedOver, [this, handedOver](const QString& path) {
+        m_mainFrame->AfterFirstPaint([handedOver, path] { handedOver->Add(path); });
+    });
     connect(&m_guard, &CInstanceGuard::raiseRequested, m_mainFrame.get(), &CMainFrame::RaiseAndRestore);
     connect(&m_guard, &CInstanceGuard::beepRequested, this, [] { QApplication::beep(); });
 
-    // The explorer reads the project once the main frame has painted.
+    // A window file that cannot be read ends the start before the frame shows; the window
+    // opens once the frame has painted, as the explorer reads the project then.
     const QString documentPath = ApplyProjectArgument(fileArgument);
+    QString notes;
+    if (!documentPath.isEmpty()) {
+        m_startDocument = m_mainFrame->LoadDocument(documentPath, notes);
+        if (!m_startDocument) {
+            m_prompts.ShowError(m_mainFrame.get(), notes);
+            return StartResult::Failed;
+        }
+    }
+    m_mainFrame->show();
+    m_mainFrame->AfterFirstPaint([this, notes, listening] { FinishStart(notes, listening); });
+    return StartResult::Started;
+}
+
+void CTamloApp::FinishStart(const QString& notes, CInstanceGuard::ListenResult listening)
+{
+    if (m_startDocument)
+        m_mainFrame->AddChild(std::move(m_startDocument));
+    else
+        m_mainFrame->NewDocument();
+    if (!notes.isEmpty())
+        m_prompts.ShowInformation(m_mainFrame.get(), notes);
     const std::string programFolder = ToModelPath(QCoreApplication::applicationDirPath());
     m_mainFrame->SetScriptFunctions(LoadScriptFunctions(
         FindScriptFunctionsFile({GetProjectPath(), ToModelPath(InstalledDataFolder()), programFolder})));
-
-    CChildFrame* started =
-        documentPath.isEmpty() ? m_mainFrame->NewDocument() : m_mainFrame->OpenDocument(documentPath);
-    if (!started)
-        return StartResult::Failed;
-    m_mainFrame->show();
     if (listening == CInstanceGuard::ListenResult::Failed)
         m_prompts.ShowError(m_mainFrame.get(), tr("Later starts of the editor cannot hand their files "
-                                                              "to this one:\n%1").arg(m_guard.FailureReason()));
+                                                  "to this one:\n%1").arg(m_guard.FailureReason()));
     StartRecovery();
-    return m_ended ? StartResult::Ended : StartResult::Started;
+    emit startFinished();
 }
 
 void CTamloApp::StartRecovery()
@@ -130,8 +150,7 @@ void CTamloApp::StartRecovery()
 void CTamloApp::EndWithoutQuestions()
 {
     m_recovery->KeepCopies();
-    m_ended = true;
-    // Leaves every event loop, a dialog's included; a start in progress returns Ended.
+    // Leaves every event loop, a dialog's included.
     QCoreApplication::exit(0);
 }
 

@@ -11,6 +11,7 @@
 class CEditorPrompts;
 class CMainFrame;
 class CRecoveryKeeper;
+class CTamloDoc;
 class CTerminationSignals;
 class QSettings;
 
@@ -24,13 +25,14 @@ public:
         Started,    // the main frame is shown
         HandedOver, // another editor runs and was given the file argument
         Failed,     // the file argument could not be opened
-        Ended,      // a termination signal came while starting; the copies are kept
     };
 
     explicit CTamloApp(CEditorPrompts& prompts, const QString& instanceName = CInstanceGuard::ServerName());
     ~CTamloApp() override;
 
-    // arguments as the application received them, the program first.
+    // arguments as the application received them, the program first. A started editor opens
+    // its window, tells what there is to know, and keeps recovery copies once its main frame
+    // has painted; startFinished follows.
     StartResult Start(const QStringList& arguments);
 
     CMainFrame* MainFrame() const { return m_mainFrame.get(); }
@@ -44,7 +46,13 @@ public:
     // The editor's settings: recent files, window layout, preferences.
     static std::unique_ptr<QSettings> OpenSettings();
 
+signals:
+    void startFinished();
+
 private:
+    // The start's steps that wait for the main frame's first paint; notes are what to know
+    // about the window file that was read.
+    void FinishStart(const QString& notes, CInstanceGuard::ListenResult listening);
     bool HandOverToRunningEditor(const QString& fileArgument) const;
     // Sets the project folder that the file argument names (by default the demo project) and
     // returns the window file to open; empty for a new window.
@@ -60,5 +68,5 @@ private:
     std::unique_ptr<CMainFrame> m_mainFrame;
     std::unique_ptr<CRecoveryKeeper> m_recovery;
     std::unique_ptr<CTerminationSignals> m_termination;
-    bool m_ended = false;
+    std::unique_ptr<CTamloDoc> m_startDocument; // read, shown once the main frame has painted
 };

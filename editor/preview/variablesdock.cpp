@@ -76,14 +76,21 @@ CVariablesDock::CVariablesDock(QWidget* parent)
     : QWidget(parent)
     , m_model(new CVariablesModel(this))
     , m_filtered(new QSortFilterProxyModel(this))
-    , m_filter(new QLineEdit)
-    , m_table(new QTableView)
-    , m_message(new QLabel)
-    , m_problemList(new QTreeWidget)
 {
     m_filtered->setSourceModel(m_model);
     m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filtered->setFilterKeyColumn(CVariablesModel::Reference);
+    connect(m_model, &CVariablesModel::valueRefused, this, &CVariablesDock::Tell);
+}
+
+void CVariablesDock::BuildContents()
+{
+    if (m_table)
+        return;
+    m_filter = new QLineEdit;
+    m_table = new QTableView;
+    m_message = new QLabel;
+    m_problemList = new QTreeWidget;
     m_filter->setPlaceholderText(tr("Filter variables"));
     m_filter->setClearButtonEnabled(true);
     connect(m_filter, &QLineEdit::textChanged, m_filtered, &QSortFilterProxyModel::setFilterFixedString);
@@ -96,18 +103,11 @@ CVariablesDock::CVariablesDock(QWidget* parent)
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    connect(m_model, &CVariablesModel::valueRefused, this, &CVariablesDock::Tell);
-    connect(m_model, &QAbstractItemModel::modelReset, m_table, [this] {
-        m_table->resizeColumnsToContents();
-        // Room for the values that generators bring, which the init values seldom need.
-        const int valueWidth = m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000000"));
-        m_table->setColumnWidth(CVariablesModel::Value, std::max(m_table->columnWidth(CVariablesModel::Value), valueWidth));
-    });
+    connect(m_model, &QAbstractItemModel::modelReset, m_table, [this] { FitColumns(); });
 
     m_problemList->setObjectName(QStringLiteral("previewProblems"));
     m_problemList->setHeaderLabels({tr("Widget"), tr("Binding"), tr("Error")});
     m_problemList->setRootIsDecorated(false);
-    m_problemList->hide();
 
     auto* save = ActionButton(tr("Save"));
     save->setToolTip(tr("Keep the values and generators in the project's %1").arg(kValueSetFileName));
@@ -141,6 +141,48 @@ CVariablesDock::CVariablesDock(QWidget* parent)
     layout->addLayout(bar);
     layout->addWidget(m_message);
     layout->addWidget(split, 1);
+    FitColumns();
+    FillProblemList();
+}
+
+void CVariablesDock::FitColumns()
+{
+    m_table->resizeColumnsToContents();
+    // Room for the values that generators bring, which the init values seldom need.
+    const int valueWidth = m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000000"));
+    m_table->setColumnWidth(CVariablesModel::Value, std::max(m_table->columnWidth(CVariablesModel::Value), valueWidth));
+}
+
+void CVariablesDock::FillProblemList()
+{
+    m_problemList->clear();
+    for (const QString& line : m_shownProblems)
+        m_problemList->addTopLevelItem(new QTreeWidgetItem(line.split(QLatin1Char('\t'))));
+    m_problemList->setVisible(!m_shownProblems.isEmpty());
+}
+
+void CVariablesDock::showEvent(QShowEvent* event)
+{
+    BuildContents();
+    QWidget::showEvent(event);
+}
+
+QTableView* CVariablesDock::Table()
+{
+    BuildContents();
+    return m_table;
+}
+
+QLineEdit* CVariablesDock::Filter()
+{
+    BuildContents();
+    return m_filter;
+}
+
+QTreeWidget* CVariablesDock::ProblemList()
+{
+    BuildContents();
+    return m_problemList;
 }
 
 CVariablesDock::~CVariablesDock()
@@ -156,7 +198,8 @@ void CVariablesDock::LoadProject(const std::string& folder)
     m_folder = folder;
     m_values = std::make_unique<CPreviewValues>(database);
     m_model->SetValues(m_values.get());
-    m_message->hide();
+    if (m_message)
+        m_message->hide();
 }
 
 void CVariablesDock::ShowProblems(const std::vector<BindingProblem>& problems)
@@ -167,10 +210,8 @@ void CVariablesDock::ShowProblems(const std::vector<BindingProblem>& problems)
     if (lines == m_shownProblems)
         return;
     m_shownProblems = lines;
-    m_problemList->clear();
-    for (const QString& line : lines)
-        m_problemList->addTopLevelItem(new QTreeWidgetItem(line.split(QLatin1Char('\t'))));
-    m_problemList->setVisible(!lines.isEmpty());
+    if (m_problemList)
+        FillProblemList();
 }
 
 void CVariablesDock::SaveValues()
@@ -197,6 +238,7 @@ void CVariablesDock::LoadValues()
 
 void CVariablesDock::Tell(const QString& text)
 {
+    BuildContents();
     m_message->setText(text);
     m_message->setVisible(!text.isEmpty());
 }

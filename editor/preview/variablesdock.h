@@ -12,6 +12,7 @@
 class CPreviewValues;
 class CVariablesModel;
 class QKeyEvent;
+class QShowEvent;
 class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
@@ -37,9 +38,10 @@ public:
     // Lists the failing bindings of the previewed window; none while no preview runs.
     void ShowProblems(const std::vector<BindingProblem>& problems);
 
-    QTableView* Table() const { return m_table; }
-    QLineEdit* Filter() const { return m_filter; }
-    QTreeWidget* ProblemList() const { return m_problemList; }
+    // The dock's contents are built when it is first shown, or asked for here.
+    QTableView* Table();
+    QLineEdit* Filter();
+    QTreeWidget* ProblemList();
 
 signals:
     // Escape reached the dock: no cell was being edited, so the user means to leave the preview.
@@ -47,8 +49,14 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
+    // The filter, the table, the message and the problem list: the dock usually waits behind
+    // the property pane's tab, and the start of the editor does not wait for it.
+    void BuildContents();
+    void FitColumns();
+    void FillProblemList();
     void SaveValues();
     void LoadValues();
     void Tell(const QString& text);
@@ -57,9 +65,9 @@ private:
     std::unique_ptr<CPreviewValues> m_values;
     CVariablesModel* m_model;
     QSortFilterProxyModel* m_filtered;
-    QLineEdit* m_filter;
-    QTableView* m_table;
-    QLabel* m_message;
-    QTreeWidget* m_problemList;
+    QLineEdit* m_filter = nullptr;
+    QTableView* m_table = nullptr;
+    QLabel* m_message = nullptr;
+    QTreeWidget* m_problemList = nullptr;
     QStringList m_shownProblems; // one line each, to leave the list alone when nothing changed
 };

@@ -128,6 +128,7 @@ QToolButton* CPropertyPaneItem::AddButton(const std::function<void()>& request, 
     button->setAutoRaise(true);
     connect(button, &QToolButton::clicked, this, request);
     m_layout->addWidget(button);
+    button->show(); // in the cell's size at once, also when the pane is filled while it is shown
     return button;
 }
 
@@ -172,6 +173,7 @@ void CPropertyPaneItem::SetBindable(bool bindable)
         delete m_bind;
         m_bind = nullptr;
     }
+    m_row->setSizeHint(CPropertyPane::ValueColumn, m_cell->sizeHint());
 }
 
 std::string CPropertyPaneItem::GetEditText() const

@@ -8,12 +8,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocalSocket>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QtEndian>
 
 #include <cerrno>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -43,20 +42,13 @@ QByteArray EncodeRecord(quint32 identifier, const QByteArray& text)
     return record;
 }
 
-// True when the process at the other end of the connection runs as this user.
-bool PeerIsThisUser(const QLocalSocket& socket)
-{
-    ucred peer = {};
-    socklen_t size = sizeof peer;
-    return ::getsockopt(int(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
-           peer.uid == ::getuid();
-}
-
 bool AnEditorOfThisUserListens(const QString& serverName)
 {
-    QLocalSocket probe;
-    probe.connectToServer(serverName);
-    return probe.waitForConnected(kProbeTimeoutMs) && PeerIsThisUser(probe);
+    const int probe = ConnectLocalSocket(serverName, kProbeTimeoutMs);
+    const bool ours = probe >= 0 && SocketPeerIsThisUser(probe);
+    if (probe >= 0)
+        ::close(probe);
+    return ours;
 }
 
 // Creates the folder for this user alone when it is missing. Empty when the folder may hold
@@ -106,15 +98,14 @@ QString CInstanceGuard::ServerName(const QString& base, const QString& platform)
 CInstanceGuard::CInstanceGuard(const QString& serverName, QObject* parent)
     : QObject(parent), m_name(serverName)
 {
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&m_server, &QLocalServer::newConnection, this, &CInstanceGuard::AcceptConnections);
+    connect(&m_server, &CLocalListener::newConnection, this, &CInstanceGuard::AcceptConnection);
     m_listenerCheck.setInterval(kListenerCheckMs);
     connect(&m_listenerCheck, &QTimer::timeout, this, &CInstanceGuard::ListenAgainAfterError);
 }
 
 CInstanceGuard::ListenResult CInstanceGuard::Listen()
 {
-    if (m_server.isListening())
+    if (m_server.IsListening())
         return ListenResult::Listening;
     m_failureReason = PrivateFolderProblem(QFileInfo(m_name).path());
     if (!m_failureReason.isEmpty()) {
@@ -127,9 +118,9 @@ CInstanceGuard::ListenResult CInstanceGuard::Listen()
         qCDebug(lcHandover, "an editor of this user listens on %s", qUtf8Printable(m_name));
         return ListenResult::AnotherListens;
     }
-    QLocalServer::removeServer(m_name);
-    if (!m_server.listen(m_name)) {
-        m_failureReason = tr("Cannot listen on %1: %2").arg(m_name, m_server.errorString());
+    QFile::remove(m_name);
+    if (!m_server.Listen(m_name)) {
+        m_failureReason = tr("Cannot listen on %1: %2").arg(m_name, m_server.ErrorString());
         qCDebug(lcHandover, "%s", qUtf8Printable(m_failureReason));
         return ListenResult::Failed;
     }
@@ -142,7 +133,7 @@ CInstanceGuard::ListenResult CInstanceGuard::Listen()
 // as it does once the process has run out of file descriptors; it tells nobody.
 void CInstanceGuard::ListenAgainAfterError()
 {
-    if (!m_server.isListening() && Listen() == ListenResult::AnotherListens)
+    if (!m_server.IsListening() && Listen() == ListenResult::AnotherListens)
         m_listenerCheck.stop(); // a later start took the name over meanwhile
 }
 
@@ -154,66 +145,62 @@ bool CInstanceGuard::HandOver(const QString& serverName, const QByteArray& path,
 bool CInstanceGuard::SendRecord(const QString& serverName, quint32 identifier, const QByteArray& text,
                                 int timeoutMs)
 {
-    QLocalSocket socket;
-    socket.connectToServer(serverName);
-    if (!socket.waitForConnected(timeoutMs)) {
+    const int socket = ConnectLocalSocket(serverName, timeoutMs);
+    if (socket < 0) {
         qCDebug(lcHandover, "no editor answers on %s: %s", qUtf8Printable(serverName),
-                qUtf8Printable(socket.errorString()));
+                qUtf8Printable(qt_error_string(errno)));
         return false;
     }
-    if (!PeerIsThisUser(socket)) {
+    // The bytes stay with the system once written; the listener reads them after this side has gone.
+    const auto closing = qScopeGuard([socket] { ::close(socket); });
+    if (!SocketPeerIsThisUser(socket)) {
         qCDebug(lcHandover, "the program on %s runs as another user: nothing sent", qUtf8Printable(serverName));
         return false;
     }
     const QByteArray record = EncodeRecord(identifier, text);
-    if (socket.write(record) != record.size() || !socket.waitForBytesWritten(timeoutMs)) {
-        qCDebug(lcHandover, "cannot send to %s: %s", qUtf8Printable(serverName), qUtf8Printable(socket.errorString()));
+    if (!WriteAll(socket, record)) {
+        qCDebug(lcHandover, "cannot send to %s: %s", qUtf8Printable(serverName), qUtf8Printable(qt_error_string(errno)));
         return false;
     }
     qCDebug(lcHandover, "sent record %u with '%s' to %s", identifier, text.constData(), qUtf8Printable(serverName));
-    // The bytes are with the system now; the listener reads them after this side has gone.
-    socket.disconnectFromServer();
     return true;
 }
 
-void CInstanceGuard::AcceptConnections()
+void CInstanceGuard::AcceptConnection(CLocalConnection* socket)
 {
-    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
-        if (!PeerIsThisUser(*socket)) {
-            qCDebug(lcHandover, "refused a connection from a program of another user");
-            delete socket;
-            continue;
-        }
-        if (m_connections.size() == kMaxOpenConnections) {
-            qCDebug(lcHandover, "%lld connections open: the oldest is dropped", qlonglong(kMaxOpenConnections));
-            m_connections.takeFirst()->abort();
-        }
-        m_connections.append(socket);
-        connect(socket, &QObject::destroyed, this, [this, socket] { m_connections.removeOne(socket); });
-        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { ReadRecord(socket); });
-        QTimer::singleShot(kIdleTimeoutMs, socket, &QLocalSocket::abort);
-        ReadRecord(socket);
+    if (!socket->PeerIsThisUser()) {
+        qCDebug(lcHandover, "refused a connection from a program of another user");
+        delete socket;
+        return;
     }
+    if (m_connections.size() == kMaxOpenConnections) {
+        qCDebug(lcHandover, "%lld connections open: the oldest is dropped", qlonglong(kMaxOpenConnections));
+        m_connections.takeFirst()->Abort();
+    }
+    m_connections.append(socket);
+    connect(socket, &QObject::destroyed, this, [this, socket] { m_connections.removeOne(socket); });
+    connect(socket, &CLocalConnection::disconnected, socket, &QObject::deleteLater);
+    connect(socket, &CLocalConnection::readyRead, this, [this, socket] { ReadRecord(socket); });
+    QTimer::singleShot(kIdleTimeoutMs, socket, &CLocalConnection::Abort);
 }
 
-void CInstanceGuard::ReadRecord(QLocalSocket* socket)
+void CInstanceGuard::ReadRecord(CLocalConnection* socket)
 {
-    if (socket->bytesAvailable() < kHeaderSize)
+    if (socket->BytesAvailable() < kHeaderSize)
         return;
-    const QByteArray header = socket->peek(kHeaderSize);
+    const QByteArray header = socket->Peek(kHeaderSize);
     const auto identifier = qFromLittleEndian<quint32>(header.constData());
     const auto length = qFromLittleEndian<quint32>(header.constData() + sizeof(quint32));
     if (length == 0 || length > kMaxTextLength) {
         qCDebug(lcHandover, "dropped a record that gives its length as %u", length);
-        socket->abort();
+        socket->Abort();
         return;
     }
-    if (socket->bytesAvailable() < kHeaderSize + qint64(length))
+    if (socket->BytesAvailable() < kHeaderSize + qint64(length))
         return;
-    socket->skip(kHeaderSize);
-    const QByteArray text = socket->read(length);
-    socket->disconnectFromServer();
+    socket->Read(kHeaderSize);
+    const QByteArray text = socket->Read(length);
+    socket->Abort();
     if (text.indexOf('\0') == qsizetype(length) - 1)
         Dispatch(identifier, text.chopped(1));
     else

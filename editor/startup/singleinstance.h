@@ -1,14 +1,13 @@
 #pragma once
 
+#include "localsocket.h"
+
 #include <QByteArray>
 #include <QGuiApplication>
 #include <QList>
-#include <QLocalServer>
 #include <QObject>
 #include <QString>
 #include <QTimer>
-
-class QLocalSocket;
 
 // Keeps a user to one running editor per display. The first editor listens on a local socket;
 // a second start on the same display hands its file over to it and ends instead of opening a
@@ -68,14 +67,14 @@ signals:
     void beepRequested();
 
 private:
-    void AcceptConnections();
-    void ReadRecord(QLocalSocket* socket);
+    void AcceptConnection(CLocalConnection* socket);
+    void ReadRecord(CLocalConnection* socket);
     void Dispatch(quint32 identifier, const QByteArray& text);
     void ListenAgainAfterError();
 
     QString m_name;
     QString m_failureReason;
-    QList<QLocalSocket*> m_connections; // open, oldest first; children of m_server, which goes first
-    QLocalServer m_server;
+    QList<CLocalConnection*> m_connections; // open, oldest first; children of m_server, which goes first
+    CLocalListener m_server;
     QTimer m_listenerCheck;
 };

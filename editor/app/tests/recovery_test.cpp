@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QTreeWidget>
 
 #include <chrono>
@@ -39,7 +40,9 @@ struct StartedEditor {
     StartedEditor(RecoveryAnswer answer, const QString& window) : app(prompts, QStringLiteral("recovery-test"))
     {
         prompts.recoveryAnswer = answer;
+        QSignalSpy finished(&app, &CTamloApp::startFinished); // the window and the offer follow the first paint
         QCOMPARE(app.Start({QStringLiteral("kelvo-hmi-editor"), window}), CTamloApp::StartResult::Started);
+        QVERIFY(finished.wait());
     }
     QList<CChildFrame*> Children() const { return app.MainFrame()->Children(); }
 

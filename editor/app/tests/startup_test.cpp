@@ -22,6 +22,7 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -168,7 +169,8 @@ private slots:
         QVERIFY(CLibraryCrashGuard::CrashedLibraries(state).empty());
     }
 
-    // "*project*window" names the project and a window of it; without a file the demo opens.
+    // "*project*window" names the project and a window of it; without a file the demo opens, its
+    // window's rows in the property pane each as tall as its editor, a check box with its button.
     void theStarArgumentOrTheDemoNamesTheProject()
     {
         const std::pair<QStringList, QString> starts[] = {
@@ -176,8 +178,14 @@ private slots:
             {{QStringLiteral("kelvo-hmi-editor")}, QStringLiteral("/main.xml")}};
         for (const auto& [arguments, window] : starts) {
             CTamloApp editor(prompts, sandbox.filePath(QStringLiteral("project-test")));
+            QSignalSpy finished(&editor, &CTamloApp::startFinished); // the window opens after the first paint
             QCOMPARE(editor.Start(arguments), CTamloApp::StartResult::Started);
+            QVERIFY(finished.wait());
             QCOMPARE(GetProjectPath(), QFile::encodeName(kDemo + QLatin1Char('/')).toStdString());
+            const CPropertyPaneItem* visible = editor.MainFrame()->PropertyPane().FindItem("Visible");
+            QVERIFY(visible && visible->BindButton());
+            QCOMPARE(editor.MainFrame()->PropertyPane().Tree()->visualItemRect(visible->Row()).height(),
+                     visible->BindButton()->parentWidget()->sizeHint().height());
             QCOMPARE(ActiveFile(*editor.MainFrame()), kDemo + window);
             SetProjectPath({});
         }

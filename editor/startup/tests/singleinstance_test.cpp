@@ -124,7 +124,7 @@ private slots:
     }
 
     // The socket lies in XDG_RUNTIME_DIR, or else in a folder of the user's that the guard
-    // makes; one that another user owns or may write to is refused.
+    // makes; one that another user owns or may write to is refused. The socket is the user's alone.
     void theSocketFolderIsTheUsersAlone()
     {
         const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
@@ -155,6 +155,9 @@ private slots:
         }
         const QFile::Permissions made = QFile::permissions(sandbox.filePath("missing"));
         QCOMPARE(made & 0x0FFF, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser); // nothing for others
+        CInstanceGuard guard(sandbox.filePath("missing/editor"));
+        QCOMPARE(guard.Listen(), ListenResult::Listening);
+        QCOMPARE(QFile::permissions(guard.Name()) & 0x0FFF, QFile::ReadUser | QFile::WriteUser); // the socket too
     }
 
     // Editors on different displays, a remote session's or none at all, do not meet.
