@@ -54,6 +54,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -63,6 +64,8 @@ const QString kGeometryKey = QStringLiteral("MainFrame/geometry");
 const QString kStateKey = QStringLiteral("MainFrame/state");
 // A window of the panels' common size opens without scrolling in a main window of the first start.
 constexpr QSize kFirstStartCanvas(1024, 768);
+// How long what waits for the frame's first paint waits at most once the frame is shown.
+constexpr std::chrono::milliseconds kLongestWaitForFirstPaint(1000);
 
 // What a child window takes around its canvas.
 QSize ChildFrameExtent(const QStyle& style)
@@ -729,6 +732,10 @@ bool CMainFrame::event(QEvent* event)
 {
     if (event->type() == QEvent::Paint && !m_painted)
         QTimer::singleShot(0, this, &CMainFrame::FinishAfterFirstPaint);
+    // A frame shown minimised or on another desktop may not paint for a long time; the start
+    // window and its recovery must not wait for that.
+    if (event->type() == QEvent::Show && !m_painted)
+        QTimer::singleShot(kLongestWaitForFirstPaint, this, &CMainFrame::FinishAfterFirstPaint);
     return QMainWindow::event(event);
 }
 
