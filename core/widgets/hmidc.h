@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 // A drawing target with device-context semantics. A pen, a brush and a font are selected into
 // it and stay in effect until replaced; shapes are drawn with them. Every Select/Set operation
@@ -157,4 +158,26 @@ public:
     // outside it changes nothing. Routines that draw in many steps leave out the steps that lie
     // wholly outside it.
     virtual HmiRect GetClipBox() const = 0;
+};
+
+// A target that keeps the drawing state as the selectors set it, for targets that read it only
+// when they draw. The defaults are those of a fresh panel device context.
+class CHmiStateDC : public CHmiDC {
+public:
+    HmiPen SelectPen(const HmiPen& pen) override { return std::exchange(m_pen, pen); }
+    HmiBrush SelectBrush(const HmiBrush& brush) override { return std::exchange(m_brush, brush); }
+    HmiFont SelectFont(const HmiFont& font) override { return std::exchange(m_font, font); }
+    HmiColor SetTextColor(HmiColor color) override { return std::exchange(m_textColor, color); }
+    HmiColor SetBkColor(HmiColor color) override { return std::exchange(m_bkColor, color); }
+    HmiBkMode SetBkMode(HmiBkMode mode) override { return std::exchange(m_bkMode, mode); }
+    HmiPoint MoveTo(HmiPoint point) override { return std::exchange(m_position, point); }
+
+protected:
+    HmiPen m_pen;
+    HmiBrush m_brush;
+    HmiFont m_font = HmiFont::DefaultGui();
+    HmiColor m_textColor = 0;
+    HmiColor m_bkColor = 0x00FFFFFF;
+    HmiBkMode m_bkMode = HmiBkMode::Opaque;
+    HmiPoint m_position;
 };

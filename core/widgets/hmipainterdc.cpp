@@ -534,41 +534,17 @@ CHmiPainterDC::CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache)
         m_cache->m_store->BeginPaint();
 }
 
+// A new pen or a new start begins a dotted line's pattern afresh.
 HmiPen CHmiPainterDC::SelectPen(const HmiPen& pen)
 {
     m_patternPhase = 0;
-    return std::exchange(m_pen, pen);
-}
-
-HmiBrush CHmiPainterDC::SelectBrush(const HmiBrush& brush)
-{
-    return std::exchange(m_brush, brush);
-}
-
-HmiFont CHmiPainterDC::SelectFont(const HmiFont& font)
-{
-    return std::exchange(m_font, font);
-}
-
-HmiColor CHmiPainterDC::SetTextColor(HmiColor color)
-{
-    return std::exchange(m_textColor, color);
-}
-
-HmiColor CHmiPainterDC::SetBkColor(HmiColor color)
-{
-    return std::exchange(m_bkColor, color);
-}
-
-HmiBkMode CHmiPainterDC::SetBkMode(HmiBkMode mode)
-{
-    return std::exchange(m_bkMode, mode);
+    return CHmiStateDC::SelectPen(pen);
 }
 
 HmiPoint CHmiPainterDC::MoveTo(HmiPoint point)
 {
     m_patternPhase = 0;
-    return std::exchange(m_position, point);
+    return CHmiStateDC::MoveTo(point);
 }
 
 void CHmiPainterDC::LineTo(HmiPoint point)

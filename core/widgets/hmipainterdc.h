@@ -39,16 +39,11 @@ private:
 // the painter maps whole pixels; they are opaque or absent pixel by pixel, so their copy paints
 // the same pixels. A text's pixels are the same wherever its box stands, so they are kept by its
 // look and box size alone.
-class CHmiPainterDC : public CHmiDC {
+class CHmiPainterDC : public CHmiStateDC {
 public:
     explicit CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache = nullptr);
 
     HmiPen SelectPen(const HmiPen& pen) override;
-    HmiBrush SelectBrush(const HmiBrush& brush) override;
-    HmiFont SelectFont(const HmiFont& font) override;
-    HmiColor SetTextColor(HmiColor color) override;
-    HmiColor SetBkColor(HmiColor color) override;
-    HmiBkMode SetBkMode(HmiBkMode mode) override;
     HmiPoint MoveTo(HmiPoint point) override;
     void LineTo(HmiPoint point) override;
     void PolylineTo(std::span<const HmiPoint> points) override;
@@ -81,12 +76,5 @@ private:
     std::uint64_t m_paint; // which paint this is, from the first target made on
     HmiRect m_deviceArea; // the device in the painter's coordinates
     HmiRect m_clipBox;
-    HmiPen m_pen;
-    HmiBrush m_brush;
-    HmiFont m_font = HmiFont::DefaultGui();
-    HmiColor m_textColor = 0;
-    HmiColor m_bkColor = 0x00FFFFFF;
-    HmiBkMode m_bkMode = HmiBkMode::Opaque;
-    HmiPoint m_position;
     int m_patternPhase = 0; // where a dotted line's pattern stands, carried from segment to segment
 };

@@ -20,17 +20,10 @@ constexpr double kIconOpacity = 0.6;
 const QColor kOutlineColor(0, 0, 0, 110);
 
 // A drawing target that paints nothing and notes whether anything drawn would have shown.
-class CInkProbeDC : public CHmiDC {
+class CInkProbeDC : public CHmiStateDC {
 public:
     bool Inked() const { return m_inked; }
 
-    HmiPen SelectPen(const HmiPen& pen) override { return std::exchange(m_pen, pen); }
-    HmiBrush SelectBrush(const HmiBrush& brush) override { return std::exchange(m_brush, brush); }
-    HmiFont SelectFont(const HmiFont& font) override { return std::exchange(m_font, font); }
-    HmiColor SetTextColor(HmiColor color) override { return std::exchange(m_textColor, color); }
-    HmiColor SetBkColor(HmiColor color) override { return std::exchange(m_bkColor, color); }
-    HmiBkMode SetBkMode(HmiBkMode mode) override { return std::exchange(m_bkMode, mode); }
-    HmiPoint MoveTo(HmiPoint point) override { return std::exchange(m_position, point); }
     void LineTo(HmiPoint point) override
     {
         Note(m_pen.style != HmiPenStyle::Null && point != m_position);
@@ -65,13 +58,6 @@ private:
     void NoteShape() { Note(m_pen.style != HmiPenStyle::Null || !m_brush.hollow); }
 
     bool m_inked = false;
-    HmiPen m_pen;
-    HmiBrush m_brush;
-    HmiFont m_font = HmiFont::DefaultGui();
-    HmiColor m_textColor = 0;
-    HmiColor m_bkColor = 0x00FFFFFF;
-    HmiBkMode m_bkMode = HmiBkMode::Opaque;
-    HmiPoint m_position;
 };
 
 bool Meets(const HmiRect& a, const HmiRect& b)
