@@ -16,13 +16,18 @@
 namespace {
 
 // The exit status when the command line asks for help or the version, or is malformed; these
-// are answered without a display.
+// are answered without a display. A start that asks for none of them does not wait for an
+// application object made only to tell; the answers come from one, whose help text names the
+// program as the application knows it.
 std::optional<int> AnsweredOnTheCommandLine(int& argc, char* argv[])
 {
+    QStringList arguments; // decoded as the application decodes them
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    if (EditorCommandLine::Parse(arguments).request == EditorCommandLine::Request::Start)
+        return std::nullopt;
     const QCoreApplication application(argc, argv);
     const EditorCommandLine commandLine = EditorCommandLine::Parse(QCoreApplication::arguments());
-    if (commandLine.request == EditorCommandLine::Request::Start)
-        return std::nullopt;
     const bool malformed = commandLine.request == EditorCommandLine::Request::Malformed;
     std::fputs(commandLine.text.toLocal8Bit().constData(), malformed ? stderr : stdout);
     return malformed ? 2 : 0;

@@ -44,6 +44,7 @@
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPixmap>
 #include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
@@ -55,6 +56,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -348,13 +350,20 @@ void CMainFrame::CreateMenus()
 
     QToolBar* standard = addToolBar(tr("Standard"));
     standard->setObjectName(QStringLiteral("standardToolBar"));
-    const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
-    m_newAction->setIcon(icon(QStyle::SP_FileIcon));
-    m_openAction->setIcon(icon(QStyle::SP_DialogOpenButton));
-    m_saveAction->setIcon(icon(QStyle::SP_DialogSaveButton));
-    m_undoAction->setIcon(icon(QStyle::SP_ArrowBack));
-    m_redoAction->setIcon(icon(QStyle::SP_ArrowForward));
-    m_deleteAction->setIcon(icon(QStyle::SP_TrashIcon));
+    // The standard icons are read from image files, which waits for the first paint; until then
+    // a blank icon of the tool bar's icon size keeps each button at its final size.
+    const std::vector<std::pair<QAction*, QStyle::StandardPixmap>> icons = {
+        {m_newAction, QStyle::SP_FileIcon},     {m_openAction, QStyle::SP_DialogOpenButton},
+        {m_saveAction, QStyle::SP_DialogSaveButton}, {m_undoAction, QStyle::SP_ArrowBack},
+        {m_redoAction, QStyle::SP_ArrowForward}, {m_deleteAction, QStyle::SP_TrashIcon}};
+    QPixmap blank(standard->iconSize());
+    blank.fill(Qt::transparent);
+    for (const auto& [action, pixmap] : icons)
+        action->setIcon(QIcon(blank));
+    AfterFirstPaint([this, icons] {
+        for (const auto& [action, pixmap] : icons)
+            action->setIcon(style()->standardIcon(pixmap));
+    });
     standard->addActions({m_newAction, m_openAction, m_saveAction});
     standard->addSeparator();
     standard->addActions({m_undoAction, m_redoAction, m_deleteAction});
