@@ -194,6 +194,7 @@ void CMainFrame::CreatePreviewDock()
     auto* dock = new QDockWidget(tr("Variables"), this);
     dock->setObjectName(QStringLiteral("variablesDock"));
     dock->setWidget(m_variables);
+    m_variables->BuildWhenInSight(*dock);
     addDockWidget(Qt::RightDockWidgetArea, dock);
     QDockWidget* properties = findChild<QDockWidget*>(QStringLiteral("propertyDock"));
     tabifyDockWidget(properties, dock);

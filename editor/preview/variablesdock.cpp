@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDockWidget>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -161,9 +162,19 @@ void CVariablesDock::FillProblemList()
     m_problemList->setVisible(!m_shownProblems.isEmpty());
 }
 
+void CVariablesDock::BuildWhenInSight(QDockWidget& dock)
+{
+    m_buildsWhenInSight = true;
+    connect(&dock, &QDockWidget::visibilityChanged, this, [this](bool inSight) {
+        if (inSight)
+            BuildContents();
+    });
+}
+
 void CVariablesDock::showEvent(QShowEvent* event)
 {
-    BuildContents();
+    if (!m_buildsWhenInSight)
+        BuildContents();
     QWidget::showEvent(event);
 }
 

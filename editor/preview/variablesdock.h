@@ -11,6 +11,7 @@
 
 class CPreviewValues;
 class CVariablesModel;
+class QDockWidget;
 class QKeyEvent;
 class QShowEvent;
 class QLabel;
@@ -38,7 +39,10 @@ public:
     // Lists the failing bindings of the previewed window; none while no preview runs.
     void ShowProblems(const std::vector<BindingProblem>& problems);
 
-    // The dock's contents are built when it is first shown, or asked for here.
+    // The dock's contents are built when it is first shown, or asked for here. In a dock widget,
+    // they wait until the dock is in sight: a dock behind another dock's tab is shown as well,
+    // only out of sight.
+    void BuildWhenInSight(QDockWidget& dock);
     QTableView* Table();
     QLineEdit* Filter();
     QTreeWidget* ProblemList();
@@ -70,4 +74,5 @@ private:
     QLabel* m_message = nullptr;
     QTreeWidget* m_problemList = nullptr;
     QStringList m_shownProblems; // one line each, to leave the list alone when nothing changed
+    bool m_buildsWhenInSight = false;
 };
