@@ -10,6 +10,7 @@
 #include "previewactions.h"
 #include "tamloview.h"
 #include "toolbox.h"
+#include "toolboxicons.h"
 #include "viewzoomactions.h"
 #include "widgetlibrarydialog.h"
 #include "widgetnamecombo.h"
@@ -44,7 +45,6 @@
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QPixmap>
 #include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
@@ -161,6 +161,7 @@ void CMainFrame::CreateDocks()
     toolboxDock->setObjectName(QStringLiteral("toolboxDock"));
     toolboxDock->setWidget(m_toolbox);
     addDockWidget(Qt::LeftDockWidgetArea, toolboxDock);
+    AfterFirstPaint([this] { m_toolbox->ShowIcons(); });
 
     // The widget names stand above the property pane, which shows the chosen widget.
     auto* properties = new QWidget;
@@ -352,15 +353,13 @@ void CMainFrame::CreateMenus()
     QToolBar* standard = addToolBar(tr("Standard"));
     standard->setObjectName(QStringLiteral("standardToolBar"));
     // The standard icons are read from image files, which waits for the first paint; until then
-    // a blank icon of the tool bar's icon size keeps each button at its final size.
+    // a blank icon keeps each button at its final size.
     const std::vector<std::pair<QAction*, QStyle::StandardPixmap>> icons = {
-        {m_newAction, QStyle::SP_FileIcon},     {m_openAction, QStyle::SP_DialogOpenButton},
+        {m_newAction, QStyle::SP_FileIcon},          {m_openAction, QStyle::SP_DialogOpenButton},
         {m_saveAction, QStyle::SP_DialogSaveButton}, {m_undoAction, QStyle::SP_ArrowBack},
-        {m_redoAction, QStyle::SP_ArrowForward}, {m_deleteAction, QStyle::SP_TrashIcon}};
-    QPixmap blank(standard->iconSize());
-    blank.fill(Qt::transparent);
+        {m_redoAction, QStyle::SP_ArrowForward},     {m_deleteAction, QStyle::SP_TrashIcon}};
     for (const auto& [action, pixmap] : icons)
-        action->setIcon(QIcon(blank));
+        action->setIcon(BlankIcon());
     AfterFirstPaint([this, icons] {
         for (const auto& [action, pixmap] : icons)
             action->setIcon(style()->standardIcon(pixmap));

@@ -67,7 +67,7 @@ CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), 
     for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
         colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
     setPalette(colours);
-    addItem(new QListWidgetItem(PointerIcon(), tr("Pointer")));
+    AddEntry(PointerIcon(), tr("Pointer"));
     for (const std::string_view key : BuiltinToolboxOrder())
         if (const CWidgetRunTimeClass* entry = CHmiWidget::FindWidgetClassEntry(key))
             AddClass(*entry);
@@ -84,8 +84,22 @@ CToolbox::CToolbox(CCanvasTools& tools, QWidget* parent) : QListWidget(parent), 
 
 void CToolbox::AddClass(const CWidgetRunTimeClass& entry)
 {
-    auto* item = new QListWidgetItem(IconOf(entry, *style()), LabelOf(entry), this);
+    QListWidgetItem* item = AddEntry(IconOf(entry, *style()), LabelOf(entry));
     item->setData(kClassKeyRole, QString::fromStdString(entry.m_strClassKey));
+}
+
+QListWidgetItem* CToolbox::AddEntry(const QIcon& icon, const QString& label)
+{
+    // An entry without an icon has none in the meantime either, so that no row changes its size.
+    m_icons.push_back(icon);
+    return new QListWidgetItem(icon.isNull() ? QIcon() : BlankIcon(), label, this);
+}
+
+void CToolbox::ShowIcons()
+{
+    for (std::size_t row = 0; row < m_icons.size(); ++row)
+        item(int(row))->setIcon(m_icons[row]);
+    m_icons.clear();
 }
 
 bool CToolbox::HasClass(const std::string& key) const

@@ -3,6 +3,7 @@
 #include <QListWidget>
 
 #include <string>
+#include <vector>
 
 class CCanvasTools;
 struct CWidgetRunTimeClass;
@@ -24,10 +25,16 @@ public:
     // Large enough for every entry.
     QSize sizeHint() const override;
 
+    // Gives the entries their icons; until then blank icons of the same size hold their places,
+    // so that drawing the icons can wait for the main frame's first paint.
+    void ShowIcons();
+
 private:
     void AddClass(const CWidgetRunTimeClass& entry);
+    QListWidgetItem* AddEntry(const QIcon& icon, const QString& label);
     bool HasClass(const std::string& key) const;
     void Choose(QListWidgetItem* item);
 
     CCanvasTools& m_tools;
+    std::vector<QIcon> m_icons; // by row, until they are shown
 };

@@ -340,3 +340,8 @@ QIcon PointerIcon()
 {
     return QIcon(new CDrawnIconEngine(DrawPointer));
 }
+
+QIcon BlankIcon()
+{
+    return QIcon(new CDrawnIconEngine([](QPainter&, const CIconGrid&) {}));
+}

@@ -11,3 +11,5 @@
 // The icon of a built-in kind by its class key; a null icon for any other key.
 QIcon BuiltinKindIcon(std::string_view classKey);
 QIcon PointerIcon();
+// An icon that draws nothing, at any size: it holds the place of an icon that comes later.
+QIcon BlankIcon();
