@@ -5,6 +5,8 @@
 #include "editor/app/dialogsizes.h"
 #include "editor/app/firststartlayout.h"
 #include "editor/app/toolbox.h"
+#include "editor/app/toolboxicons.h"
+#include "editor/preview/variablesdock.h"
 #include "editor/propertypane/propertypane.h"
 #include "catalogue/builtinwidgets.h"
 #include "tests/support/registryscope.h"
@@ -15,6 +17,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTableView>
+#include <QToolBar>
 #include <QTreeWidget>
 
 class FirstStartTest : public QObject {
@@ -22,7 +26,9 @@ class FirstStartTest : public QObject {
 
 private slots:
     // Without a saved layout, a window of the panels' common size opens whole beside the docks,
-    // every built-in caption fits the property pane, and every toolbox entry has its icon.
+    // every built-in caption fits the property pane, and every toolbox entry has its icon. The
+    // icons come after the first paint without moving a thing, and the Variables dock, behind
+    // the property pane's tab, is built once its tab is chosen.
     void aPanelSizedWindowOpensWholeBesideThePanes()
     {
         const CRegistryScope registry;
@@ -31,8 +37,18 @@ private slots:
         ScriptedPrompts prompts;
         CEditorSession session;
         CMainFrame frame(prompts, settings, session);
+        const QImage blank = BlankIcon().pixmap(24).toImage();
+        const auto drawn = [&blank](const QIcon& icon) { return !icon.isNull() && icon.pixmap(24).toImage() != blank; };
+        const QSize toolBar = frame.findChild<QToolBar*>()->sizeHint();
+        const int toolboxRow = frame.Toolbox().sizeHintForRow(1);
         frame.show();
         QVERIFY(QTest::qWaitForWindowExposed(&frame));
+        QVERIFY(!frame.findChild<QTableView*>(QStringLiteral("previewVariables")));
+        QTRY_VERIFY(drawn(frame.findChild<QToolBar*>()->actions().constFirst()->icon()));
+        QCOMPARE(frame.findChild<QToolBar*>()->sizeHint(), toolBar);
+        QCOMPARE(frame.Toolbox().sizeHintForRow(1), toolboxRow);
+        frame.VariablesDock().parentWidget()->raise();
+        QVERIFY(frame.findChild<QTableView*>(QStringLiteral("previewVariables")));
         const QRect screen = frame.screen()->availableGeometry();
         QCOMPARE(screen.size(), QSize(1920, 1080));
         QVERIFY(screen.contains(frame.frameGeometry()));
@@ -64,7 +80,7 @@ private slots:
         const CToolbox& toolbox = frame.Toolbox();
         QCOMPARE(toolbox.count(), int(BuiltinToolboxOrder().size()) + 2); // the pointer and the history list
         for (int row = 0; row < toolbox.count(); ++row)
-            QVERIFY2(!toolbox.item(row)->icon().pixmap(24).toImage().isNull(), qPrintable(toolbox.item(row)->text()));
+            QVERIFY2(drawn(toolbox.item(row)->icon()), qPrintable(toolbox.item(row)->text()));
     }
 
     // On a smaller screen the window keeps within it, whatever it would like.
