@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <list>
 #include <map>
 #include <optional>
@@ -234,6 +235,44 @@ private:
 // The most pixels of one layer of thin lines: a larger area is painted in bands of rows.
 constexpr qsizetype kMaxLayerPixels = qsizetype(1) << 20;
 
+// Sets the pixels of the lines that lie in the band, in the layer that covers it, each line over
+// those before it.
+void SetLinePixels(QImage& layer, const HmiRect& band, std::span<const HmiThinLine> lines)
+{
+    QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
+    const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
+    for (const HmiThinLine& line : lines) {
+        const LinePixels pixels(line.from.ForDrawing(), line.to.ForDrawing());
+        const QRgb color = ToQColor(line.color).rgb();
+        pixels.Walk(pixels.Within(band), [&](std::int64_t, int x, int y) {
+            bits[(y - band.top) * stride + (x - band.left)] = color;
+        });
+    }
+}
+
+// SetLinePixels for columns that all run over the same rows: each of those rows holds the same
+// pixels, which are set in one row and copied to the others, row after row rather than column
+// after column through the whole layer.
+void SetColumnPixels(QImage& layer, const HmiRect& band, std::span<const HmiThinLine> columns)
+{
+    const HmiPoint from = columns.front().from.ForDrawing();
+    const HmiPoint to = columns.front().to.ForDrawing();
+    // A column stops one pixel short of its end, as every line does.
+    const int top = std::max(band.top, from.y <= to.y ? from.y : to.y + 1);
+    const int bottom = std::min(band.bottom, from.y <= to.y ? to.y : from.y + 1);
+    if (top >= bottom)
+        return;
+    auto* const row = reinterpret_cast<QRgb*>(layer.scanLine(top - band.top));
+    for (const HmiThinLine& column : columns) {
+        const int x = column.from.ForDrawing().x;
+        if (x >= band.left && x < band.right)
+            row[x - band.left] = ToQColor(column.color).rgb();
+    }
+    const std::size_t rowBytes = std::size_t(band.right - band.left) * sizeof(QRgb);
+    for (int y = top + 1; y < bottom; ++y)
+        std::memcpy(layer.scanLine(y - band.top), row, rowBytes);
+}
+
 QFont ToQFont(const HmiFont& font)
 {
     QFont qfont(QString::fromStdString(Gb2312ToUtf8OrKeep(font.face)));
@@ -374,11 +413,12 @@ namespace {
 
 using KeptDrawing = CHmiDrawingCache::Drawing;
 
-// The largest drawing kept, in pixels, and all of them together, in bytes; an entry's own
-// bookkeeping counts as some bytes besides its pixels and key.
+// The largest drawing kept, in pixels; an entry's own bookkeeping counts as some bytes besides
+// its pixels and key.
 constexpr std::int64_t kMaxKeptPixels = std::int64_t(1) << 20;
-constexpr std::size_t kMaxKeptBytes = std::size_t(64) << 20;
 constexpr std::size_t kBytesPerEntry = 128;
+// The largest stretched picture kept, in pixels.
+constexpr std::int64_t kMaxKeptPicturePixels = 128 * 128;
 
 HmiRect Intersection(const HmiRect& a, const HmiRect& b)
 {
@@ -408,9 +448,10 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
     int top = image.height();
     int bottom = -1;
     std::int64_t opaquePixels = 0;
+    const int width = image.width();
     for (int y = 0; y < image.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             const int alpha = qAlpha(line[x]);
             if (alpha == 0)
                 continue;
@@ -438,15 +479,27 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
 } // namespace
 
 // The drawings by key, the most recently painted first. A drawing is kept the second time its
-// key is painted, so that a window painted once, as by opening it, pays nothing for keeping; and
-// room is made only from drawings that the paint under way has not used, so that a window whose
-// drawings do not all fit keeps those that do rather than replacing them all in turn.
+// key is painted, so that a window painted once, as by opening it, pays nothing for keeping.
+// When they do not all fit, room is made first from what the last two paints have not used, then
+// from the largest drawings, but never for a drawing as large: drawing a text or a small box
+// anew costs its set-up whatever its size, so a small drawing saves more for each byte it takes
+// than a large one, which costs by its pixels either way. A window whose drawings do not all
+// fit so keeps its smallest ones from paint to paint rather than replacing them in turn.
 class CHmiDrawingCache::Store {
 public:
+    struct Entry;
+
+private:
+    using Entries = std::list<std::pair<std::string, Entry>>;
+
+public:
     struct Entry {
-        std::optional<KeptDrawing> drawing; // none yet: painted once
+        std::optional<KeptDrawing> drawing; // none yet: painted once, or no room for it
         std::uint64_t lastPaint = 0;
+        std::multimap<std::size_t, Entries::iterator>::iterator bySize; // when a drawing is kept
     };
+
+    explicit Store(std::size_t maxBytes) : m_maxBytes(maxBytes) {}
 
     // Starts a paint: what it uses stays.
     void BeginPaint() { ++m_paint; }
@@ -457,7 +510,7 @@ public:
     {
         const auto found = m_index.find(key);
         if (found == m_index.end()) {
-            Add(key, Entry{});
+            Add(key);
             return nullptr;
         }
         m_entries.splice(m_entries.begin(), m_entries, found->second);
@@ -466,55 +519,65 @@ public:
         return &entry;
     }
 
-    // Makes room for a drawing of so many bytes; false when the drawings of this paint fill it.
+    // Makes room for so many bytes; false when only what is in use and no larger fills it.
     bool MakeRoom(std::size_t bytes)
     {
-        while (m_bytes + bytes > kMaxKeptBytes && !m_entries.empty() && m_entries.back().second.lastPaint != m_paint)
-            Remove();
-        return m_bytes + bytes <= kMaxKeptBytes;
+        while (m_bytes + bytes > m_maxBytes) {
+            if (!m_entries.empty() && m_entries.back().second.lastPaint + 1 < m_paint)
+                Remove(std::prev(m_entries.end()));
+            else if (!m_bySize.empty() && m_bySize.rbegin()->first > bytes)
+                Remove(std::prev(m_bySize.end())->second);
+            else
+                return false;
+        }
+        return true;
     }
 
-    void Keep(Entry& entry, KeptDrawing drawing)
+    void Keep(const std::string& key, KeptDrawing drawing)
     {
-        m_bytes += std::size_t(drawing.image.sizeInBytes());
-        entry.drawing = std::move(drawing);
+        const Entries::iterator entry = m_index.at(key);
+        const std::size_t bytes = std::size_t(drawing.image.sizeInBytes());
+        m_bytes += bytes;
+        entry->second.drawing = std::move(drawing);
+        entry->second.bySize = m_bySize.emplace(bytes, entry);
     }
 
     std::size_t Bytes() const { return m_bytes; }
 
 private:
-    using Entries = std::list<std::pair<std::string, Entry>>;
-
     static std::size_t SizeOf(const Entries::value_type& entry)
     {
         const std::optional<KeptDrawing>& drawing = entry.second.drawing;
         return entry.first.size() + kBytesPerEntry + (drawing ? std::size_t(drawing->image.sizeInBytes()) : 0);
     }
 
-    void Add(const std::string& key, Entry entry)
+    void Add(const std::string& key)
     {
         if (!MakeRoom(key.size() + kBytesPerEntry))
             return;
-        entry.lastPaint = m_paint;
-        m_entries.emplace_front(key, std::move(entry));
+        m_entries.emplace_front(key, Entry{{}, m_paint, {}});
         m_index.emplace(m_entries.front().first, m_entries.begin());
         m_bytes += SizeOf(m_entries.front());
     }
 
-    void Remove()
+    void Remove(Entries::iterator entry)
     {
-        m_bytes -= SizeOf(m_entries.back());
-        m_index.erase(m_entries.back().first);
-        m_entries.pop_back();
+        m_bytes -= SizeOf(*entry);
+        if (entry->second.drawing)
+            m_bySize.erase(entry->second.bySize);
+        m_index.erase(entry->first);
+        m_entries.erase(entry);
     }
 
     Entries m_entries;
     std::unordered_map<std::string_view, Entries::iterator> m_index; // views of the keys in m_entries
+    std::multimap<std::size_t, Entries::iterator> m_bySize; // the kept drawings by their pixels' bytes
+    std::size_t m_maxBytes;
     std::size_t m_bytes = 0;
     std::uint64_t m_paint = 0;
 };
 
-CHmiDrawingCache::CHmiDrawingCache() : m_store(std::make_unique<Store>()) {}
+CHmiDrawingCache::CHmiDrawingCache(std::size_t maxBytes) : m_store(std::make_unique<Store>(maxBytes)) {}
 
 CHmiDrawingCache::~CHmiDrawingCache() = default;
 
@@ -641,6 +704,9 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
     }
     area = {std::max(area.left, m_clipBox.left), std::max(area.top, m_clipBox.top),
             std::min(area.right, m_clipBox.right), std::min(area.bottom, m_clipBox.bottom)};
+    const bool sameColumns = std::all_of(lines.begin(), lines.end(), [&](const HmiThinLine& line) {
+        return line.from.x == line.to.x && line.from.y == lines.front().from.y && line.to.y == lines.front().to.y;
+    });
     const int width = area.right - area.left;
     const int bandHeight = width > 0 ? int(std::max<qsizetype>(1, kMaxLayerPixels / width)) : 0;
     for (int top = area.top; width > 0 && top < area.bottom; top += bandHeight) {
@@ -649,15 +715,10 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
         if (layer.isNull())
             break; // out of memory: the lines are left out rather than the program
         layer.fill(Qt::transparent);
-        QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
-        const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
-        for (const HmiThinLine& line : lines) {
-            const LinePixels pixels(line.from.ForDrawing(), line.to.ForDrawing());
-            const QRgb color = ToQColor(line.color).rgb();
-            pixels.Walk(pixels.Within(band), [&](std::int64_t, int x, int y) {
-                bits[(y - band.top) * stride + (x - band.left)] = color;
-            });
-        }
+        if (sameColumns)
+            SetColumnPixels(layer, band, lines);
+        else
+            SetLinePixels(layer, band, lines);
         m_painter.drawImage(QPoint(band.left, band.top), layer);
     }
     m_position = lines.back().to;
@@ -795,6 +856,22 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
     const QRect target = ToQRect(rect);
     if (!picture || target.isEmpty())
         return false;
+    // Stretching a small picture costs far more than copying its stretched pixels, which follow
+    // from the decoded picture and the target alone: a canvas keeps the part on its device. A
+    // large one costs by its pixels, as a copy of them would.
+    const HmiRect area = Intersection({target.left(), target.top(), target.left() + target.width(),
+                                       target.top() + target.height()},
+                                      m_deviceArea);
+    if (std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels && Meets(area, m_clipBox)) {
+        const std::string key = HmiReuseKey("picture", {picture->cacheKey(), target.left(), target.top(),
+                                                        target.width(), target.height(), area.left, area.top,
+                                                        area.right, area.bottom});
+        const auto draw = [&](CHmiDC& aside) { aside.DrawPictureFile(path, rect, transparent); };
+        if (const KeptDrawing* kept = Kept(key, area, draw)) {
+            m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
+            return true;
+        }
+    }
     m_painter.drawImage(target, *picture);
     return true;
 }
@@ -822,7 +899,7 @@ const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& ar
     CHmiDrawingCache::Store& store = *m_cache->m_store;
     CHmiDrawingCache::Store::Entry* entry = store.Use(key);
     if (entry && !entry->drawing && store.MakeRoom(std::size_t(area.Width()) * std::size_t(area.Height()) * 4))
-        store.Keep(*entry, DrawAside(area, paint));
+        store.Keep(key, DrawAside(area, paint));
     if (!entry || !entry->drawing || entry->drawing->image.isNull())
         return nullptr;
     return &*entry->drawing;

@@ -11,10 +11,12 @@ class QRect;
 
 // Drawings kept for CHmiPainterDC::DrawReusable under their keys, and the texts it draws, for a
 // canvas that paints the same widgets again and again. Bounded: a drawing larger than a set
-// size is never kept, and the least recently painted ones make room for new ones.
+// size is never kept, and all of them with their keys take at most maxBytes.
 class CHmiDrawingCache {
 public:
-    CHmiDrawingCache();
+    static constexpr std::size_t kDefaultMaxBytes = std::size_t(64) << 20;
+
+    explicit CHmiDrawingCache(std::size_t maxBytes = kDefaultMaxBytes);
     ~CHmiDrawingCache();
     CHmiDrawingCache(const CHmiDrawingCache&) = delete;
     CHmiDrawingCache& operator=(const CHmiDrawingCache&) = delete;

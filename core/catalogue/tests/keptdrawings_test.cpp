@@ -61,15 +61,22 @@ TEST(KeptDrawings, PaintTheWidgetsAsPaintingThemAnewDoesThroughClipsAndShifts)
     for (const unsigned seed : {1u, 2u}) {
         CTamloDoc document;
         FillMixedWindow(document, 400, seed);
-        // One cache for every set-up, as a canvas repaints different areas from the same one.
+        // One cache for every set-up, as a canvas repaints different areas from the same one;
+        // and one too small for all the drawings, which make room for one another.
+        constexpr std::size_t kTightBytes = std::size_t(1) << 20;
         CHmiDrawingCache drawings;
+        CHmiDrawingCache tight(kTightBytes);
         for (const auto& [name, setUp] : setUps) {
             const QImage anew = Paint(document, nullptr, setUp);
             // Noted on the first paint, kept on the second, painted from on the third.
-            for (int paint = 1; paint <= 3; ++paint)
+            for (int paint = 1; paint <= 3; ++paint) {
                 EXPECT_TRUE(Paint(document, &drawings, setUp) == anew) << name << ", seed " << seed << ", paint " << paint;
+                EXPECT_TRUE(Paint(document, &tight, setUp) == anew) << name << ", seed " << seed << ", tight, paint " << paint;
+            }
         }
-        EXPECT_GT(drawings.Bytes(), std::size_t(1) << 20) << "the gradients are kept";
+        EXPECT_GT(drawings.Bytes(), kTightBytes) << "the gradients are kept";
+        EXPECT_LE(tight.Bytes(), kTightBytes);
+        EXPECT_GT(tight.Bytes(), kTightBytes / 2) << "a full cache keeps the drawings that fit";
     }
     CurveSettings::LabelTime() = savedLabelTime;
     CurveSettings::RandomSample() = savedSample;
