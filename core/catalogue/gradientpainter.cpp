@@ -551,22 +551,13 @@ void PaintTriangleGradientLines(CHmiDC& dc, const HmiRect& rect, HmiColor start,
 
 } // namespace
 
-// A gradient of rows, or of columns over the same rows, is painted as filled runs of pixels or
-// as one row copied to the others, about as fast as a kept copy of its pixels would be: keeping
-// it would only take room from drawings that cost more to paint anew.
 void PaintRectGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
 {
-    const bool rowsOrColumns = code >= 32 && code <= 39;
-    if (rowsOrColumns)
-        return PaintRectGradientLines(dc, rect, start, end, code);
     PaintReusable(dc, "rectangle gradient", PaintRectGradientLines, rect, start, end, code);
 }
 
 void PaintEllipseGradient(CHmiDC& dc, const HmiRect& rect, HmiColor start, HmiColor end, std::int32_t code)
 {
-    const bool rows = code == 1;
-    if (rows)
-        return PaintEllipseGradientRings(dc, rect, start, end, code);
     PaintReusable(dc, "ellipse gradient", PaintEllipseGradientRings, rect, start, end, code);
 }
 

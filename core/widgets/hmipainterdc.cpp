@@ -328,23 +328,52 @@ QImage Masked(const QImage& picture, HmiColor transparent)
 {
     QImage masked = picture.convertToFormat(QImage::Format_ARGB32);
     const QRgb key = ToQColor(transparent).rgb();
+    const int width = masked.width();
     for (int y = 0; y < masked.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(masked.scanLine(y));
-        for (int x = 0; x < masked.width(); ++x)
+        for (int x = 0; x < width; ++x)
             if ((line[x] | 0xFF000000u) == key)
                 line[x] = 0;
     }
     return masked;
 }
 
+// A decoded picture file, and its copies masked for the transparent colours it is shown with.
+class Picture {
+public:
+    explicit Picture(QImage decoded) : m_decoded(std::move(decoded)) {}
+
+    // The decoded pixels: the same as long as the file is.
+    const QImage& Decoded() const { return m_decoded; }
+
+    // The picture as it is painted: masked when a transparent colour is given.
+    const QImage& Shown(const HmiColor* transparent)
+    {
+        if (!transparent)
+            return m_decoded;
+        auto masked = m_masked.find(*transparent);
+        if (masked == m_masked.end()) {
+            if (m_masked.size() >= kMaxMaskedCopies)
+                m_masked.clear();
+            masked = m_masked.emplace(*transparent, Masked(m_decoded, *transparent)).first;
+        }
+        return masked->second;
+    }
+
+private:
+    // Widgets may show one picture with different transparent colours.
+    static constexpr std::size_t kMaxMaskedCopies = 16;
+    QImage m_decoded;
+    std::map<HmiColor, QImage> m_masked; // by transparent colour
+};
+
 // Decoded pictures, so that repainting a canvas does not decode its files again, nor mask them
 // again for the same transparent colour. An entry is replaced when its file changes on disk,
 // which is looked at once in each paint, however many widgets show the file.
 class PictureCache {
 public:
-    // The picture, masked when a transparent colour is given; null when the file cannot be read
-    // or decoded.
-    const QImage* Find(const std::string& path, const HmiColor* transparent, std::uint64_t paint)
+    // The picture of the file; null when the file cannot be read or decoded.
+    Picture* Find(const std::string& path, std::uint64_t paint)
     {
         auto found = m_entries.find(path);
         if (found == m_entries.end() || found->second.lookedAtInPaint != paint) {
@@ -354,30 +383,20 @@ public:
             if (found == m_entries.end() || found->second.modified != modified) {
                 if (m_entries.size() >= kMaxEntries)
                     m_entries.clear();
-                const QImage image = isFile ? ForPainting(ReadPicture(path)) : QImage();
-                found = m_entries.insert_or_assign(path, Entry{modified, image, {}, {}, 0}).first;
+                Picture picture(isFile ? ForPainting(ReadPicture(path)) : QImage());
+                found = m_entries.insert_or_assign(path, Entry{modified, std::move(picture), 0}).first;
             }
             found->second.lookedAtInPaint = paint;
         }
-        Entry& entry = found->second;
-        if (entry.image.isNull())
-            return nullptr;
-        if (!transparent)
-            return &entry.image;
-        if (entry.maskedBy != *transparent) {
-            entry.masked = Masked(entry.image, *transparent);
-            entry.maskedBy = *transparent;
-        }
-        return &entry.masked;
+        Picture& picture = found->second.picture;
+        return picture.Decoded().isNull() ? nullptr : &picture;
     }
 
 private:
     static constexpr std::size_t kMaxEntries = 64;
     struct Entry {
         QDateTime modified; // invalid: not a regular file
-        QImage image;
-        QImage masked;
-        std::optional<HmiColor> maskedBy; // the transparent colour of the masked copy
+        Picture picture;
         std::uint64_t lookedAtInPaint;
     };
     std::map<std::string, Entry> m_entries;
@@ -480,11 +499,12 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
 
 // The drawings by key, the most recently painted first. A drawing is kept the second time its
 // key is painted, so that a window painted once, as by opening it, pays nothing for keeping.
-// When they do not all fit, room is made first from what the last two paints have not used, then
-// from the largest drawings, but never for a drawing as large: drawing a text or a small box
-// anew costs its set-up whatever its size, so a small drawing saves more for each byte it takes
-// than a large one, which costs by its pixels either way. A window whose drawings do not all
-// fit so keeps its smallest ones from paint to paint rather than replacing them in turn.
+// When they do not all fit, room is made from what the last two paints have not used, and for a
+// drawing also from larger drawings: drawing a text or a small box anew costs its set-up
+// whatever its size, so a small drawing saves more for each byte it takes than a large one,
+// which costs by its pixels either way. A window whose drawings do not all fit so keeps its
+// smallest ones from paint to paint rather than replacing them in turn, and keys that come and go
+// in every paint, such as a moving widget's, take no room from drawings in use.
 class CHmiDrawingCache::Store {
 public:
     struct Entry;
@@ -519,19 +539,9 @@ public:
         return &entry;
     }
 
-    // Makes room for so many bytes; false when only what is in use and no larger fills it.
-    bool MakeRoom(std::size_t bytes)
-    {
-        while (m_bytes + bytes > m_maxBytes) {
-            if (!m_entries.empty() && m_entries.back().second.lastPaint + 1 < m_paint)
-                Remove(std::prev(m_entries.end()));
-            else if (!m_bySize.empty() && m_bySize.rbegin()->first > bytes)
-                Remove(std::prev(m_bySize.end())->second);
-            else
-                return false;
-        }
-        return true;
-    }
+    // Makes room for a drawing of so many bytes; false when only what is in use and no larger
+    // fills the store.
+    bool MakeRoom(std::size_t bytes) { return MakeRoom(bytes, true); }
 
     void Keep(const std::string& key, KeptDrawing drawing)
     {
@@ -551,9 +561,22 @@ private:
         return entry.first.size() + kBytesPerEntry + (drawing ? std::size_t(drawing->image.sizeInBytes()) : 0);
     }
 
+    bool MakeRoom(std::size_t bytes, bool fromLarger)
+    {
+        while (m_bytes + bytes > m_maxBytes) {
+            if (!m_entries.empty() && m_entries.back().second.lastPaint + 1 < m_paint)
+                Remove(std::prev(m_entries.end()));
+            else if (fromLarger && !m_bySize.empty() && m_bySize.rbegin()->first > bytes)
+                Remove(std::prev(m_bySize.end())->second);
+            else
+                return false;
+        }
+        return true;
+    }
+
     void Add(const std::string& key)
     {
-        if (!MakeRoom(key.size() + kBytesPerEntry))
+        if (!MakeRoom(key.size() + kBytesPerEntry, false))
             return;
         m_entries.emplace_front(key, Entry{{}, m_paint, {}});
         m_index.emplace(m_entries.front().first, m_entries.begin());
@@ -852,27 +875,27 @@ HmiPoint CHmiPainterDC::GetTextExtent(std::string_view text)
 
 bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
-    const QImage* picture = Pictures().Find(path, transparent, m_paint);
+    Picture* picture = Pictures().Find(path, m_paint);
     const QRect target = ToQRect(rect);
     if (!picture || target.isEmpty())
         return false;
     // Stretching a small picture costs far more than copying its stretched pixels, which follow
-    // from the decoded picture and the target alone: a canvas keeps the part on its device. A
-    // large one costs by its pixels, as a copy of them would.
+    // from the decoded picture, the transparent colour and the target alone: a canvas keeps the
+    // part on its device. A large one costs by its pixels, as a copy of them would.
     const HmiRect area = Intersection({target.left(), target.top(), target.left() + target.width(),
                                        target.top() + target.height()},
                                       m_deviceArea);
     if (std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels && Meets(area, m_clipBox)) {
-        const std::string key = HmiReuseKey("picture", {picture->cacheKey(), target.left(), target.top(),
-                                                        target.width(), target.height(), area.left, area.top,
-                                                        area.right, area.bottom});
+        const std::string key = HmiReuseKey(
+            "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
+                        target.top(), target.width(), target.height(), area.left, area.top, area.right, area.bottom});
         const auto draw = [&](CHmiDC& aside) { aside.DrawPictureFile(path, rect, transparent); };
         if (const KeptDrawing* kept = Kept(key, area, draw)) {
             m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
             return true;
         }
     }
-    m_painter.drawImage(target, *picture);
+    m_painter.drawImage(target, picture->Shown(transparent));
     return true;
 }
 
