@@ -250,27 +250,43 @@ void SetLinePixels(QImage& layer, const HmiRect& band, std::span<const HmiThinLi
     }
 }
 
-// SetLinePixels for columns that all run over the same rows: each of those rows holds the same
-// pixels, which are set in one row and copied to the others, row after row rather than column
-// after column through the whole layer.
+// SetLinePixels for columns, row after row rather than column after column through the whole
+// layer: a row holds the pixels of the columns that run over it, the last one at a place over
+// those before it, and the rows between two where a column begins or ends hold the same pixels.
 void SetColumnPixels(QImage& layer, const HmiRect& band, std::span<const HmiThinLine> columns)
 {
-    const HmiPoint from = columns.front().from.ForDrawing();
-    const HmiPoint to = columns.front().to.ForDrawing();
-    // A column stops one pixel short of its end, as every line does.
-    const int top = std::max(band.top, from.y <= to.y ? from.y : to.y + 1);
-    const int bottom = std::min(band.bottom, from.y <= to.y ? to.y : from.y + 1);
-    if (top >= bottom)
-        return;
-    auto* const row = reinterpret_cast<QRgb*>(layer.scanLine(top - band.top));
-    for (const HmiThinLine& column : columns) {
-        const int x = column.from.ForDrawing().x;
-        if (x >= band.left && x < band.right)
-            row[x - band.left] = ToQColor(column.color).rgb();
+    struct Column {
+        int x;
+        int top;
+        int bottom;
+        QRgb color;
+    };
+    std::vector<Column> seen;
+    std::vector<int> changes;
+    for (const HmiThinLine& line : columns) {
+        const HmiPoint from = line.from.ForDrawing();
+        const HmiPoint to = line.to.ForDrawing();
+        // A column stops one pixel short of its end, as every line does.
+        const int top = std::max(band.top, from.y <= to.y ? from.y : to.y + 1);
+        const int bottom = std::min(band.bottom, from.y <= to.y ? to.y : from.y + 1);
+        if (from.x < band.left || from.x >= band.right || top >= bottom)
+            continue;
+        seen.push_back({from.x - band.left, top, bottom, ToQColor(line.color).rgb()});
+        changes.push_back(top);
+        changes.push_back(bottom);
     }
+    std::sort(changes.begin(), changes.end());
+    changes.erase(std::unique(changes.begin(), changes.end()), changes.end());
     const std::size_t rowBytes = std::size_t(band.right - band.left) * sizeof(QRgb);
-    for (int y = top + 1; y < bottom; ++y)
-        std::memcpy(layer.scanLine(y - band.top), row, rowBytes);
+    for (std::size_t i = 0; i + 1 < changes.size(); ++i) {
+        const int first = changes[i];
+        auto* const row = reinterpret_cast<QRgb*>(layer.scanLine(first - band.top));
+        for (const Column& column : seen)
+            if (column.top <= first && first < column.bottom)
+                row[column.x] = column.color;
+        for (int y = first + 1; y < changes[i + 1]; ++y)
+            std::memcpy(layer.scanLine(y - band.top), row, rowBytes);
+    }
 }
 
 QFont ToQFont(const HmiFont& font)
@@ -727,8 +743,8 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
     }
     area = {std::max(area.left, m_clipBox.left), std::max(area.top, m_clipBox.top),
             std::min(area.right, m_clipBox.right), std::min(area.bottom, m_clipBox.bottom)};
-    const bool sameColumns = std::all_of(lines.begin(), lines.end(), [&](const HmiThinLine& line) {
-        return line.from.x == line.to.x && line.from.y == lines.front().from.y && line.to.y == lines.front().to.y;
+    const bool columns = std::all_of(lines.begin(), lines.end(), [](const HmiThinLine& line) {
+        return line.from.x == line.to.x;
     });
     const int width = area.right - area.left;
     const int bandHeight = width > 0 ? int(std::max<qsizetype>(1, kMaxLayerPixels / width)) : 0;
@@ -738,7 +754,7 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
         if (layer.isNull())
             break; // out of memory: the lines are left out rather than the program
         layer.fill(Qt::transparent);
-        if (sameColumns)
+        if (columns)
             SetColumnPixels(layer, band, lines);
         else
             SetLinePixels(layer, band, lines);
