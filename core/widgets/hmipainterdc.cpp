@@ -897,11 +897,14 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
         return false;
     // Stretching a small picture costs far more than copying its stretched pixels, which follow
     // from the decoded picture, the transparent colour and the target alone: a canvas keeps the
-    // part on its device. A large one costs by its pixels, as a copy of them would.
+    // part on its device. A large one costs by its pixels, as a copy of them would, and one at
+    // its own size is such a copy.
     const HmiRect area = Intersection({target.left(), target.top(), target.left() + target.width(),
                                        target.top() + target.height()},
                                       m_deviceArea);
-    if (std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels && Meets(area, m_clipBox)) {
+    const bool stretched = target.size() != picture->Decoded().size();
+    if (stretched && std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels &&
+        Meets(area, m_clipBox)) {
         const std::string key = HmiReuseKey(
             "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
                         target.top(), target.width(), target.height(), area.left, area.top, area.right, area.bottom});
