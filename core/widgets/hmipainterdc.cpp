@@ -463,8 +463,9 @@ HmiRect Intersection(const HmiRect& a, const HmiRect& b)
 
 // Draws what paint draws, alone, into an image of the area, as a drawing to keep: pixels that
 // are opaque or untouched throughout can be painted again as they are. Only the part that
-// holds pixels is kept, so that a short text in a large box keeps little.
-KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& paint)
+// holds pixels is kept, so that a short text in a large box keeps little. A drawing with pixels
+// in the area but outside inner may have more past the area, which would be lost: no image.
+KeptDrawing DrawAside(const HmiRect& area, const HmiRect& inner, const std::function<void(CHmiDC&)>& paint)
 {
     QImage image(area.Width(), area.Height(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
@@ -501,6 +502,9 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
     }
     if (right < 0) // nothing drawn: one transparent pixel paints as little
         left = right = top = bottom = 0;
+    else if (area.left + left < inner.left || area.left + right >= inner.right || area.top + top < inner.top ||
+             area.top + bottom >= inner.bottom)
+        return {};
     const QRect used(QPoint(left, top), QPoint(right, bottom));
     if (used != image.rect())
         image = image.copy(used);
@@ -846,7 +850,7 @@ void CHmiPainterDC::DrawText(std::string_view text, const HmiRect& rect, std::ui
             target.SetBkMode(m_bkMode);
             target.DrawText(text, rect, format);
         };
-        if (const KeptDrawing* kept = Kept(key, area, draw)) {
+        if (const KeptDrawing* kept = Kept(key, area, area, draw)) {
             m_painter.drawImage(box.topLeft() + kept->origin, kept->image);
             return;
         }
@@ -909,7 +913,7 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
             "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
                         target.top(), target.width(), target.height(), area.left, area.top, area.right, area.bottom});
         const auto draw = [&](CHmiDC& aside) { aside.DrawPictureFile(path, rect, transparent); };
-        if (const KeptDrawing* kept = Kept(key, area, draw)) {
+        if (const KeptDrawing* kept = Kept(key, area, area, draw)) {
             m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
             return true;
         }
@@ -920,18 +924,25 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
 
 void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint)
 {
-    // Only what lies on the device is kept, and the key names that part too.
-    const HmiRect area = Intersection(box.ForDrawing().Normalized(), m_deviceArea);
+    // Only what lies on the device is kept, and the key names that part too. A drawing that
+    // reaches an edge of the box on the device may go on past it: it is painted anew each time.
+    const HmiRect wanted = box.ForDrawing().Normalized();
+    const HmiRect area = Intersection(wanted, m_deviceArea);
     if (!Meets(area, m_clipBox))
         return paint(*this);
-    const KeptDrawing* kept = Kept(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}), area, paint);
+    const HmiRect inner{area.left + (wanted.left >= m_deviceArea.left ? 1 : 0),
+                        area.top + (wanted.top >= m_deviceArea.top ? 1 : 0),
+                        area.right - (wanted.right <= m_deviceArea.right ? 1 : 0),
+                        area.bottom - (wanted.bottom <= m_deviceArea.bottom ? 1 : 0)};
+    const KeptDrawing* kept =
+        Kept(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}), area, inner, paint);
     if (!kept)
         return paint(*this);
     m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
     MoveTo(kept->position);
 }
 
-const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& area,
+const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
                                        const std::function<void(CHmiDC&)>& paint)
 {
     const bool keepable = m_cache && area.Width() > 0 && area.Height() > 0 &&
@@ -941,7 +952,7 @@ const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& ar
     CHmiDrawingCache::Store& store = *m_cache->m_store;
     CHmiDrawingCache::Store::Entry* entry = store.Use(key);
     if (entry && !entry->drawing && store.MakeRoom(std::size_t(area.Width()) * std::size_t(area.Height()) * 4))
-        store.Keep(key, DrawAside(area, paint));
+        store.Keep(key, DrawAside(area, inner, paint));
     if (!entry || !entry->drawing || entry->drawing->image.isNull())
         return nullptr;
     return &*entry->drawing;

@@ -66,8 +66,9 @@ private:
     void DrawThinLine(HmiPoint from, HmiPoint to);
     void DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format);
     // The drawing kept under the key for paint's drawing of the area, kept now if the key has
-    // come before; null when there is none, and the caller paints anew.
-    const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area,
+    // come before and its pixels lie within inner; null when there is none, and the caller paints
+    // anew.
+    const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
                                           const std::function<void(CHmiDC&)>& paint);
     // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
     bool PaintsWholeDevicePixels() const;

@@ -2,6 +2,7 @@
 // the pixels of painting every widget anew, on any background, through any clip and shift.
 
 #include "catalogue/curvesettings.h"
+#include "catalogue/gradientpainter.h"
 #include "tests/support/mixedwindow.h"
 #include "tests/support/registryscope.h"
 #include "widgets/hmipainterdc.h"
@@ -80,4 +81,26 @@ TEST(KeptDrawings, PaintTheWidgetsAsPaintingThemAnewDoesThroughClipsAndShifts)
     }
     CurveSettings::LabelTime() = savedLabelTime;
     CurveSettings::RandomSample() = savedSample;
+}
+
+// The rings of a flat ellipse reach past its rectangle along its longer side: painting from the
+// kept drawings must paint those pixels too.
+TEST(KeptDrawings, FlatEllipseGradientsPaintWhatReachesPastTheirRectangle)
+{
+    for (const std::int32_t code : {0, 1, 2}) {
+        for (const HmiRect rect : {HmiRect{154, 651, 963, 765}, HmiRect{651, 154, 765, 963}}) {
+            const auto paint = [&](CHmiDrawingCache* drawings) {
+                QImage image(1024, 1024, QImage::Format_ARGB32_Premultiplied);
+                image.fill(Qt::white);
+                QPainter painter(&image);
+                CHmiPainterDC dc(painter, drawings);
+                PaintEllipseGradient(dc, rect, HmiRgb(250, 80, 60), HmiRgb(20, 200, 130), code);
+                return image;
+            };
+            const QImage anew = paint(nullptr);
+            CHmiDrawingCache drawings;
+            for (int time = 1; time <= 3; ++time)
+                EXPECT_TRUE(paint(&drawings) == anew) << "code " << code << ", " << rect.Width() << " wide, paint " << time;
+        }
+    }
 }
