@@ -390,13 +390,16 @@ using GradientPaint = void (*)(CHmiDC&, const HmiRect&, HmiColor, HmiColor, std:
 
 // A gradient's pixels follow from its shape, rectangle, colours and code alone, and lie within
 // the rectangle and the pixel around it (a line stands on the right or bottom edge, and the
-// mirrored forms reach one pixel before the left or top edge): a target may keep them.
+// mirrored forms reach one pixel before the left or top edge): a target may keep them, in a box
+// a pixel wider all round, whose edge they do not reach. The rings of a flat ellipse, drawn as
+// the painter draws ellipses, may reach further along its longer side; a target that finds
+// pixels on the box's edge paints them anew each time.
 void PaintReusable(CHmiDC& dc, std::string_view shape, GradientPaint paint, const HmiRect& rect, HmiColor start,
                    HmiColor end, std::int32_t code)
 {
     const HmiRect r = rect.ForDrawing();
     dc.DrawReusable(HmiReuseKey(shape, {r.left, r.top, r.right, r.bottom, start, end, code}),
-                    r.Normalized().Inflated(1, 1),
+                    r.Normalized().Inflated(2, 2),
                     [&](CHmiDC& target) { paint(target, rect, start, end, code); });
 }
 

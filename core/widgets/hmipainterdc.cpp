@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <list>
 #include <map>
 #include <optional>
@@ -234,6 +235,60 @@ private:
 // The most pixels of one layer of thin lines: a larger area is painted in bands of rows.
 constexpr qsizetype kMaxLayerPixels = qsizetype(1) << 20;
 
+// Sets the pixels of the lines that lie in the band, in the layer that covers it, each line over
+// those before it.
+void SetLinePixels(QImage& layer, const HmiRect& band, std::span<const HmiThinLine> lines)
+{
+    QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
+    const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
+    for (const HmiThinLine& line : lines) {
+        const LinePixels pixels(line.from.ForDrawing(), line.to.ForDrawing());
+        const QRgb color = ToQColor(line.color).rgb();
+        pixels.Walk(pixels.Within(band), [&](std::int64_t, int x, int y) {
+            bits[(y - band.top) * stride + (x - band.left)] = color;
+        });
+    }
+}
+
+// SetLinePixels for columns, row after row rather than column after column through the whole
+// layer: a row holds the pixels of the columns that run over it, the last one at a place over
+// those before it, and the rows between two where a column begins or ends hold the same pixels.
+void SetColumnPixels(QImage& layer, const HmiRect& band, std::span<const HmiThinLine> columns)
+{
+    struct Column {
+        int x;
+        int top;
+        int bottom;
+        QRgb color;
+    };
+    std::vector<Column> seen;
+    std::vector<int> changes;
+    for (const HmiThinLine& line : columns) {
+        const HmiPoint from = line.from.ForDrawing();
+        const HmiPoint to = line.to.ForDrawing();
+        // A column stops one pixel short of its end, as every line does.
+        const int top = std::max(band.top, from.y <= to.y ? from.y : to.y + 1);
+        const int bottom = std::min(band.bottom, from.y <= to.y ? to.y : from.y + 1);
+        if (from.x < band.left || from.x >= band.right || top >= bottom)
+            continue;
+        seen.push_back({from.x - band.left, top, bottom, ToQColor(line.color).rgb()});
+        changes.push_back(top);
+        changes.push_back(bottom);
+    }
+    std::sort(changes.begin(), changes.end());
+    changes.erase(std::unique(changes.begin(), changes.end()), changes.end());
+    const std::size_t rowBytes = std::size_t(band.right - band.left) * sizeof(QRgb);
+    for (std::size_t i = 0; i + 1 < changes.size(); ++i) {
+        const int first = changes[i];
+        auto* const row = reinterpret_cast<QRgb*>(layer.scanLine(first - band.top));
+        for (const Column& column : seen)
+            if (column.top <= first && first < column.bottom)
+                row[column.x] = column.color;
+        for (int y = first + 1; y < changes[i + 1]; ++y)
+            std::memcpy(layer.scanLine(y - band.top), row, rowBytes);
+    }
+}
+
 QFont ToQFont(const HmiFont& font)
 {
     QFont qfont(QString::fromStdString(Gb2312ToUtf8OrKeep(font.face)));
@@ -289,23 +344,52 @@ QImage Masked(const QImage& picture, HmiColor transparent)
 {
     QImage masked = picture.convertToFormat(QImage::Format_ARGB32);
     const QRgb key = ToQColor(transparent).rgb();
+    const int width = masked.width();
     for (int y = 0; y < masked.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(masked.scanLine(y));
-        for (int x = 0; x < masked.width(); ++x)
+        for (int x = 0; x < width; ++x)
             if ((line[x] | 0xFF000000u) == key)
                 line[x] = 0;
     }
     return masked;
 }
 
+// A decoded picture file, and its copies masked for the transparent colours it is shown with.
+class Picture {
+public:
+    explicit Picture(QImage decoded) : m_decoded(std::move(decoded)) {}
+
+    // The decoded pixels: the same as long as the file is.
+    const QImage& Decoded() const { return m_decoded; }
+
+    // The picture as it is painted: masked when a transparent colour is given.
+    const QImage& Shown(const HmiColor* transparent)
+    {
+        if (!transparent)
+            return m_decoded;
+        auto masked = m_masked.find(*transparent);
+        if (masked == m_masked.end()) {
+            if (m_masked.size() >= kMaxMaskedCopies)
+                m_masked.clear();
+            masked = m_masked.emplace(*transparent, Masked(m_decoded, *transparent)).first;
+        }
+        return masked->second;
+    }
+
+private:
+    // Widgets may show one picture with different transparent colours.
+    static constexpr std::size_t kMaxMaskedCopies = 16;
+    QImage m_decoded;
+    std::map<HmiColor, QImage> m_masked; // by transparent colour
+};
+
 // Decoded pictures, so that repainting a canvas does not decode its files again, nor mask them
 // again for the same transparent colour. An entry is replaced when its file changes on disk,
 // which is looked at once in each paint, however many widgets show the file.
 class PictureCache {
 public:
-    // The picture, masked when a transparent colour is given; null when the file cannot be read
-    // or decoded.
-    const QImage* Find(const std::string& path, const HmiColor* transparent, std::uint64_t paint)
+    // The picture of the file; null when the file cannot be read or decoded.
+    Picture* Find(const std::string& path, std::uint64_t paint)
     {
         auto found = m_entries.find(path);
         if (found == m_entries.end() || found->second.lookedAtInPaint != paint) {
@@ -315,30 +399,20 @@ public:
             if (found == m_entries.end() || found->second.modified != modified) {
                 if (m_entries.size() >= kMaxEntries)
                     m_entries.clear();
-                const QImage image = isFile ? ForPainting(ReadPicture(path)) : QImage();
-                found = m_entries.insert_or_assign(path, Entry{modified, image, {}, {}, 0}).first;
+                Picture picture(isFile ? ForPainting(ReadPicture(path)) : QImage());
+                found = m_entries.insert_or_assign(path, Entry{modified, std::move(picture), 0}).first;
             }
             found->second.lookedAtInPaint = paint;
         }
-        Entry& entry = found->second;
-        if (entry.image.isNull())
-            return nullptr;
-        if (!transparent)
-            return &entry.image;
-        if (entry.maskedBy != *transparent) {
-            entry.masked = Masked(entry.image, *transparent);
-            entry.maskedBy = *transparent;
-        }
-        return &entry.masked;
+        Picture& picture = found->second.picture;
+        return picture.Decoded().isNull() ? nullptr : &picture;
     }
 
 private:
     static constexpr std::size_t kMaxEntries = 64;
     struct Entry {
         QDateTime modified; // invalid: not a regular file
-        QImage image;
-        QImage masked;
-        std::optional<HmiColor> maskedBy; // the transparent colour of the masked copy
+        Picture picture;
         std::uint64_t lookedAtInPaint;
     };
     std::map<std::string, Entry> m_entries;
@@ -374,11 +448,12 @@ namespace {
 
 using KeptDrawing = CHmiDrawingCache::Drawing;
 
-// The largest drawing kept, in pixels, and all of them together, in bytes; an entry's own
-// bookkeeping counts as some bytes besides its pixels and key.
+// The largest drawing kept, in pixels; an entry's own bookkeeping counts as some bytes besides
+// its pixels and key.
 constexpr std::int64_t kMaxKeptPixels = std::int64_t(1) << 20;
-constexpr std::size_t kMaxKeptBytes = std::size_t(64) << 20;
 constexpr std::size_t kBytesPerEntry = 128;
+// The largest stretched picture kept, in pixels.
+constexpr std::int64_t kMaxKeptPicturePixels = 128 * 128;
 
 HmiRect Intersection(const HmiRect& a, const HmiRect& b)
 {
@@ -388,8 +463,9 @@ HmiRect Intersection(const HmiRect& a, const HmiRect& b)
 
 // Draws what paint draws, alone, into an image of the area, as a drawing to keep: pixels that
 // are opaque or untouched throughout can be painted again as they are. Only the part that
-// holds pixels is kept, so that a short text in a large box keeps little.
-KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& paint)
+// holds pixels is kept, so that a short text in a large box keeps little. A drawing with pixels
+// in the area but outside inner may have more past the area, which would be lost: no image.
+KeptDrawing DrawAside(const HmiRect& area, const HmiRect& inner, const std::function<void(CHmiDC&)>& paint)
 {
     QImage image(area.Width(), area.Height(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
@@ -408,9 +484,10 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
     int top = image.height();
     int bottom = -1;
     std::int64_t opaquePixels = 0;
+    const int width = image.width();
     for (int y = 0; y < image.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             const int alpha = qAlpha(line[x]);
             if (alpha == 0)
                 continue;
@@ -425,6 +502,9 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
     }
     if (right < 0) // nothing drawn: one transparent pixel paints as little
         left = right = top = bottom = 0;
+    else if (area.left + left < inner.left || area.left + right >= inner.right || area.top + top < inner.top ||
+             area.top + bottom >= inner.bottom)
+        return {};
     const QRect used(QPoint(left, top), QPoint(right, bottom));
     if (used != image.rect())
         image = image.copy(used);
@@ -438,15 +518,28 @@ KeptDrawing DrawAside(const HmiRect& area, const std::function<void(CHmiDC&)>& p
 } // namespace
 
 // The drawings by key, the most recently painted first. A drawing is kept the second time its
-// key is painted, so that a window painted once, as by opening it, pays nothing for keeping; and
-// room is made only from drawings that the paint under way has not used, so that a window whose
-// drawings do not all fit keeps those that do rather than replacing them all in turn.
+// key is painted, so that a window painted once, as by opening it, pays nothing for keeping.
+// When they do not all fit, room is made from what the last two paints have not used, and for a
+// drawing also from larger drawings: drawing a text or a small box anew costs its set-up
+// whatever its size, so a small drawing saves more for each byte it takes than a large one,
+// which costs by its pixels either way. A window whose drawings do not all fit so keeps its
+// smallest ones from paint to paint rather than replacing them in turn, and keys that come and go
+// in every paint, such as a moving widget's, take no room from drawings in use.
 class CHmiDrawingCache::Store {
 public:
+    struct Entry;
+
+private:
+    using Entries = std::list<std::pair<std::string, Entry>>;
+
+public:
     struct Entry {
-        std::optional<KeptDrawing> drawing; // none yet: painted once
+        std::optional<KeptDrawing> drawing; // none yet: painted once, or no room for it
         std::uint64_t lastPaint = 0;
+        std::multimap<std::size_t, Entries::iterator>::iterator bySize; // when a drawing is kept
     };
+
+    explicit Store(std::size_t maxBytes) : m_maxBytes(maxBytes) {}
 
     // Starts a paint: what it uses stays.
     void BeginPaint() { ++m_paint; }
@@ -457,7 +550,7 @@ public:
     {
         const auto found = m_index.find(key);
         if (found == m_index.end()) {
-            Add(key, Entry{});
+            Add(key);
             return nullptr;
         }
         m_entries.splice(m_entries.begin(), m_entries, found->second);
@@ -466,55 +559,68 @@ public:
         return &entry;
     }
 
-    // Makes room for a drawing of so many bytes; false when the drawings of this paint fill it.
-    bool MakeRoom(std::size_t bytes)
-    {
-        while (m_bytes + bytes > kMaxKeptBytes && !m_entries.empty() && m_entries.back().second.lastPaint != m_paint)
-            Remove();
-        return m_bytes + bytes <= kMaxKeptBytes;
-    }
+    // Makes room for a drawing of so many bytes; false when only what is in use and no larger
+    // fills the store.
+    bool MakeRoom(std::size_t bytes) { return MakeRoom(bytes, true); }
 
-    void Keep(Entry& entry, KeptDrawing drawing)
+    void Keep(const std::string& key, KeptDrawing drawing)
     {
-        m_bytes += std::size_t(drawing.image.sizeInBytes());
-        entry.drawing = std::move(drawing);
+        const Entries::iterator entry = m_index.at(key);
+        const std::size_t bytes = std::size_t(drawing.image.sizeInBytes());
+        m_bytes += bytes;
+        entry->second.drawing = std::move(drawing);
+        entry->second.bySize = m_bySize.emplace(bytes, entry);
     }
 
     std::size_t Bytes() const { return m_bytes; }
 
 private:
-    using Entries = std::list<std::pair<std::string, Entry>>;
-
     static std::size_t SizeOf(const Entries::value_type& entry)
     {
         const std::optional<KeptDrawing>& drawing = entry.second.drawing;
         return entry.first.size() + kBytesPerEntry + (drawing ? std::size_t(drawing->image.sizeInBytes()) : 0);
     }
 
-    void Add(const std::string& key, Entry entry)
+    bool MakeRoom(std::size_t bytes, bool fromLarger)
     {
-        if (!MakeRoom(key.size() + kBytesPerEntry))
+        while (m_bytes + bytes > m_maxBytes) {
+            if (!m_entries.empty() && m_entries.back().second.lastPaint + 1 < m_paint)
+                Remove(std::prev(m_entries.end()));
+            else if (fromLarger && !m_bySize.empty() && m_bySize.rbegin()->first > bytes)
+                Remove(std::prev(m_bySize.end())->second);
+            else
+                return false;
+        }
+        return true;
+    }
+
+    void Add(const std::string& key)
+    {
+        if (!MakeRoom(key.size() + kBytesPerEntry, false))
             return;
-        entry.lastPaint = m_paint;
-        m_entries.emplace_front(key, std::move(entry));
+        m_entries.emplace_front(key, Entry{{}, m_paint, {}});
         m_index.emplace(m_entries.front().first, m_entries.begin());
         m_bytes += SizeOf(m_entries.front());
     }
 
-    void Remove()
+    void Remove(Entries::iterator entry)
     {
-        m_bytes -= SizeOf(m_entries.back());
-        m_index.erase(m_entries.back().first);
-        m_entries.pop_back();
+        m_bytes -= SizeOf(*entry);
+        if (entry->second.drawing)
+            m_bySize.erase(entry->second.bySize);
+        m_index.erase(entry->first);
+        m_entries.erase(entry);
     }
 
     Entries m_entries;
     std::unordered_map<std::string_view, Entries::iterator> m_index; // views of the keys in m_entries
+    std::multimap<std::size_t, Entries::iterator> m_bySize; // the kept drawings by their pixels' bytes
+    std::size_t m_maxBytes;
     std::size_t m_bytes = 0;
     std::uint64_t m_paint = 0;
 };
 
-CHmiDrawingCache::CHmiDrawingCache() : m_store(std::make_unique<Store>()) {}
+CHmiDrawingCache::CHmiDrawingCache(std::size_t maxBytes) : m_store(std::make_unique<Store>(maxBytes)) {}
 
 CHmiDrawingCache::~CHmiDrawingCache() = default;
 
@@ -641,6 +747,9 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
     }
     area = {std::max(area.left, m_clipBox.left), std::max(area.top, m_clipBox.top),
             std::min(area.right, m_clipBox.right), std::min(area.bottom, m_clipBox.bottom)};
+    const bool columns = std::all_of(lines.begin(), lines.end(), [](const HmiThinLine& line) {
+        return line.from.x == line.to.x;
+    });
     const int width = area.right - area.left;
     const int bandHeight = width > 0 ? int(std::max<qsizetype>(1, kMaxLayerPixels / width)) : 0;
     for (int top = area.top; width > 0 && top < area.bottom; top += bandHeight) {
@@ -649,15 +758,10 @@ void CHmiPainterDC::ThinLines(std::span<const HmiThinLine> lines)
         if (layer.isNull())
             break; // out of memory: the lines are left out rather than the program
         layer.fill(Qt::transparent);
-        QRgb* const bits = reinterpret_cast<QRgb*>(layer.bits());
-        const qsizetype stride = layer.bytesPerLine() / qsizetype(sizeof(QRgb));
-        for (const HmiThinLine& line : lines) {
-            const LinePixels pixels(line.from.ForDrawing(), line.to.ForDrawing());
-            const QRgb color = ToQColor(line.color).rgb();
-            pixels.Walk(pixels.Within(band), [&](std::int64_t, int x, int y) {
-                bits[(y - band.top) * stride + (x - band.left)] = color;
-            });
-        }
+        if (columns)
+            SetColumnPixels(layer, band, lines);
+        else
+            SetLinePixels(layer, band, lines);
         m_painter.drawImage(QPoint(band.left, band.top), layer);
     }
     m_position = lines.back().to;
@@ -746,7 +850,7 @@ void CHmiPainterDC::DrawText(std::string_view text, const HmiRect& rect, std::ui
             target.SetBkMode(m_bkMode);
             target.DrawText(text, rect, format);
         };
-        if (const KeptDrawing* kept = Kept(key, area, draw)) {
+        if (const KeptDrawing* kept = Kept(key, area, area, draw)) {
             m_painter.drawImage(box.topLeft() + kept->origin, kept->image);
             return;
         }
@@ -791,28 +895,54 @@ HmiPoint CHmiPainterDC::GetTextExtent(std::string_view text)
 
 bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect, const HmiColor* transparent)
 {
-    const QImage* picture = Pictures().Find(path, transparent, m_paint);
+    Picture* picture = Pictures().Find(path, m_paint);
     const QRect target = ToQRect(rect);
     if (!picture || target.isEmpty())
         return false;
-    m_painter.drawImage(target, *picture);
+    // Stretching a small picture costs far more than copying its stretched pixels, which follow
+    // from the decoded picture, the transparent colour and the target alone: a canvas keeps the
+    // part on its device. A large one costs by its pixels, as a copy of them would, and one at
+    // its own size is such a copy.
+    const HmiRect area = Intersection({target.left(), target.top(), target.left() + target.width(),
+                                       target.top() + target.height()},
+                                      m_deviceArea);
+    const bool stretched = target.size() != picture->Decoded().size();
+    if (stretched && std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels &&
+        Meets(area, m_clipBox)) {
+        const std::string key = HmiReuseKey(
+            "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
+                        target.top(), target.width(), target.height(), area.left, area.top, area.right, area.bottom});
+        const auto draw = [&](CHmiDC& aside) { aside.DrawPictureFile(path, rect, transparent); };
+        if (const KeptDrawing* kept = Kept(key, area, area, draw)) {
+            m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
+            return true;
+        }
+    }
+    m_painter.drawImage(target, picture->Shown(transparent));
     return true;
 }
 
 void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint)
 {
-    // Only what lies on the device is kept, and the key names that part too.
-    const HmiRect area = Intersection(box.ForDrawing().Normalized(), m_deviceArea);
+    // Only what lies on the device is kept, and the key names that part too. A drawing that
+    // reaches an edge of the box on the device may go on past it: it is painted anew each time.
+    const HmiRect wanted = box.ForDrawing().Normalized();
+    const HmiRect area = Intersection(wanted, m_deviceArea);
     if (!Meets(area, m_clipBox))
         return paint(*this);
-    const KeptDrawing* kept = Kept(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}), area, paint);
+    const HmiRect inner{area.left + (wanted.left >= m_deviceArea.left ? 1 : 0),
+                        area.top + (wanted.top >= m_deviceArea.top ? 1 : 0),
+                        area.right - (wanted.right <= m_deviceArea.right ? 1 : 0),
+                        area.bottom - (wanted.bottom <= m_deviceArea.bottom ? 1 : 0)};
+    const KeptDrawing* kept =
+        Kept(key + HmiReuseKey("", {area.left, area.top, area.right, area.bottom}), area, inner, paint);
     if (!kept)
         return paint(*this);
     m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
     MoveTo(kept->position);
 }
 
-const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& area,
+const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
                                        const std::function<void(CHmiDC&)>& paint)
 {
     const bool keepable = m_cache && area.Width() > 0 && area.Height() > 0 &&
@@ -822,7 +952,7 @@ const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& ar
     CHmiDrawingCache::Store& store = *m_cache->m_store;
     CHmiDrawingCache::Store::Entry* entry = store.Use(key);
     if (entry && !entry->drawing && store.MakeRoom(std::size_t(area.Width()) * std::size_t(area.Height()) * 4))
-        store.Keep(*entry, DrawAside(area, paint));
+        store.Keep(key, DrawAside(area, inner, paint));
     if (!entry || !entry->drawing || entry->drawing->image.isNull())
         return nullptr;
     return &*entry->drawing;

@@ -11,10 +11,12 @@ class QRect;
 
 // Drawings kept for CHmiPainterDC::DrawReusable under their keys, and the texts it draws, for a
 // canvas that paints the same widgets again and again. Bounded: a drawing larger than a set
-// size is never kept, and the least recently painted ones make room for new ones.
+// size is never kept, and all of them with their keys take at most maxBytes.
 class CHmiDrawingCache {
 public:
-    CHmiDrawingCache();
+    static constexpr std::size_t kDefaultMaxBytes = std::size_t(64) << 20;
+
+    explicit CHmiDrawingCache(std::size_t maxBytes = kDefaultMaxBytes);
     ~CHmiDrawingCache();
     CHmiDrawingCache(const CHmiDrawingCache&) = delete;
     CHmiDrawingCache& operator=(const CHmiDrawingCache&) = delete;
@@ -64,8 +66,9 @@ private:
     void DrawThinLine(HmiPoint from, HmiPoint to);
     void DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format);
     // The drawing kept under the key for paint's drawing of the area, kept now if the key has
-    // come before; null when there is none, and the caller paints anew.
-    const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area,
+    // come before and its pixels lie within inner; null when there is none, and the caller paints
+    // anew.
+    const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
                                           const std::function<void(CHmiDC&)>& paint);
     // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
     bool PaintsWholeDevicePixels() const;

@@ -2,6 +2,7 @@
 // the pixels of painting every widget anew, on any background, through any clip and shift.
 
 #include "catalogue/curvesettings.h"
+#include "catalogue/gradientpainter.h"
 #include "tests/support/mixedwindow.h"
 #include "tests/support/registryscope.h"
 #include "widgets/hmipainterdc.h"
@@ -61,16 +62,45 @@ TEST(KeptDrawings, PaintTheWidgetsAsPaintingThemAnewDoesThroughClipsAndShifts)
     for (const unsigned seed : {1u, 2u}) {
         CTamloDoc document;
         FillMixedWindow(document, 400, seed);
-        // One cache for every set-up, as a canvas repaints different areas from the same one.
+        // One cache for every set-up, as a canvas repaints different areas from the same one;
+        // and one too small for all the drawings, which make room for one another.
+        constexpr std::size_t kTightBytes = std::size_t(1) << 20;
         CHmiDrawingCache drawings;
+        CHmiDrawingCache tight(kTightBytes);
         for (const auto& [name, setUp] : setUps) {
             const QImage anew = Paint(document, nullptr, setUp);
             // Noted on the first paint, kept on the second, painted from on the third.
-            for (int paint = 1; paint <= 3; ++paint)
+            for (int paint = 1; paint <= 3; ++paint) {
                 EXPECT_TRUE(Paint(document, &drawings, setUp) == anew) << name << ", seed " << seed << ", paint " << paint;
+                EXPECT_TRUE(Paint(document, &tight, setUp) == anew) << name << ", seed " << seed << ", tight, paint " << paint;
+            }
         }
-        EXPECT_GT(drawings.Bytes(), std::size_t(1) << 20) << "the gradients are kept";
+        EXPECT_GT(drawings.Bytes(), kTightBytes) << "the gradients are kept";
+        EXPECT_LE(tight.Bytes(), kTightBytes);
+        EXPECT_GT(tight.Bytes(), kTightBytes / 2) << "a full cache keeps the drawings that fit";
     }
     CurveSettings::LabelTime() = savedLabelTime;
     CurveSettings::RandomSample() = savedSample;
+}
+
+// The rings of a flat ellipse reach past its rectangle along its longer side: painting from the
+// kept drawings must paint those pixels too.
+TEST(KeptDrawings, FlatEllipseGradientsPaintWhatReachesPastTheirRectangle)
+{
+    for (const std::int32_t code : {0, 1, 2}) {
+        for (const HmiRect rect : {HmiRect{154, 651, 963, 765}, HmiRect{651, 154, 765, 963}}) {
+            const auto paint = [&](CHmiDrawingCache* drawings) {
+                QImage image(1024, 1024, QImage::Format_ARGB32_Premultiplied);
+                image.fill(Qt::white);
+                QPainter painter(&image);
+                CHmiPainterDC dc(painter, drawings);
+                PaintEllipseGradient(dc, rect, HmiRgb(250, 80, 60), HmiRgb(20, 200, 130), code);
+                return image;
+            };
+            const QImage anew = paint(nullptr);
+            CHmiDrawingCache drawings;
+            for (int time = 1; time <= 3; ++time)
+                EXPECT_TRUE(paint(&drawings) == anew) << "code " << code << ", " << rect.Width() << " wide, paint " << time;
+        }
+    }
 }

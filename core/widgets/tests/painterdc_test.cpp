@@ -132,10 +132,13 @@ TEST(PainterDC, ThinLinesPaintTheRoundedPixelsUpToTheirEndInEveryDirection)
 TEST(PainterDC, ThinLinesAndPolylinesAtOnceEqualThemDrawnOneByOne)
 {
     std::vector<HmiThinLine> fan;
+    std::vector<HmiThinLine> columns; // up and down, of every length, some on the same place
     std::vector<HmiPoint> zigzag; // through the fan's ends, in and out of the image
     for (int i = 0; i < 40; ++i) {
         fan.push_back({{20, 15}, {i * 3 - 20, (i * 7) % 50 - 10}, HmiRgb(std::uint8_t(i * 6), 90, std::uint8_t(i))});
         zigzag.push_back(fan.back().to);
+        const int x = (i * 7) % 56 - 3;
+        columns.push_back({{x, (i * 11) % 46 - 3}, {x, (i * 17) % 46 - 3}, HmiRgb(40, std::uint8_t(i * 6), 200)});
     }
     const HmiPen dotted{HmiPenStyle::Dot, 1, kBlue};
     const HmiPen curve{HmiPenStyle::Solid, 0, kRed};
@@ -153,10 +156,11 @@ TEST(PainterDC, ThinLinesAndPolylinesAtOnceEqualThemDrawnOneByOne)
                 draw(dc);
             };
             paint(oneByOne, [&](CHmiPainterDC& dc) {
-                for (const HmiThinLine& line : fan) {
-                    dc.SelectPen({HmiPenStyle::Solid, 1, line.color});
-                    DrawLine(dc, line.from, line.to);
-                }
+                for (const auto* lines : {&fan, &columns})
+                    for (const HmiThinLine& line : *lines) {
+                        dc.SelectPen({HmiPenStyle::Solid, 1, line.color});
+                        DrawLine(dc, line.from, line.to);
+                    }
                 dc.SelectPen(curve);
                 dc.MoveTo(zigzag.front());
                 for (const HmiPoint& point : zigzag)
@@ -167,6 +171,7 @@ TEST(PainterDC, ThinLinesAndPolylinesAtOnceEqualThemDrawnOneByOne)
             paint(atOnce, [&](CHmiPainterDC& dc) {
                 dc.SelectPen(dotted);
                 dc.ThinLines(fan);
+                dc.ThinLines(columns);
                 dc.SelectPen(curve);
                 dc.MoveTo(zigzag.front());
                 dc.PolylineTo(zigzag);
