@@ -5,7 +5,6 @@
 #include "editor/model/canvasselection.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/hmiwidget.h"
-#include "widgets/hmiwidgetwindow.h"
 
 #include <QPainter>
 #include <QRegion>
@@ -134,10 +133,10 @@ std::optional<QPoint> CSelectionHandles::CommonStep(const CDocumentChange& chang
         const HmiRect& before = entry.rectBefore;
         const HmiRect& after = entry.widget->GetWidgetRect();
         const HmiPoint moved{after.left - before.left, after.top - before.top};
-        // The window widget's handles stand at the canvas's origin wherever it moves; a widget
-        // that converts through another view is drawn at that view's zoom.
-        if (!m_selection.IsSelected(entry.widget) || IsWindowWidget(*entry.widget) ||
-            entry.widget->m_pView != &m_selection.View() || after.right - before.right != moved.x ||
+        // A widget that converts through another view is drawn at that view's zoom. (The window
+        // widget, whose handles stay at the canvas's origin, is never among many selected.)
+        if (!m_selection.IsSelected(entry.widget) || entry.widget->m_pView != &m_selection.View() ||
+            after.right - before.right != moved.x ||
             after.bottom - before.bottom != moved.y || (step && *step != moved))
             return std::nullopt;
         step = moved;
