@@ -10,6 +10,7 @@
 #include <QRegion>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -86,12 +87,13 @@ void CSelectionHandles::Paint(QPainter& painter, const QRegion& region)
     const QSize size(device.width(), device.height());
     const bool keep = m_selection.Widgets().size() > kWidgetsDrawnDirectly && device.devicePixelRatio() == 1.0 &&
                       std::int64_t(size.width()) * size.height() <= m_maxImagePixels;
+    const QSize imageSize = size.grownBy({kImageMargin, kImageMargin, kImageMargin, kImageMargin});
     if (!keep) {
-        m_image = QImage();
+        if (m_image.size() != imageSize)
+            m_image = QImage();
         Draw(painter, nullptr);
         return;
     }
-    const QSize imageSize = size.grownBy({kImageMargin, kImageMargin, kImageMargin, kImageMargin});
     if (m_image.size() != imageSize) {
         m_image = QImage(imageSize, QImage::Format_ARGB32_Premultiplied);
         m_upToDate = false;

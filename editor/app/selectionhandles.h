@@ -13,8 +13,8 @@ class QPainter;
 class QRegion;
 
 // The handles of a canvas's selection, in client coordinates. Those of a few widgets are drawn
-// wherever the canvas repaints. Those of a large selection are drawn once into an image as large
-// as the canvas and laid over the canvas from it, until the selection, a selected widget's
+// wherever the canvas repaints. Those of a large selection are drawn once into an image of the
+// canvas and laid over the canvas from it, until the selection, a selected widget's
 // rectangle, the zoom or the canvas's size changes: a band over thousands of widgets draws their
 // tens of thousands of squares once, and a drag whose outlines follow the mouse above them does
 // not draw them again at every move. The squares are solid and opaque and the rest of the image
@@ -46,7 +46,9 @@ private:
     const CCanvasSelection& m_selection;
     const CCanvasMapping& m_mapping;
     const std::int64_t m_maxImagePixels;
-    QImage m_image; // the canvas with a margin; null but while a large selection is painted
+    // The canvas with a margin; made for the first large selection and kept, as the canvas keeps
+    // its copy of the document, until the canvas's size changes.
+    QImage m_image;
     bool m_upToDate = false;
     QRect m_drawn;  // what the squares cover in the image, where they stand now
     QPoint m_shift; // where in the image the canvas's origin stands
