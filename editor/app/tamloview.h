@@ -139,7 +139,7 @@ private:
     LayoutAids m_aids;
     std::vector<SnapGuide> m_snapGuides; // in window coordinates
     QImage m_backdrop;       // the document drawn once for a large drag, kept
-    QRegion m_staleBackdrop; // where the document changed since the backdrop was drawn
+    QRegion m_staleBackdrop; // where the document changed and the backdrop is not redrawn yet
     mutable QImage m_outlineDots; // where the drag's outlines are set, kept from paint to paint
     // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
     // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.
