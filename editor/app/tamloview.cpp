@@ -142,6 +142,7 @@ CTamloView::CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent
     , m_document(document)
     , m_tools(tools)
     , m_selection(document, *this)
+    , m_handles(m_selection, m_mapping, kMaxBackdropPixels)
     , m_outlines(document)
     , m_overlay(new CCanvasOverlay(*this, [this](QPainter& painter, const QRegion& region) {
         PaintOverlay(painter, region);
@@ -152,6 +153,7 @@ CTamloView::CTamloView(CTamloDoc& document, CCanvasTools& tools, QWidget* parent
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // handle cursors while no button is down
     m_selection.SetOnChanged([this] {
+        m_handles.Invalidate();
         setFocus(Qt::OtherFocusReason);
         emit selectionChanged();
     });
@@ -183,6 +185,7 @@ void CTamloView::SetZoomPercent(int percent)
     if (m_mapping.Percent() == before)
         return;
     m_backdrop = QImage();
+    m_handles.Invalidate();
     FitToWindow();
     m_controls.PlaceAll();
     m_overlay->update();
@@ -225,10 +228,14 @@ void CTamloView::RepaintChanged(const CDocumentChange& change)
     const auto isBackground = [](const HmiWidgetChange& entry) {
         return HasAny(entry.what, kDrawn) && IsWindowWidget(*entry.widget);
     };
+    m_handles.DocumentChanged(change);
     const bool background = std::any_of(change.widgets.begin(), change.widgets.end(), isBackground);
     if (background || change.Has(DocChange::Reloaded) || change.widgets.size() > kWidgetsRepaintedOneByOne ||
         (change.Has(kDrawn) && change.widgets.empty())) {
-        m_backdrop = QImage();
+        // The kept copy of the document is redrawn where it is next shown: a drag of thousands
+        // of widgets that ends here is followed by another band or drag that copies it again.
+        if (!m_backdrop.isNull())
+            m_staleBackdrop = rect();
         FitToWindow();
         return InvalidateView();
     }
@@ -335,22 +342,23 @@ void CTamloView::paintEvent(QPaintEvent* event)
         return PaintPreview(painter, event->region());
     // When a drag shows rectangles or guides over much of the canvas, as a band over thousands
     // of widgets does, the document is drawn once and then copied, so that they follow the mouse;
-    // the copy is redrawn where the document changes and serves every repaint, so that the
-    // selection the drag ends with shows at the cost of its handles alone.
+    // the copy is redrawn where the document changed as far as a repaint shows it, and serves
+    // every repaint, so that the selection the drag ends with shows at the cost of its handles.
     const QRect area = event->rect();
     const bool large =
         std::int64_t(area.width()) * area.height() > std::int64_t(width()) * height() / kLargeRepaintDivisor;
     if (m_backdrop.size() != size() * devicePixelRatio())
         m_backdrop = QImage();
-    if (!m_backdrop.isNull() && !m_staleBackdrop.isEmpty()) {
+    if (const QRegion stale = m_staleBackdrop & event->region(); !m_backdrop.isNull() && !stale.isEmpty()) {
         QPainter backdrop(&m_backdrop);
-        PaintDocument(backdrop, m_staleBackdrop);
+        PaintDocument(backdrop, stale);
+        m_staleBackdrop -= stale;
     }
-    m_staleBackdrop = QRegion();
     const bool backdropFits = std::int64_t(width()) * height() <= kMaxBackdropPixels;
     if (!m_feedback.empty() && large && backdropFits && m_backdrop.isNull()) {
         m_backdrop = QImage(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
         m_backdrop.setDevicePixelRatio(devicePixelRatio());
+        m_staleBackdrop = QRegion();
         QPainter backdrop(&m_backdrop);
         PaintDocument(backdrop, rect());
     }
@@ -362,13 +370,13 @@ void CTamloView::paintEvent(QPaintEvent* event)
     DrawGrid(painter, event->region());
 }
 
-void CTamloView::PaintOverlay(QPainter& painter, const QRegion& region) const
+void CTamloView::PaintOverlay(QPainter& painter, const QRegion& region)
 {
     if (m_preview)
         return;
     painter.save();
     ClipTo(painter, region);
-    DrawTrackers(painter);
+    m_handles.Paint(painter, region);
     DrawSnapGuides(painter);
     painter.restore();
     DrawDragFeedback(painter, region.boundingRect());
@@ -415,27 +423,6 @@ void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
     painter.restore();
     m_outlines.Paint(painter, m_mapping, areas);
     painter.restore();
-}
-
-void CTamloView::DrawTrackers(QPainter& painter) const
-{
-    const std::vector<CHmiWidget*>& widgets = m_selection.Widgets();
-    CHmiPainterDC canvasDC(painter); // one for the many widgets that draw where they stand
-    for (CHmiWidget* widget : widgets) {
-        const TrackerState state = widget == widgets.back() ? TrackerState::active : TrackerState::selected;
-        // The window widget draws at the canvas origin, wherever it stands on the panel.
-        const HmiPoint origin = CanvasOrigin(*widget);
-        if (origin == HmiPoint{}) {
-            widget->DrawTracker(canvasDC, state);
-            continue;
-        }
-        const HmiPoint shift = m_mapping.DocToClient(origin); // handles are drawn in client coordinates
-        painter.save();
-        painter.translate(-double(shift.x), -double(shift.y));
-        CHmiPainterDC dc(painter);
-        widget->DrawTracker(dc, state);
-        painter.restore();
-    }
 }
 
 void CTamloView::DrawGrid(QPainter& painter, const QRegion& region) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "designoutlines.h"
+#include "selectionhandles.h"
 
 #include "editor/canvascontrols/canvascontrols.h"
 #include "editor/model/canvasmapping.h"
@@ -111,8 +112,7 @@ private:
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
     // On the overlay: the handles and the drag's outlines over the controls.
-    void PaintOverlay(QPainter& painter, const QRegion& region) const;
-    void DrawTrackers(QPainter& painter) const;
+    void PaintOverlay(QPainter& painter, const QRegion& region);
     // The grid's dots that fall in the region, inside the window.
     void DrawGrid(QPainter& painter, const QRegion& region) const;
     void DrawSnapGuides(QPainter& painter) const;
@@ -134,11 +134,12 @@ private:
     CCanvasSelection m_selection;
     bool m_locked = false;
     CCanvasMapping m_mapping;
+    CSelectionHandles m_handles;
     std::vector<HmiRect> m_feedback;
     LayoutAids m_aids;
     std::vector<SnapGuide> m_snapGuides; // in window coordinates
     QImage m_backdrop;       // the document drawn once for a large drag, kept
-    QRegion m_staleBackdrop; // where the document changed since the backdrop was drawn
+    QRegion m_staleBackdrop; // where the document changed and the backdrop is not redrawn yet
     mutable QImage m_outlineDots; // where the drag's outlines are set, kept from paint to paint
     // Widgets' drawings kept from paint to paint; a drawing is found by what it is drawn from, so
     // an edit needs no clearing: the edited widget's new drawing is kept beside its old one.

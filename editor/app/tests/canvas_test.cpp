@@ -15,12 +15,14 @@
 #include "catalogue/hmiwidgetgradrect.h"
 #include "catalogue/hmiwidgetrect.h"
 #include "widgets/hmiimagedc.h"
+#include "widgets/hmipainterdc.h"
 #include "widgets/windowpainter.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QDir>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -536,6 +538,73 @@ private slots:
                 if (((before.pixel(x, y) ^ during.pixel(x, y)) & 0xFFFFFF) != inverted)
                     QFAIL(qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
             }
+    }
+
+    // The handles of a large selection, which the canvas keeps from repaint to repaint, show
+    // exactly as the widgets draw them over the canvas, wherever the selection goes: after
+    // Select All, drags of it all (past the canvas's edge and back), an arrow key, an Undo, a
+    // widget taken out, and at another zoom. Beneath them, the canvas shows what a rendered
+    // image of the window shows, also where its kept drawing had to follow every widget.
+    void handlesOfManyWidgetsShowAsTheyAreDrawn()
+    {
+        for (int i = 0; i < 90; ++i)
+            AddRect(*document, {4 + i % 10 * 100, 20 + i / 10 * 80, 60 + i % 10 * 100, 70 + i / 10 * 80});
+        view->Selection().SelectAll();
+        const auto expectHandlesAsDrawn = [this](const char* after) {
+            LetTheCanvasPaint();
+            const QImage shot = view->grab().toImage();
+            const std::vector<CHmiWidget*> selected = Selected();
+            view->Selection().Select(nullptr, false);
+            const QImage bare = view->grab().toImage();
+            QImage expected = bare;
+            {
+                QPainter painter(&expected);
+                CHmiPainterDC dc(painter);
+                for (const CHmiWidget* widget : selected)
+                    widget->DrawTracker(dc, widget == selected.back() ? TrackerState::active : TrackerState::selected);
+            }
+            view->Selection().SelectWidgets(selected, false);
+            // Inside the window, away from the window widget's own handles.
+            const HmiPoint corner = view->DocToClient({1024, 768});
+            const QRect inside = QRect(0, 0, corner.x, corner.y).adjusted(4, 4, -4, -4);
+            QVERIFY2(shot.copy(inside) == expected.copy(inside), after);
+            if (view->Mapping().Percent() != 100)
+                return;
+            CHmiImageDC rendered(1024, 768);
+            DrawWindow(*document, rendered);
+            for (int y = inside.top(); y <= inside.bottom(); ++y)
+                for (int x = inside.left(); x <= inside.right(); ++x) {
+                    const HmiColor pixel = rendered.GetPixel(x, y);
+                    if (bare.pixel(x, y) != qRgb(pixel & 0xFF, (pixel >> 8) & 0xFF, (pixel >> 16) & 0xFF))
+                        QFAIL(qPrintable(QString("%1: %2, %3").arg(after).arg(x).arg(y)));
+                }
+        };
+        const auto dragAll = [this](QPoint by) {
+            const HmiRect& rect = RectOf(Selected().back());
+            const QPoint from = QPoint((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2) *
+                                view->Mapping().Percent() / 100;
+            QTest::mousePress(view, Qt::LeftButton, {}, from);
+            QTest::mouseMove(view, from + by);
+            LetTheCanvasPaint();
+            QTest::mouseRelease(view, Qt::LeftButton, {}, from + by);
+        };
+        expectHandlesAsDrawn("Select All");
+        for (const QPoint by : {QPoint(3, 2), QPoint(30, 1), QPoint(-60, 0), QPoint(57, -1)}) {
+            dragAll(by);
+            expectHandlesAsDrawn(qPrintable(QString("a drag by %1, %2").arg(by.x()).arg(by.y())));
+        }
+        Press(Qt::Key_Right);
+        expectHandlesAsDrawn("an arrow key");
+        Press(Qt::Key_Z, Qt::ControlModifier);
+        expectHandlesAsDrawn("Undo");
+        const HmiRect first = RectOf(Selected().front());
+        QTest::mouseDClick(view, Qt::LeftButton, Qt::ShiftModifier, QPoint(first.left + 5, first.top + 5));
+        QCOMPARE(Selected().size(), std::size_t(89));
+        expectHandlesAsDrawn("a widget taken out");
+        view->SetZoomPercent(200);
+        expectHandlesAsDrawn("a zoom");
+        dragAll(QPoint(4, 2));
+        expectHandlesAsDrawn("a zoomed drag");
     }
 
     // The View menu's toggles keep the preferences and reach the canvas: a held drag shows its
