@@ -633,6 +633,8 @@ CHmiPainterDC::CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache)
     : m_painter(painter), m_cache(cache), m_paint(++g_paints), m_deviceArea(VisibleArea(painter, false)),
       m_clipBox(VisibleArea(painter, true))
 {
+    if (painter.hasClipping())
+        m_clip = painter.clipRegion();
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     m_painter.setRenderHint(QPainter::TextAntialiasing, false);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
@@ -809,7 +811,30 @@ void CHmiPainterDC::Ellipse(const HmiRect& rect)
     if (r.Width() <= 0 || r.Height() <= 0)
         return;
     ApplyPenAndBrush();
-    m_painter.drawEllipse(QRect(r.left, r.top, r.Width() - 1, r.Height() - 1));
+    const QRect box(r.left, r.top, r.Width() - 1, r.Height() - 1);
+    // The painter's ellipses may set pixels past its clip, as a flat one's fill does on the row
+    // below. Their pixels reach past the box too: by the pen, and along the longer side of a flat
+    // one by a tenth of its length or so, which a whole length each way allows for. One that the
+    // clip may cut is drawn in a layer of the part that can be seen, which the painter then lays
+    // down through its clip.
+    const int pen = PenWidth(m_pen) + 1;
+    const QRect pixels = box.adjusted(-box.width() - pen, -box.height() - pen, box.width() + pen, box.height() + pen);
+    if (!m_clip || !PaintsWholeDevicePixels() || QRegion(pixels).subtracted(*m_clip).isEmpty()) {
+        m_painter.drawEllipse(box);
+        return;
+    }
+    const QRect seen = pixels & ToQRect(m_clipBox);
+    QImage layer(seen.size(), QImage::Format_ARGB32_Premultiplied);
+    if (layer.isNull())
+        return; // nothing to see, or out of memory
+    layer.fill(Qt::transparent);
+    QPainter painter(&layer);
+    painter.translate(-seen.topLeft());
+    painter.setPen(m_painter.pen());
+    painter.setBrush(m_painter.brush());
+    painter.drawEllipse(box);
+    painter.end();
+    m_painter.drawImage(seen.topLeft(), layer);
 }
 
 void CHmiPainterDC::Polygon(std::span<const HmiPoint> points)

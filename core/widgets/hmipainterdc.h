@@ -2,9 +2,12 @@
 
 #include "hmidc.h"
 
+#include <QRegion>
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 class QPainter;
 class QRect;
@@ -79,5 +82,6 @@ private:
     std::uint64_t m_paint; // which paint this is, from the first target made on
     HmiRect m_deviceArea; // the device in the painter's coordinates
     HmiRect m_clipBox;
+    std::optional<QRegion> m_clip; // in the painter's coordinates, when it clips
     int m_patternPhase = 0; // where a dotted line's pattern stands, carried from segment to segment
 };

@@ -104,3 +104,23 @@ TEST(KeptDrawings, FlatEllipseGradientsPaintWhatReachesPastTheirRectangle)
         }
     }
 }
+
+// Through a clip, a flat ellipse gradient, whose ring the painter fills a row lower than its
+// rectangle, sets the pixels there that it sets drawn whole, and no others.
+TEST(KeptDrawings, FlatEllipsesThroughAClipSetWhatTheySetWholeThereAndNothingElse)
+{
+    const QRect clip(0, 0, 100, 61);
+    const auto paint = [&](const QRect& through) { // an empty clip lets nothing through
+        QImage image(240, 80, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setClipRect(through);
+        CHmiPainterDC dc(painter);
+        PaintEllipseGradient(dc, {40, 60, 60, 62}, HmiRgb(250, 80, 60), HmiRgb(20, 200, 130), 2);
+        return image;
+    };
+    QImage clipped = paint(clip);
+    EXPECT_TRUE(clipped.copy(clip) == paint(QRect(0, 0, 240, 80)).copy(clip)) << "inside";
+    QPainter(&clipped).fillRect(clip, Qt::white);
+    EXPECT_TRUE(clipped == paint(QRect())) << "outside";
+}
