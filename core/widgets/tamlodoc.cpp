@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <ranges>
 #include <utility>
 
 CTamloDoc::CChangeBatch::CChangeBatch(CTamloDoc& document) : m_document(document)
@@ -401,7 +402,7 @@ FileResult CTamloDoc::Load(const std::string& path)
 CWindowFileWriter CTamloDoc::WriteWidgets() const
 {
     CWindowFileWriter writer(m_nLastTextSize);
-    for (const HmiWidgetPtr& widget : m_widgets) {
+    for (const HmiWidgetPtr& widget : std::views::reverse(m_widgets)) {
         if (!IsWidgetDeleted(widget.get()))
             writer.Write(*widget);
     }
