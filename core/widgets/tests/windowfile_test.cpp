@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <string>
 #include <vector>
 
 namespace {
@@ -239,14 +238,6 @@ TEST_F(WindowFileTest, TheWriterProducesTheHandWrittenFile)
     EXPECT_EQ(doc.Serialize(), kSmallWindowFile);
 }
 
-std::vector<std::string> NamesInDrawingOrder(const CTamloDoc& doc)
-{
-    std::vector<std::string> names;
-    for (const HmiWidgetPtr& widget : doc.Widgets())
-        names.push_back(widget->GetWidgetName());
-    return names;
-}
-
 TEST_F(WindowFileTest, ReadingItBackAndSavingKeepsTheFileOrderAndTheStacking)
 {
     CTamloDoc doc;
@@ -257,7 +248,8 @@ TEST_F(WindowFileTest, ReadingItBackAndSavingKeepsTheFileOrderAndTheStacking)
 
     CTamloDoc again;
     ASSERT_TRUE(again.Load(dir.Path("again.xml")));
-    EXPECT_EQ(NamesInDrawingOrder(again), NamesInDrawingOrder(doc)) << "the saved window reads back stacked as it was";
+    const auto name = [](const HmiWidgetPtr& widget) { return widget->GetWidgetName(); };
+    EXPECT_TRUE(std::ranges::equal(again.Widgets(), doc.Widgets(), {}, name, name)) << "stacked as it was";
 }
 
 } // namespace
