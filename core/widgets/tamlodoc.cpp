@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <ranges>
 #include <utility>
 
 CTamloDoc::CChangeBatch::CChangeBatch(CTamloDoc& document) : m_document(document)
@@ -402,9 +401,9 @@ FileResult CTamloDoc::Load(const std::string& path)
 CWindowFileWriter CTamloDoc::WriteWidgets() const
 {
     CWindowFileWriter writer(m_nLastTextSize);
-    for (const HmiWidgetPtr& widget : std::views::reverse(m_widgets)) {
-        if (!IsWidgetDeleted(widget.get()))
-            writer.Write(*widget);
+    for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget) {
+        if (!IsWidgetDeleted(widget->get()))
+            writer.Write(**widget);
     }
     return writer;
 }

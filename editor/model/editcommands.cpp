@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
-#include <ranges>
 #include <unordered_set>
 
 namespace {
@@ -44,9 +43,9 @@ std::string CopyWidgets(const CTamloDoc& document, const std::vector<CHmiWidget*
     const std::unordered_set<const CHmiWidget*> copied(widgets.begin(), widgets.end());
     CWindowFileWriter writer;
     // From the top down, as a window file lists them, whatever order they were selected in.
-    for (const HmiWidgetPtr& widget : std::views::reverse(document.Widgets())) {
-        if (copied.contains(widget.get()) && !IsWindow(widget.get()))
-            writer.Write(*widget);
+    for (auto widget = document.Widgets().rbegin(); widget != document.Widgets().rend(); ++widget) {
+        if (copied.contains(widget->get()) && !IsWindow(widget->get()))
+            writer.Write(**widget);
     }
     return writer.Written().empty() ? std::string() : writer.Finish();
 }
@@ -69,7 +68,8 @@ std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& te
     CUndoStepGuard step(document);
     CWidgetNames names(document);
     // The text lists them from the top down, so the lowest goes onto the window first.
-    for (HmiWidgetPtr& widget : std::views::reverse(read)) {
+    std::reverse(read.begin(), read.end());
+    for (HmiWidgetPtr& widget : read) {
         const HmiRect& r = widget->GetWidgetRect();
         widget->SetWidgetRect({r.left + kPasteOffset, r.top + kPasteOffset, r.right + kPasteOffset,
                                r.bottom + kPasteOffset});
