@@ -416,7 +416,7 @@ void MeasurePaste(CTamloDoc& document)
     for (const HmiWidgetPtr& widget : document.Widgets())
         if (widget.get() != document.GetWindowWidget() && copied.size() < kPastedWidgetCount)
             copied.push_back(widget.get());
-    const std::string text = CopyWidgets(copied);
+    const std::string text = CopyWidgets(document, copied);
     const Timing read = Measure(kBandRepetitions, [&text] { ReadWindowText(text, [](HmiWidgetPtr) {}); });
     const Timing paste = Measure(kBandRepetitions, [&] {
         PasteWidgets(document, text);

@@ -16,6 +16,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <string>
 #include <unistd.h>
 
@@ -66,11 +67,14 @@ void FuzzWindowFile(const std::uint8_t* data, std::size_t size)
     std::string text;
     if (!document.SerializeChecked(text))
         return;
-    std::string written;
+    // Read back as a document reads, each widget at the head: the same list, in the same order.
+    std::deque<std::string> reread;
+    if (!ReadWindowText(text, [&](HmiWidgetPtr widget) { widget->Serialize(reread.emplace_front()); }))
+        std::abort();
+    std::deque<std::string> written;
     for (const HmiWidgetPtr& widget : document.Widgets())
-        widget->Serialize(written);
-    std::string reread;
-    if (!ReadWindowText(text, [&](HmiWidgetPtr widget) { widget->Serialize(reread); }) || reread != written)
+        widget->Serialize(written.emplace_back());
+    if (reread != written)
         std::abort();
 }
 

@@ -401,9 +401,9 @@ FileResult CTamloDoc::Load(const std::string& path)
 CWindowFileWriter CTamloDoc::WriteWidgets() const
 {
     CWindowFileWriter writer(m_nLastTextSize);
-    for (const HmiWidgetPtr& widget : m_widgets) {
-        if (!IsWidgetDeleted(widget.get()))
-            writer.Write(*widget);
+    for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget) {
+        if (!IsWidgetDeleted(widget->get()))
+            writer.Write(**widget);
     }
     return writer;
 }

@@ -41,8 +41,10 @@ private:
 };
 
 // The document of one HMI window: it owns the window's widgets in drawing order (head first,
-// tail on top), names new widgets, and loads and saves the window file. It tells its observers
-// of every change (documentchange.h), so that each view refreshes only what changed.
+// tail on top), names new widgets, and loads and saves the window file. A load puts each widget
+// read at the head, so a file lists the widgets from the top down; a save writes them the same
+// way, and the window reads back stacked as it was. It tells its observers of every change
+// (documentchange.h), so that each view refreshes only what changed.
 class CTamloDoc {
 public:
     // Collects the changes of one operation, such as a load or an Undo, and tells them as one.
@@ -177,7 +179,7 @@ public:
     static int& WidgetNameCounter();
 
 private:
-    // The widgets that are not deleted, written in drawing order.
+    // The widgets that are not deleted, written from the top of the drawing order down.
     CWindowFileWriter WriteWidgets() const;
     void DeleteContents();
     void DestroyDeletedWidgets();

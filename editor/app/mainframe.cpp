@@ -918,7 +918,7 @@ void CMainFrame::EditRedo()
 void CMainFrame::EditCopy()
 {
     CTamloView* view = ActiveView();
-    const std::string text = view ? CopyWidgets(view->Selection().Widgets()) : std::string();
+    const std::string text = view ? CopyWidgets(view->Document(), view->Selection().Widgets()) : std::string();
     if (text.empty())
         return;
     auto* data = new QMimeData;

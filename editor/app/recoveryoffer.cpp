@@ -21,10 +21,6 @@ bool RestoreWindow(const RecoveryCopy& copy, CMainFrame& frame, CEditorPrompts& 
                                       .arg(copy.record.displayName, QString::fromStdString(result.error)));
         return false;
     }
-    // Loading reverses the order of the file, and the copy holds the document's own order.
-    const std::size_t count = document->Widgets().size();
-    for (std::size_t i = 0; i + 1 < count; ++i)
-        document->MoveWidget(document->Widgets().back().get(), i);
     const QString& path = copy.record.windowPath;
     if (CChildFrame* open = path.isEmpty() ? nullptr : frame.FindChild(path); open && !open->Document().IsModified())
         open->close();

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <unordered_set>
 
 namespace {
 
@@ -37,11 +38,15 @@ bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
     return true;
 }
 
-std::string CopyWidgets(const std::vector<CHmiWidget*>& widgets)
+std::string CopyWidgets(const CTamloDoc& document, const std::vector<CHmiWidget*>& widgets)
 {
+    const std::unordered_set<const CHmiWidget*> copied(widgets.begin(), widgets.end());
     CWindowFileWriter writer;
-    for (const CHmiWidget* widget : WithoutWindow(widgets))
-        writer.Write(*widget);
+    // From the top down, as a window file lists them, whatever order they were selected in.
+    for (auto widget = document.Widgets().rbegin(); widget != document.Widgets().rend(); ++widget) {
+        if (copied.contains(widget->get()) && !IsWindow(widget->get()))
+            writer.Write(**widget);
+    }
     return writer.Written().empty() ? std::string() : writer.Finish();
 }
 
@@ -62,6 +67,8 @@ std::vector<CHmiWidget*> PasteWidgets(CTamloDoc& document, const std::string& te
         return pasted;
     CUndoStepGuard step(document);
     CWidgetNames names(document);
+    // The text lists them from the top down, so the lowest goes onto the window first.
+    std::reverse(read.begin(), read.end());
     for (HmiWidgetPtr& widget : read) {
         const HmiRect& r = widget->GetWidgetRect();
         widget->SetWidgetRect({r.left + kPasteOffset, r.top + kPasteOffset, r.right + kPasteOffset,

@@ -15,8 +15,9 @@ class CTamloDoc;
 // replaced, so that Undo brings them back. Returns false when nothing could be deleted.
 bool DeleteWidgets(CTamloDoc& document, const std::vector<CHmiWidget*>& widgets);
 
-// The widgets as the text of a window file, for the clipboard; empty when there is nothing to copy.
-std::string CopyWidgets(const std::vector<CHmiWidget*>& widgets);
+// The widgets of the document as the text of a window file, for the clipboard, in the order
+// the document saves them; empty when there is nothing to copy.
+std::string CopyWidgets(const CTamloDoc& document, const std::vector<CHmiWidget*>& widgets);
 
 // Whether Delete, Cut and Copy have anything to work on: a widget other than the window.
 bool HasEditableWidgets(const std::vector<CHmiWidget*>& widgets);

@@ -85,6 +85,6 @@ void CGeneratedWindows::Fill(CTamloDoc& document, int widgetCount) const
             Bind(*widget, i);
         if (i % 5 == 0)
             widget->SetWidgetEventCode("click", "setvar(\"$plc.x1\", " + std::to_string(i) + ");\nshowwindow(\"main\");");
-        document.AddWidget(std::move(widget), true);
+        document.AddWidget(std::move(widget), false); // at the head, as a load puts it
     }
 }

@@ -18,7 +18,8 @@ public:
 
     // False when the demo windows could not be read.
     bool IsValid() const { return !m_templates.empty(); }
-    // Makes the document a window of the widget count plus its window widget.
+    // Makes the document a window of the widget count plus its window widget, stacked as a load
+    // stacks the widgets of a file: its file lists them in the order they were made.
     void Fill(CTamloDoc& document, int widgetCount) const;
 
 private:

@@ -138,6 +138,6 @@ void FillMixedWindow(CTamloDoc& document, int widgetCount, unsigned seed)
         widget->SetWidgetRect(PlaceWidget(random));
         VaryOwnProperties(*widget, i / int(keys.size()) + int(seed), random);
         AddBindingsAndScripts(*widget, i);
-        document.AddWidget(std::move(widget), true);
+        document.AddWidget(std::move(widget), false);
     }
 }

@@ -13,6 +13,8 @@ constexpr int kMixedWindowHeight = 768;
 // long, empty and in GB2312, small numbers in the other fields, pictures of the demo project
 // and a missing one. Sizes vary from zero and one pixel through reversed corners to larger
 // than the window and partly outside it; some widgets carry bindings and event scripts. The same
-// count and seed give the same document, in any process. Pictures are found in the demo folder,
+// count and seed give the same document, in any process. Each widget goes to the head of the
+// list, as a load puts the widgets of a file: the file lists them in the order they were made,
+// and a generated window draws as its file does. Pictures are found in the demo folder,
 // which the document takes as its picture folder.
 void FillMixedWindow(CTamloDoc& document, int widgetCount, unsigned seed);

@@ -168,7 +168,7 @@ Widget& Add(CTamloDoc& doc, Widget* widget, const char* name, HmiRect rect)
 {
     widget->SetWidgetName(name);
     widget->SetWidgetRect(rect);
-    doc.AddWidget(HmiWidgetPtr(widget), true);
+    doc.AddWidget(HmiWidgetPtr(widget), false); // at the head, as reading the file puts it
     return *widget;
 }
 
@@ -238,14 +238,18 @@ TEST_F(WindowFileTest, TheWriterProducesTheHandWrittenFile)
     EXPECT_EQ(doc.Serialize(), kSmallWindowFile);
 }
 
-TEST_F(WindowFileTest, ReadingItBackAndSavingWritesTheWidgetsInReverse)
+TEST_F(WindowFileTest, ReadingItBackAndSavingKeepsTheFileOrderAndTheStacking)
 {
     CTamloDoc doc;
     ASSERT_TRUE(doc.Load(dir.Write("small.xml", kSmallWindowFile)));
     ASSERT_TRUE(doc.Save(dir.Path("again.xml")));
+    EXPECT_EQ(dir.Read("again.xml"), kHead + AsParsed(kWindowElement) + AsParsed(kValveElement) + kTimerElement +
+                                         kLabelElement + kGaugeElement + "</hmiwidget>\n");
 
-    EXPECT_EQ(dir.Read("again.xml"), kHead + kGaugeElement + kLabelElement + kTimerElement + AsParsed(kValveElement) +
-                                         AsParsed(kWindowElement) + "</hmiwidget>\n");
+    CTamloDoc again;
+    ASSERT_TRUE(again.Load(dir.Path("again.xml")));
+    const auto name = [](const HmiWidgetPtr& widget) { return widget->GetWidgetName(); };
+    EXPECT_TRUE(std::ranges::equal(again.Widgets(), doc.Widgets(), {}, name, name)) << "stacked as it was";
 }
 
 } // namespace

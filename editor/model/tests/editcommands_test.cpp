@@ -28,7 +28,7 @@ TEST_F(EditCommandsTest, DeletedWidgetsStayUntilTheUndoStepIsReplaced)
     EXPECT_FALSE(DeleteWidgets(document, {Window()}));
 }
 
-TEST_F(EditCommandsTest, PasteLeavesTheWindowOutAndRenamesTakenNames)
+TEST_F(EditCommandsTest, PasteLeavesTheWindowOutRenamesTakenNamesAndStacksAsTheOriginals)
 {
     CHmiWidget* a = AddRect({10, 10, 50, 50});
     CHmiWidget* b = AddRect({60, 10, 90, 50});
@@ -38,7 +38,7 @@ TEST_F(EditCommandsTest, PasteLeavesTheWindowOutAndRenamesTakenNames)
     b->SetWidgetName("valve");
     c->SetWidgetName("rectangle901");
     d->SetWidgetName("valve");
-    const std::string text = CopyWidgets({a, Window(), b, d});
+    const std::string text = CopyWidgets(document, {d, a, Window(), b}); // selected out of drawing order
     EXPECT_EQ(text.find("class=\"window\""), std::string::npos);
     document.RemoveWidget(b);
     document.RemoveWidget(d);
@@ -51,6 +51,7 @@ TEST_F(EditCommandsTest, PasteLeavesTheWindowOutAndRenamesTakenNames)
         names.push_back(widget->GetWidgetName());
     EXPECT_EQ(names, (std::vector<std::string>{"rectangle900", "valve", "rectangle902"}));
     EXPECT_EQ(document.Widgets().back().get(), pasted.back());
+    EXPECT_EQ(pasted.back()->GetWidgetRect(), (HmiRect{20, 70, 60, 100})) << "d's copy on top, as d was";
     ASSERT_EQ(document.UndoStep().size(), 3u);
     EXPECT_EQ(document.UndoStep()[0].operation, UndoOperation::Added);
 }
@@ -60,7 +61,7 @@ TEST_F(EditCommandsTest, PastingTextWithoutWidgetsDoesNothing)
     NudgeWidgets(document, {Window()}, NudgeKey::Up, false);
     EXPECT_TRUE(PasteWidgets(document, "not xml").empty());
     EXPECT_TRUE(PasteWidgets(document, "").empty());
-    EXPECT_TRUE(CopyWidgets({Window()}).empty());
+    EXPECT_TRUE(CopyWidgets(document, {Window()}).empty());
     EXPECT_TRUE(document.CanUndo()) << "a paste of nothing keeps the undo step";
 }
 
