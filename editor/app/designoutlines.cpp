@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdint>
 
 namespace {
 
@@ -18,6 +19,9 @@ namespace {
 constexpr int kGlyphSize = 16;
 constexpr double kIconOpacity = 0.6;
 const QColor kOutlineColor(0, 0, 0, 110);
+// The outline's dashes: so many inked pixels in every period.
+constexpr int kDashPeriod = 6;
+constexpr int kDashLength = 4;
 
 // A drawing target that paints nothing and notes whether anything drawn would have shown.
 class CInkProbeDC : public CHmiStateDC {
@@ -71,12 +75,57 @@ bool HasLiveControl(const CHmiWidget& widget)
     return control && control->GetControl();
 }
 
+// Dashes of an outline's side that lie in bounds. Pixel n of the side is pixel patternAt + n of
+// the walk round the outline, whose pixels 1 to 4 of every 6 are inked.
+void DashSide(QPainter& painter, QPoint first, QPoint step, std::int64_t pixels, std::int64_t patternAt,
+              const QRect& bounds)
+{
+    // The pixels of the side inside bounds: from..to, along each axis it runs on or stands on.
+    std::int64_t from = 0;
+    std::int64_t to = pixels - 1;
+    const auto holdTo = [&from, &to](int start, int direction, int low, int high) {
+        if (direction == 0 && (start < low || start > high))
+            to = -1;
+        else if (direction != 0) {
+            from = std::max(from, direction > 0 ? std::int64_t(low) - start : std::int64_t(start) - high);
+            to = std::min(to, direction > 0 ? std::int64_t(high) - start : std::int64_t(start) - low);
+        }
+    };
+    holdTo(first.x(), step.x(), bounds.left(), bounds.right());
+    holdTo(first.y(), step.y(), bounds.top(), bounds.bottom());
+    const auto at = [first, step](std::int64_t n) {
+        return QPoint(int(first.x() + step.x() * n), int(first.y() + step.y() * n));
+    };
+    for (std::int64_t dash = std::max<std::int64_t>(patternAt + from - 1, 0) / kDashPeriod * kDashPeriod + 1;
+         dash - patternAt <= to; dash += kDashPeriod) {
+        const std::int64_t begin = std::max(dash - patternAt, from);
+        const std::int64_t end = std::min(dash + kDashLength - 1 - patternAt, to);
+        if (begin <= end)
+            painter.fillRect(QRect(at(begin), at(begin)).united(QRect(at(end), at(end))), kOutlineColor);
+    }
+}
+
+// A dashed outline round the edge pixels of area, walked clockwise from its top left corner, whose
+// dashes stay where they are however a repaint clips it: a dashed pen restarts its dashes where
+// the painted image ends, so a part repainted into the kept drawing or shown at the canvas's
+// edge would show them shifted. The dashes fall where those of an unclipped dashed pen fall.
+void DrawDashedOutline(QPainter& painter, const QRect& area)
+{
+    const QRect bounds = painter.hasClipping() ? painter.clipBoundingRect().toAlignedRect() : painter.window();
+    const std::int64_t across = std::int64_t(area.width()) - 1;
+    const std::int64_t down = std::int64_t(area.height()) - 1;
+    DashSide(painter, area.topLeft(), {1, 0}, across, 0, bounds);
+    DashSide(painter, area.topRight(), {0, 1}, down, across, bounds);
+    DashSide(painter, area.bottomRight(), {-1, 0}, across, across + down, bounds);
+    // The walk ends on the corner it started from.
+    DashSide(painter, area.bottomLeft(), {0, -1}, down + 1, 2 * across + down, bounds);
+}
+
 // The class's toolbox icon, its record's own or the built-in kind's, else its key's initial in a box.
 void DrawOutline(QPainter& painter, const QRect& outline, const std::string& classKey)
 {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(kOutlineColor, 0, Qt::DashLine));
-    painter.drawRect(outline);
+    DrawDashedOutline(painter, outline.adjusted(0, 0, 1, 1)); // a pen's rectangle covers one pixel more
     const QRect glyph(outline.topLeft() + QPoint(2, 2), QSize(kGlyphSize, kGlyphSize));
     if (!outline.contains(glyph) || classKey.empty())
         return;

@@ -60,6 +60,12 @@ QRegion Area(const HmiRect& rect, int room = 0)
     return QRect(rect.left, rect.top, rect.Width(), rect.Height()).adjusted(-room, -room, room, room);
 }
 
+// A widget that draws nothing, which the canvas shows as a dashed outline.
+struct BlankWidget : CHmiWidget {
+    std::string GetWidgetClassName() const override { return "blank"; }
+    void Draw(CHmiDC&) override {}
+};
+
 // The changes a document told, each with the widgets it named.
 struct ChangeLog : CDocumentObserver {
     void DocumentChanged(const CDocumentChange& change) override { changes.push_back(change); }
@@ -512,6 +518,20 @@ private slots:
                         QFAIL(qPrintable(QString("%1, %2 of %3, %4").arg(x).arg(y).arg(area.x()).arg(area.y())));
                 }
         }
+    }
+
+    // The dashes of a widget's design-time outline stay where they are however a repaint cuts
+    // the outline, also where the canvas ends across it.
+    void outlineDashesDoNotDependOnTheRepaintedArea()
+    {
+        auto blank = std::make_unique<BlankWidget>();
+        const int edge = view->width();
+        blank->SetWidgetRect({edge - 37, 100, edge + 40, 150});
+        document->AddWidget(HmiWidgetPtr(blank.release()), true);
+        view->Selection().Select(nullptr, false);
+        const QImage whole = view->grab().toImage();
+        for (const QRect& part : {QRect(edge - 45, 90, 45, 30), QRect(edge - 30, 125, 30, 40)})
+            QCOMPARE(view->grab(part).toImage(), whole.copy(part));
     }
 
     // While widgets are dragged, every other pixel of where they would go is inverted, on a
