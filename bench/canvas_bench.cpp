@@ -595,7 +595,7 @@ struct StartTimings {
     Timing end;
 };
 
-StartTimings MeasureStart(const QString& program)
+StartTimings MeasureStart(const QString& program, const QStringList& arguments = {})
 {
     std::vector<double> paints;
     std::vector<double> ends;
@@ -605,7 +605,7 @@ StartTimings MeasureStart(const QString& program)
         environment.insert(QString::fromLatin1(kExitAfterFirstPaint), QStringLiteral("1"));
         process.setProcessEnvironment(environment);
         const auto start = std::chrono::steady_clock::now();
-        process.start(program, {});
+        process.start(program, arguments);
         process.waitForFinished(-1);
         const auto end = std::chrono::steady_clock::now();
         const QByteArray output = process.readAllStandardOutput();
@@ -624,8 +624,9 @@ StartTimings MeasureStart(const QString& program)
     return {Summarise(paints), Summarise(ends)};
 }
 
-// The editor's start with the demo window to its first paint, against a bare main window. Both
-// run in a home and a current folder of their own, so that no settings and no library count.
+// The editor's start with the demo window to its first paint, against a bare main window and
+// against one with an empty menu bar, tool bar and panes. All run in a home and a current folder
+// of their own, so that no settings and no library count.
 void MeasureStartUp()
 {
     QTemporaryDir home;
@@ -636,9 +637,12 @@ void MeasureStartUp()
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     QDir::setCurrent(home.path());
     const StartTimings bare = MeasureStart(programs + QStringLiteral("bare-window"));
+    const StartTimings furnished = MeasureStart(programs + QStringLiteral("bare-window"), {QStringLiteral("--furnished")});
     const StartTimings editor = MeasureStart(programs + QStringLiteral("kelvo-hmi-editor"));
     PrintRow(0, "start: bare, first paint", bare.firstPaint, bare.firstPaint);
+    PrintRow(0, "start: frame, first paint", furnished.firstPaint, bare.firstPaint);
     PrintRow(0, "start: editor, first paint", editor.firstPaint, bare.firstPaint);
+    PrintRow(0, "  editor / frame", editor.firstPaint, furnished.firstPaint);
     PrintRow(0, "start: bare, to its end", bare.end, bare.end);
     PrintRow(0, "start: editor, to its end", editor.end, bare.end);
 }
