@@ -932,8 +932,15 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
                                        target.top() + target.height()},
                                       m_deviceArea);
     const bool stretched = target.size() != picture->Decoded().size();
-    if (stretched && std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels &&
-        Meets(area, m_clipBox)) {
+    if (!stretched || !Meets(area, m_clipBox)) {
+        m_painter.drawImage(target, picture->Shown(transparent));
+        return true;
+    }
+    // The painter stretches a picture that its clip cuts as if the picture began where the clip
+    // does, which puts a column or a row a pixel off here and there: such a picture is stretched
+    // whole on the device, kept or in a layer, and laid down through the clip.
+    const bool cut = m_clip && PaintsWholeDevicePixels() && !QRegion(ToQRect(area)).subtracted(*m_clip).isEmpty();
+    if (cut || std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels) {
         const std::string key = HmiReuseKey(
             "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
                         target.top(), target.width(), target.height(), area.left, area.top, area.right, area.bottom});
@@ -943,7 +950,24 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
             return true;
         }
     }
-    m_painter.drawImage(target, picture->Shown(transparent));
+    if (!cut) {
+        m_painter.drawImage(target, picture->Shown(transparent));
+        return true;
+    }
+    // The layer runs from the picture's first pixel on the device to the last one seen.
+    const QRect seen = ToQRect(Intersection(area, m_clipBox));
+    const QRect reach(QPoint(area.left, area.top), seen.bottomRight());
+    QImage layer(reach.size(), QImage::Format_ARGB32_Premultiplied);
+    if (layer.isNull()) {
+        m_painter.drawImage(target, picture->Shown(transparent)); // out of memory: a pixel off is less
+        return true;
+    }
+    layer.fill(Qt::transparent);
+    QPainter painter(&layer);
+    painter.translate(-reach.topLeft());
+    painter.drawImage(target, picture->Shown(transparent));
+    painter.end();
+    m_painter.drawImage(seen.topLeft(), layer, seen.translated(-reach.topLeft()));
     return true;
 }
 

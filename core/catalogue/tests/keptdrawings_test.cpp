@@ -5,6 +5,7 @@
 #include "catalogue/gradientpainter.h"
 #include "tests/support/mixedwindow.h"
 #include "tests/support/registryscope.h"
+#include "tests/support/tempdir.h"
 #include "widgets/hmipainterdc.h"
 #include "widgets/tamlodoc.h"
 #include "widgets/windowpainter.h"
@@ -123,4 +124,58 @@ TEST(KeptDrawings, FlatEllipsesThroughAClipSetWhatTheySetWholeThereAndNothingEls
     EXPECT_TRUE(clipped.copy(clip) == paint(QRect(0, 0, 240, 80)).copy(clip)) << "inside";
     QPainter(&clipped).fillRect(clip, Qt::white);
     EXPECT_TRUE(clipped == paint(QRect())) << "outside";
+}
+
+// The painter stretches a picture that its clip cuts from where the clip begins, a column or a
+// row off from the picture stretched whole: through any clip, kept or not, a stretched picture
+// sets the pixels it sets drawn whole, and no others.
+TEST(KeptDrawings, StretchedPicturesThroughAClipSetWhatTheySetWholeThereAndNothingElse)
+{
+    const TempDir dir;
+    QImage tiles(97, 61, QImage::Format_RGB32);
+    for (int y = 0; y < tiles.height(); ++y)
+        for (int x = 0; x < tiles.width(); ++x)
+            tiles.setPixel(x, y, qRgb(x * 2, y * 4, (x * y) & 0xFF));
+    const std::string path = dir.Path("tiles.png");
+    ASSERT_TRUE(tiles.save(QString::fromStdString(path)));
+    const HmiColor black = 0x000000; // the first column and row, left out
+
+    const auto paint = [&](const HmiRect& rect, const HmiColor* transparent, const QRegion& clip,
+                           CHmiDrawingCache* drawings) {
+        QImage image(1024, 768, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setClipRegion(clip);
+        CHmiPainterDC dc(painter, drawings);
+        dc.DrawPictureFile(path, rect, transparent);
+        return image;
+    };
+    std::minstd_rand engine(7);
+    const auto someClip = [&engine] {
+        const auto area = [&engine] {
+            return QRect(int(engine() % 1000), int(engine() % 740), 1 + int(engine() % 300), 1 + int(engine() % 200));
+        };
+        return engine() % 4 == 0 ? QRegion(area()) + QRegion(area()) : QRegion(area());
+    };
+    // Stretched beyond the largest kept picture, shrunk, and off the device's left and top.
+    for (const HmiRect rect : {HmiRect{257, 119, 1003, 675}, HmiRect{40, 30, 110, 80}, HmiRect{-73, -41, 610, 388}}) {
+        for (const HmiColor* transparent : {static_cast<const HmiColor*>(nullptr), &black}) {
+            const QImage whole = paint(rect, transparent, QRegion(0, 0, 1024, 768), nullptr);
+            CHmiDrawingCache drawings;
+            for (int i = 0; i < 40; ++i) {
+                const QRegion clip = someClip();
+                QImage expected(whole.size(), whole.format());
+                expected.fill(Qt::white);
+                QPainter through(&expected);
+                through.setClipRegion(clip);
+                through.drawImage(0, 0, whole);
+                through.end();
+                const QRect box = clip.boundingRect();
+                EXPECT_TRUE(paint(rect, transparent, clip, nullptr) == expected)
+                    << rect.left << "," << rect.top << " through " << box.x() << "," << box.y() << " " << box.width()
+                    << "x" << box.height();
+                EXPECT_TRUE(paint(rect, transparent, clip, &drawings) == expected) << "kept, clip " << i;
+            }
+        }
+    }
 }
