@@ -300,14 +300,15 @@ public:
         const auto covers = [&](std::int64_t i) {
             for (const double x : {box.left - 1.0, box.right + 0.0})
                 for (const double y : {box.top - 1.0, box.bottom + 0.0})
-                    if (!Holds(i, -2, x, y))
+                    if (!Holds(i, -2, -2, x, y))
                         return false;
             return true;
         };
         const auto reaches = [&](std::int64_t i) {
             const double x = std::clamp<double>(m_centreX, box.left, box.right - 1);
             const double y = std::clamp<double>(m_centreY, box.top, box.bottom - 1);
-            return Holds(i, 2, x, y);
+            const double along = Overshoot(i);
+            return At(i).Width() >= At(i).Height() ? Holds(i, 2 + along, 2, x, y) : Holds(i, 2, 2 + along, x, y);
         };
         const std::int64_t first =
             HmiFirstStepWhere(0, count, [&](std::int64_t i) { return i + 1 >= count || !covers(i + 1); });
@@ -315,11 +316,29 @@ public:
     }
 
 private:
-    // Whether ring i's exact ellipse, its semi-axes grown by grow pixels, holds the point.
-    bool Holds(std::int64_t i, double grow, double x, double y) const
+    // How far the painter's pixels of ring i, or of a ring inside it, may reach past the ends of
+    // ring i's longer side, besides the pixel that any ellipse's may stray. A flat ellipse's
+    // reach out by up to half its length over its thickness (the most seen of all sizes up to
+    // 1500 x 40), and twice that is allowed for; the flatter rings inside may reach further out
+    // than the ring around them, as their ends lie only a pixel further in each.
+    double Overshoot(std::int64_t i) const
     {
-        const double radiusX = (m_r.Width() - 2.0 * double(i) - 1) / 2 + grow;
-        const double radiusY = (m_r.Height() - 2.0 * double(i) - 1) / 2 + grow;
+        double furthest = 0;
+        for (std::int64_t j = i;; ++j) {
+            const HmiRect ring = At(j);
+            const double shorter = std::min(ring.Width(), ring.Height());
+            if (shorter < 4)
+                return furthest;
+            const double longer = std::max(ring.Width(), ring.Height());
+            furthest = std::max(furthest, longer / shorter - double(j - i));
+        }
+    }
+
+    // Whether ring i's exact ellipse, its semi-axes grown by growX and growY pixels, holds the point.
+    bool Holds(std::int64_t i, double growX, double growY, double x, double y) const
+    {
+        const double radiusX = (m_r.Width() - 2.0 * double(i) - 1) / 2 + growX;
+        const double radiusY = (m_r.Height() - 2.0 * double(i) - 1) / 2 + growY;
         if (radiusX <= 0 || radiusY <= 0)
             return false;
         const double dx = (x - m_centreX) / radiusX;

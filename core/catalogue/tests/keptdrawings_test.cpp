@@ -107,23 +107,42 @@ TEST(KeptDrawings, FlatEllipseGradientsPaintWhatReachesPastTheirRectangle)
 }
 
 // Through a clip, a flat ellipse gradient, whose ring the painter fills a row lower than its
-// rectangle, sets the pixels there that it sets drawn whole, and no others.
+// rectangle and whose rings reach past its ends, sets the pixels there that it sets drawn
+// whole, and no others.
 TEST(KeptDrawings, FlatEllipsesThroughAClipSetWhatTheySetWholeThereAndNothingElse)
 {
-    const QRect clip(0, 0, 100, 61);
+    HmiRect rect{40, 60, 60, 62};
     const auto paint = [&](const QRect& through) { // an empty clip lets nothing through
-        QImage image(240, 80, QImage::Format_RGB32);
+        QImage image(400, 300, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
         painter.setClipRect(through);
         CHmiPainterDC dc(painter);
-        PaintEllipseGradient(dc, {40, 60, 60, 62}, HmiRgb(250, 80, 60), HmiRgb(20, 200, 130), 2);
+        PaintEllipseGradient(dc, rect, HmiRgb(250, 80, 60), HmiRgb(20, 200, 130), 2);
         return image;
     };
+    const QRect clip(0, 0, 100, 61);
     QImage clipped = paint(clip);
-    EXPECT_TRUE(clipped.copy(clip) == paint(QRect(0, 0, 240, 80)).copy(clip)) << "inside";
+    EXPECT_TRUE(clipped.copy(clip) == paint(QRect(0, 0, 400, 300)).copy(clip)) << "inside";
     QPainter(&clipped).fillRect(clip, Qt::white);
     EXPECT_TRUE(clipped == paint(QRect())) << "outside";
+
+    // Flat and tall ones, some running past the image, through clips beside them too.
+    std::minstd_rand engine(3);
+    const auto upTo = [&engine](int n) { return int(engine() % unsigned(n)); };
+    for (int n = 0; n < 300; ++n) {
+        const QSize size = upTo(2) == 0 ? QSize(20 + upTo(400), 3 + upTo(12)) : QSize(3 + upTo(12), 20 + upTo(300));
+        rect = HmiRect{upTo(300) - 50, upTo(200) - 50, 0, 0};
+        rect.right = rect.left + size.width();
+        rect.bottom = rect.top + size.height();
+        const QImage whole = paint(QRect(0, 0, 400, 300));
+        for (int c = 0; c < 10; ++c) {
+            const QRect through(upTo(400), upTo(300), 1 + upTo(100), 1 + upTo(60));
+            EXPECT_TRUE(paint(through).copy(through) == whole.copy(through))
+                << rect.left << "," << rect.top << "," << rect.right << "," << rect.bottom << " through " << through.x()
+                << "," << through.y() << " " << through.width() << "x" << through.height();
+        }
+    }
 }
 
 // The painter stretches a picture that its clip cuts from where the clip begins, a column or a
