@@ -931,15 +931,17 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
     const HmiRect area = Intersection({target.left(), target.top(), target.left() + target.width(),
                                        target.top() + target.height()},
                                       m_deviceArea);
-    const bool stretched = target.size() != picture->Decoded().size();
+    const bool stretched = target.size() != picture->Decoded().size() || m_painter.combinedTransform().isScaling();
     if (!stretched || !Meets(area, m_clipBox)) {
         m_painter.drawImage(target, picture->Shown(transparent));
         return true;
     }
     // The painter stretches a picture that its clip cuts as if the picture began where the clip
     // does, which puts a column or a row a pixel off here and there: such a picture is stretched
-    // whole on the device, kept or in a layer, and laid down through the clip.
-    const bool cut = m_clip && PaintsWholeDevicePixels() && !QRegion(ToQRect(area)).subtracted(*m_clip).isEmpty();
+    // whole, kept on the device or in a layer, and laid down through the clip.
+    const bool cut = m_clip && m_painter.device()->devicePixelRatio() == 1 &&
+                     m_painter.combinedTransform().type() <= QTransform::TxScale &&
+                     !QRegion(ToQRect(area)).subtracted(*m_clip).isEmpty();
     if (cut || std::int64_t(area.Width()) * area.Height() <= kMaxKeptPicturePixels) {
         const std::string key = HmiReuseKey(
             "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
@@ -950,25 +952,38 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
             return true;
         }
     }
-    if (!cut) {
+    if (cut)
+        DrawCutPicture(target, picture->Shown(transparent));
+    else
         m_painter.drawImage(target, picture->Shown(transparent));
-        return true;
-    }
-    // The layer runs from the picture's first pixel on the device to the last one seen.
-    const QRect seen = ToQRect(Intersection(area, m_clipBox));
-    const QRect reach(QPoint(area.left, area.top), seen.bottomRight());
+    return true;
+}
+
+void CHmiPainterDC::DrawCutPicture(const QRect& target, const QImage& shown)
+{
+    // The layer holds the device's pixels from the picture's first one on the device, where the
+    // painter starts stretching an uncut picture, to the last one seen.
+    const QTransform toDevice = m_painter.combinedTransform();
+    const QPaintDevice& device = *m_painter.device();
+    const QRect onDevice = toDevice.mapRect(QRectF(target)).toAlignedRect() & QRect(0, 0, device.width(), device.height());
+    const QRect seen = onDevice & toDevice.mapRect(QRectF(ToQRect(m_clipBox))).toAlignedRect();
+    if (seen.isEmpty())
+        return;
+    const QRect reach(onDevice.topLeft(), seen.bottomRight());
     QImage layer(reach.size(), QImage::Format_ARGB32_Premultiplied);
     if (layer.isNull()) {
-        m_painter.drawImage(target, picture->Shown(transparent)); // out of memory: a pixel off is less
-        return true;
+        m_painter.drawImage(target, shown); // out of memory: a pixel off is the lesser harm
+        return;
     }
     layer.fill(Qt::transparent);
     QPainter painter(&layer);
-    painter.translate(-reach.topLeft());
-    painter.drawImage(target, picture->Shown(transparent));
+    painter.setTransform(toDevice * QTransform::fromTranslate(-reach.left(), -reach.top()));
+    painter.drawImage(target, shown);
     painter.end();
+    m_painter.save();
+    m_painter.resetTransform();
     m_painter.drawImage(seen.topLeft(), layer, seen.translated(-reach.topLeft()));
-    return true;
+    m_painter.restore();
 }
 
 void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint)

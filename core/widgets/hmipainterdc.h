@@ -68,6 +68,8 @@ private:
     void DrawPenLine(HmiPoint from, HmiPoint to);
     void DrawThinLine(HmiPoint from, HmiPoint to);
     void DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format);
+    // A stretched picture that the clip cuts, with the pixels it has drawn uncut.
+    void DrawCutPicture(const QRect& target, const QImage& shown);
     // The drawing kept under the key for paint's drawing of the area, kept now if the key has
     // come before and its pixels lie within inner; null when there is none, and the caller paints
     // anew.

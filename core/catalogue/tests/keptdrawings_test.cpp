@@ -146,8 +146,8 @@ TEST(KeptDrawings, FlatEllipsesThroughAClipSetWhatTheySetWholeThereAndNothingEls
 }
 
 // The painter stretches a picture that its clip cuts from where the clip begins, a column or a
-// row off from the picture stretched whole: through any clip, kept or not, a stretched picture
-// sets the pixels it sets drawn whole, and no others.
+// row off from the picture stretched whole: through any clip, at any scale, kept or not, a
+// stretched picture sets the pixels it sets drawn whole, and no others.
 TEST(KeptDrawings, StretchedPicturesThroughAClipSetWhatTheySetWholeThereAndNothingElse)
 {
     const TempDir dir;
@@ -159,14 +159,19 @@ TEST(KeptDrawings, StretchedPicturesThroughAClipSetWhatTheySetWholeThereAndNothi
     ASSERT_TRUE(tiles.save(QString::fromStdString(path)));
     const HmiColor black = 0x000000; // the first column and row, left out
 
-    const auto paint = [&](const HmiRect& rect, const HmiColor* transparent, const QRegion& clip,
-                           CHmiDrawingCache* drawings) {
+    struct Case {
+        HmiRect rect;
+        const HmiColor* transparent;
+        double scale;
+    };
+    const auto paint = [&](const Case& at, const QRegion& clip, CHmiDrawingCache* drawings) {
         QImage image(1024, 768, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::white);
         QPainter painter(&image);
         painter.setClipRegion(clip);
+        painter.scale(at.scale, at.scale);
         CHmiPainterDC dc(painter, drawings);
-        dc.DrawPictureFile(path, rect, transparent);
+        dc.DrawPictureFile(path, at.rect, at.transparent);
         return image;
     };
     std::minstd_rand engine(7);
@@ -176,25 +181,27 @@ TEST(KeptDrawings, StretchedPicturesThroughAClipSetWhatTheySetWholeThereAndNothi
         };
         return engine() % 4 == 0 ? QRegion(area()) + QRegion(area()) : QRegion(area());
     };
-    // Stretched beyond the largest kept picture, shrunk, and off the device's left and top.
-    for (const HmiRect rect : {HmiRect{257, 119, 1003, 675}, HmiRect{40, 30, 110, 80}, HmiRect{-73, -41, 610, 388}}) {
-        for (const HmiColor* transparent : {static_cast<const HmiColor*>(nullptr), &black}) {
-            const QImage whole = paint(rect, transparent, QRegion(0, 0, 1024, 768), nullptr);
-            CHmiDrawingCache drawings;
-            for (int i = 0; i < 40; ++i) {
-                const QRegion clip = someClip();
-                QImage expected(whole.size(), whole.format());
-                expected.fill(Qt::white);
-                QPainter through(&expected);
-                through.setClipRegion(clip);
-                through.drawImage(0, 0, whole);
-                through.end();
-                const QRect box = clip.boundingRect();
-                EXPECT_TRUE(paint(rect, transparent, clip, nullptr) == expected)
-                    << rect.left << "," << rect.top << " through " << box.x() << "," << box.y() << " " << box.width()
-                    << "x" << box.height();
-                EXPECT_TRUE(paint(rect, transparent, clip, &drawings) == expected) << "kept, clip " << i;
-            }
+    // Stretched beyond the largest kept picture, shrunk, off the device's left and top, zoomed.
+    for (const Case& at : {Case{{257, 119, 1003, 675}, nullptr, 1}, Case{{257, 119, 1003, 675}, &black, 1},
+                           Case{{40, 30, 110, 80}, &black, 1}, Case{{-73, -41, 610, 388}, nullptr, 1},
+                           Case{{13, 7, 110, 68}, nullptr, 2}, Case{{80, 293, 978, 643}, nullptr, 2},
+                           Case{{80, 293, 978, 643}, &black, 2}, Case{{13, 7, 410, 268}, &black, 1.5},
+                           Case{{-13, 7, 1500, 1268}, nullptr, 0.75}, Case{{13, 37, 771, 593}, &black, 1.25}}) {
+        const QImage whole = paint(at, QRegion(0, 0, 1024, 768), nullptr);
+        CHmiDrawingCache drawings;
+        for (int i = 0; i < 40; ++i) {
+            const QRegion clip = someClip();
+            QImage expected(whole.size(), whole.format());
+            expected.fill(Qt::white);
+            QPainter through(&expected);
+            through.setClipRegion(clip);
+            through.drawImage(0, 0, whole);
+            through.end();
+            const QRect box = clip.boundingRect();
+            EXPECT_TRUE(paint(at, clip, nullptr) == expected)
+                << at.rect.left << "," << at.rect.top << " at " << at.scale << " through " << box.x() << "," << box.y()
+                << " " << box.width() << "x" << box.height();
+            EXPECT_TRUE(paint(at, clip, &drawings) == expected) << "kept, clip " << i;
         }
     }
 }

@@ -28,6 +28,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QToolButton>
 
 #include <functional>
@@ -532,6 +533,32 @@ private slots:
         const QImage whole = view->grab().toImage();
         for (const QRect& part : {QRect(edge - 45, 90, 45, 30), QRect(edge - 30, 125, 30, 40)})
             QCOMPARE(view->grab(part).toImage(), whole.copy(part));
+    }
+
+    // A repaint of part of the canvas shows a stretched picture as a repaint of all of it does,
+    // at any zoom, though the painter stretches a cut picture from where the cut begins.
+    void stretchedPicturesDoNotDependOnTheRepaintedArea()
+    {
+        const QTemporaryDir folder;
+        QImage tiles(97, 61, QImage::Format_RGB32);
+        for (int y = 0; y < tiles.height(); ++y)
+            for (int x = 0; x < tiles.width(); ++x)
+                tiles.setPixel(x, y, qRgb(x * 2, y * 4, (x * y) & 0xFF));
+        QVERIFY(tiles.save(folder.filePath(QStringLiteral("tiles.png"))));
+        document->SetPictureFolder(folder.path().toStdString());
+        HmiWidgetPtr picture = CHmiWidget::GetWidgetClass("picture")->CreateObject();
+        picture->SetWidgetRect({13, 7, 771, 563});
+        picture->SetWidgetProperty("filename", "string", "tiles.png", "");
+        document->AddWidget(std::move(picture), true);
+        view->Selection().Select(nullptr, false);
+        for (const int percent : {100, 125, 200}) {
+            view->SetZoomPercent(percent);
+            const QImage whole = view->grab().toImage();
+            for (const QRect& part : {QRect(476, 154, 64, 51), QRect(341, 355, 215, 9), QRect(440, 355, 275, 67),
+                                      QRect(590, 25, 208, 189), QRect(397, 489, 271, 156)})
+                QVERIFY2(view->grab(part).toImage() == whole.copy(part),
+                         qPrintable(QStringLiteral("%1 % at %2, %3").arg(percent).arg(part.x()).arg(part.y())));
+        }
     }
 
     // While widgets are dragged, every other pixel of where they would go is inverted, on a
