@@ -319,19 +319,21 @@ private:
     // How far the painter's pixels of ring i, or of a ring inside it, may reach past the ends of
     // ring i's longer side, besides the pixel that any ellipse's may stray. A flat ellipse's
     // reach out by up to half its length over its thickness (the most seen of all sizes up to
-    // 1500 x 40), and twice that is allowed for; the flatter rings inside may reach further out
-    // than the ring around them, as their ends lie only a pixel further in each.
+    // 1500 x 40), and twice that is allowed for. The flatter rings inside may reach further out
+    // than the ring around them, as their ends lie only a pixel further in each: ring j's reach
+    // past ring i's ends, 1 + (longer - shorter) / (shorter - 2j) - (j - i), is convex in j,
+    // so the most is that of ring i or of the last ring at least 4 pixels thick.
     double Overshoot(std::int64_t i) const
     {
-        double furthest = 0;
-        for (std::int64_t j = i;; ++j) {
-            const HmiRect ring = At(j);
-            const double shorter = std::min(ring.Width(), ring.Height());
-            if (shorter < 4)
-                return furthest;
-            const double longer = std::max(ring.Width(), ring.Height());
-            furthest = std::max(furthest, longer / shorter - double(j - i));
-        }
+        const double longer = std::max(m_r.Width(), m_r.Height());
+        const double shorter = std::min(m_r.Width(), m_r.Height());
+        const std::int64_t last = (std::int64_t(shorter) - 4) / 2;
+        if (shorter < 4 || last < i)
+            return 0;
+        const auto reach = [&](std::int64_t j) {
+            return (longer - 2.0 * double(j)) / (shorter - 2.0 * double(j)) - double(j - i);
+        };
+        return std::max(reach(i), reach(last));
     }
 
     // Whether ring i's exact ellipse, its semi-axes grown by growX and growY pixels, holds the point.
