@@ -448,12 +448,12 @@ namespace {
 
 using KeptDrawing = CHmiDrawingCache::Drawing;
 
-// The largest drawing kept, in pixels; an entry's own bookkeeping counts as some bytes besides
-// its pixels and key.
-constexpr std::int64_t kMaxKeptPixels = std::int64_t(1) << 20;
+// An entry's own bookkeeping counts as some bytes besides its pixels and key.
 constexpr std::size_t kBytesPerEntry = 128;
-// The largest stretched picture kept, in pixels.
+// The largest stretched picture kept, in pixels; one that the clip cuts, whose repaints would
+// otherwise stretch it whole, is kept up to the size of a large screen.
 constexpr std::int64_t kMaxKeptPicturePixels = 128 * 128;
+constexpr std::int64_t kMaxKeptCutPicturePixels = 1920 * 1080;
 
 HmiRect Intersection(const HmiRect& a, const HmiRect& b)
 {
@@ -947,7 +947,7 @@ bool CHmiPainterDC::DrawPictureFile(const std::string& path, const HmiRect& rect
             "picture", {picture->Decoded().cacheKey(), transparent ? std::int64_t(*transparent) : -1, target.left(),
                         target.top(), target.width(), target.height(), area.left, area.top, area.right, area.bottom});
         const auto draw = [&](CHmiDC& aside) { aside.DrawPictureFile(path, rect, transparent); };
-        if (const KeptDrawing* kept = Kept(key, area, area, draw)) {
+        if (const KeptDrawing* kept = Kept(key, area, area, draw, kMaxKeptCutPicturePixels)) {
             m_painter.drawImage(QPoint(area.left, area.top) + kept->origin, kept->image);
             return true;
         }
@@ -1007,10 +1007,10 @@ void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, con
 }
 
 const KeptDrawing* CHmiPainterDC::Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
-                                       const std::function<void(CHmiDC&)>& paint)
+                                       const std::function<void(CHmiDC&)>& paint, std::int64_t maxPixels)
 {
     const bool keepable = m_cache && area.Width() > 0 && area.Height() > 0 &&
-                          std::int64_t(area.Width()) * area.Height() <= kMaxKeptPixels && PaintsWholeDevicePixels();
+                          std::int64_t(area.Width()) * area.Height() <= maxPixels && PaintsWholeDevicePixels();
     if (!keepable)
         return nullptr;
     CHmiDrawingCache::Store& store = *m_cache->m_store;

@@ -70,11 +70,14 @@ private:
     void DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format);
     // A stretched picture that the clip cuts, with the pixels it has drawn uncut.
     void DrawCutPicture(const QRect& target, const QImage& shown);
+    // The largest drawing kept, in pixels, unless a kind of drawing asks for more.
+    static constexpr std::int64_t kMaxKeptPixels = std::int64_t(1) << 20;
     // The drawing kept under the key for paint's drawing of the area, kept now if the key has
-    // come before and its pixels lie within inner; null when there is none, and the caller paints
-    // anew.
+    // come before, its pixels lie within inner and the area holds no more than maxPixels; null
+    // when there is none, and the caller paints anew.
     const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
-                                          const std::function<void(CHmiDC&)>& paint);
+                                          const std::function<void(CHmiDC&)>& paint,
+                                          std::int64_t maxPixels = kMaxKeptPixels);
     // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
     bool PaintsWholeDevicePixels() const;
     void ApplyPenAndBrush();
