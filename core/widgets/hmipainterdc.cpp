@@ -43,13 +43,13 @@ std::int32_t DrawingCoordinateOf(double value)
 
 // What the painter can change, in its own coordinates: its device, or as far as its clip lets
 // through. A device's size in device pixels is at least its size in the painter's units.
-HmiRect VisibleArea(const QPainter& painter, bool clipped)
+HmiRect VisibleArea(const QPainter& painter, const QRect& device, bool clipped)
 {
     bool invertible = false;
     const QTransform toPainter = painter.combinedTransform().inverted(&invertible);
     if (!invertible)
         return {kHmiDrawingMin, kHmiDrawingMin, kHmiDrawingMax, kHmiDrawingMax};
-    QRectF area = toPainter.mapRect(QRectF(0, 0, painter.device()->width(), painter.device()->height()));
+    QRectF area = toPainter.mapRect(QRectF(device));
     if (clipped && painter.hasClipping())
         area &= painter.clipBoundingRect();
     return {DrawingCoordinateOf(std::floor(area.left())), DrawingCoordinateOf(std::floor(area.top())),
@@ -630,8 +630,13 @@ std::size_t CHmiDrawingCache::Bytes() const
 }
 
 CHmiPainterDC::CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache)
-    : m_painter(painter), m_cache(cache), m_paint(++g_paints), m_deviceArea(VisibleArea(painter, false)),
-      m_clipBox(VisibleArea(painter, true))
+    : CHmiPainterDC(painter, cache, QRect(0, 0, painter.device()->width(), painter.device()->height()))
+{
+}
+
+CHmiPainterDC::CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache, const QRect& device)
+    : m_painter(painter), m_cache(cache), m_paint(++g_paints), m_device(device),
+      m_deviceArea(VisibleArea(painter, device, false)), m_clipBox(VisibleArea(painter, device, true))
 {
     if (painter.hasClipping())
         m_clip = painter.clipRegion();
@@ -964,8 +969,7 @@ void CHmiPainterDC::DrawCutPicture(const QRect& target, const QImage& shown)
     // The layer holds the device's pixels from the picture's first one on the device, where the
     // painter starts stretching an uncut picture, to the last one seen.
     const QTransform toDevice = m_painter.combinedTransform();
-    const QPaintDevice& device = *m_painter.device();
-    const QRect onDevice = toDevice.mapRect(QRectF(target)).toAlignedRect() & QRect(0, 0, device.width(), device.height());
+    const QRect onDevice = toDevice.mapRect(QRectF(target)).toAlignedRect() & m_device;
     const QRect seen = onDevice & toDevice.mapRect(QRectF(ToQRect(m_clipBox))).toAlignedRect();
     if (seen.isEmpty())
         return;

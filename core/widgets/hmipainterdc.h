@@ -47,6 +47,10 @@ private:
 class CHmiPainterDC : public CHmiStateDC {
 public:
     explicit CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache = nullptr);
+    // A target that paints part of a larger device through a layer: device is that device in
+    // the layer's pixels, so that what is drawn depends on where it stands on the device, not on
+    // where the layer begins.
+    CHmiPainterDC(QPainter& painter, CHmiDrawingCache* cache, const QRect& device);
 
     HmiPen SelectPen(const HmiPen& pen) override;
     HmiPoint MoveTo(HmiPoint point) override;
@@ -85,6 +89,7 @@ private:
     QPainter& m_painter;
     CHmiDrawingCache* m_cache;
     std::uint64_t m_paint; // which paint this is, from the first target made on
+    QRect m_device; // the device in its own pixels
     HmiRect m_deviceArea; // the device in the painter's coordinates
     HmiRect m_clipBox;
     std::optional<QRegion> m_clip; // in the painter's coordinates, when it clips

@@ -403,6 +403,34 @@ void CTamloView::ClipTo(QPainter& painter, const QRegion& region)
 
 void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
 {
+    const QRect device(0, 0, painter.device()->width(), painter.device()->height());
+    if (m_mapping.Percent() == 100 || region.isEmpty())
+        return DrawDocument(painter, region, device);
+    // Zoomed, the painter sets the first row and column of a clip a little otherwise than the
+    // same pixels further in. The document is drawn a pixel further up and left, in a layer
+    // whose own first row and column lie there too, and only the region is laid down.
+    const QRegion grown =
+        (region + region.translated(-1, 0) + region.translated(0, -1) + region.translated(-1, -1)) & rect();
+    if (grown == region) // it begins at the canvas's own first row and column, as a whole repaint does
+        return DrawDocument(painter, region, device);
+    const QRect bounds = grown.boundingRect();
+    QImage layer(bounds.size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
+    if (layer.isNull())
+        return DrawDocument(painter, region, device); // out of memory: a pixel off is the lesser harm
+    layer.setDevicePixelRatio(devicePixelRatio());
+    QPainter layerPainter(&layer);
+    layerPainter.translate(-bounds.topLeft());
+    DrawDocument(layerPainter, grown, device.translated(-bounds.topLeft() * devicePixelRatio()));
+    layerPainter.end();
+    painter.save();
+    ClipTo(painter, region);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(bounds.topLeft(), layer);
+    painter.restore();
+}
+
+void CTamloView::DrawDocument(QPainter& painter, const QRegion& region, const QRect& device) const
+{
     // Only the region to repaint is drawn: the drawing target takes the clip as what it shows,
     // and leaves out the widgets whose room lies wholly outside it.
     painter.save();
@@ -418,7 +446,7 @@ void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
         painter.scale(m_mapping.Scale(), m_mapping.Scale());
     // Kept drawings are pixels at 100 %: the drawing target paints from them only where the
     // painter maps whole pixels, so a zoomed canvas draws afresh.
-    CHmiPainterDC dc(painter, &m_drawings);
+    CHmiPainterDC dc(painter, &m_drawings, device);
     DrawWindow(m_document, dc, areas);
     painter.restore();
     m_outlines.Paint(painter, m_mapping, areas);

@@ -111,6 +111,9 @@ private:
     void CopyBackdrop(QPainter& painter, const QRegion& region) const;
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
+    // The same on a device of which the painter may paint only a part, a layer (device is
+    // then the whole device in the layer's pixels).
+    void DrawDocument(QPainter& painter, const QRegion& region, const QRect& device) const;
     // On the overlay: the handles and the drag's outlines over the controls.
     void PaintOverlay(QPainter& painter, const QRegion& region);
     // The grid's dots that fall in the region, inside the window.
