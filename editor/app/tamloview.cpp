@@ -403,24 +403,31 @@ void CTamloView::ClipTo(QPainter& painter, const QRegion& region)
 
 void CTamloView::PaintDocument(QPainter& painter, const QRegion& region) const
 {
+    PaintAsWhole(painter, region, [this](QPainter& target, const QRegion& area, const QRect& device) {
+        DrawDocument(target, area, device);
+    });
+}
+
+void CTamloView::PaintAsWhole(QPainter& painter, const QRegion& region, const RegionPaint& paint) const
+{
     const QRect device(0, 0, painter.device()->width(), painter.device()->height());
     if (m_mapping.Percent() == 100 || region.isEmpty())
-        return DrawDocument(painter, region, device);
+        return paint(painter, region, device);
     // Zoomed, the painter sets the first row and column of a clip a little otherwise than the
-    // same pixels further in. The document is drawn a pixel further up and left, in a layer
+    // same pixels further in. The region is painted a pixel further up and left, in a layer
     // whose own first row and column lie there too, and only the region is laid down.
     const QRegion grown =
         (region + region.translated(-1, 0) + region.translated(0, -1) + region.translated(-1, -1)) & rect();
     if (grown == region) // it begins at the canvas's own first row and column, as a whole repaint does
-        return DrawDocument(painter, region, device);
+        return paint(painter, region, device);
     const QRect bounds = grown.boundingRect();
     QImage layer(bounds.size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
     if (layer.isNull())
-        return DrawDocument(painter, region, device); // out of memory: a pixel off is the lesser harm
+        return paint(painter, region, device); // out of memory: a pixel off is the lesser harm
     layer.setDevicePixelRatio(devicePixelRatio());
     QPainter layerPainter(&layer);
     layerPainter.translate(-bounds.topLeft());
-    DrawDocument(layerPainter, grown, device.translated(-bounds.topLeft() * devicePixelRatio()));
+    paint(layerPainter, grown, device.translated(-bounds.topLeft() * devicePixelRatio()));
     layerPainter.end();
     painter.save();
     ClipTo(painter, region);
@@ -587,12 +594,19 @@ void CTamloView::InvalidatePreview(std::span<const HmiRect> areas)
 
 void CTamloView::PaintPreview(QPainter& painter, const QRegion& region) const
 {
+    PaintAsWhole(painter, region, [this](QPainter& target, const QRegion& area, const QRect& device) {
+        DrawPreview(target, area, device);
+    });
+}
+
+void CTamloView::DrawPreview(QPainter& painter, const QRegion& region, const QRect& device) const
+{
     ClipTo(painter, region);
     painter.fillRect(region.boundingRect(), palette().color(QPalette::Dark));
     painter.save();
     if (m_mapping.Percent() != 100)
         painter.scale(m_mapping.Scale(), m_mapping.Scale());
-    CHmiPainterDC dc(painter);
+    CHmiPainterDC dc(painter, nullptr, device);
     m_preview->Draw(dc);
     painter.restore();
     painter.setPen(QPen(Qt::red, 2, Qt::DashLine));

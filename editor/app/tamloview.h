@@ -15,6 +15,7 @@
 #include <QRegion>
 #include <QWidget>
 
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -109,10 +110,13 @@ private:
     QRect ToClientRect(const HmiRect& docRect) const;
     static void ClipTo(QPainter& painter, const QRegion& region);
     void CopyBackdrop(QPainter& painter, const QRegion& region) const;
+    // Paints the region on a device of which the painter may paint only a part, a layer: device
+    // is then the whole device in the layer's pixels.
+    using RegionPaint = std::function<void(QPainter& painter, const QRegion& region, const QRect& device)>;
+    // The region as a repaint of the whole canvas shows it, also when zoomed.
+    void PaintAsWhole(QPainter& painter, const QRegion& region, const RegionPaint& paint) const;
     // The window's widgets in the region, without the selection's handles.
     void PaintDocument(QPainter& painter, const QRegion& region) const;
-    // The same on a device of which the painter may paint only a part, a layer (device is
-    // then the whole device in the layer's pixels).
     void DrawDocument(QPainter& painter, const QRegion& region, const QRect& device) const;
     // On the overlay: the handles and the drag's outlines over the controls.
     void PaintOverlay(QPainter& painter, const QRegion& region);
@@ -126,6 +130,7 @@ private:
     void RedrawDocRect(const HmiRect& area);
     // The preview's widgets in the region, with the widgets whose bindings fail outlined.
     void PaintPreview(QPainter& painter, const QRegion& region) const;
+    void DrawPreview(QPainter& painter, const QRegion& region, const QRect& device) const;
     // The drag's focus rectangles that meet the exposed area.
     void DrawDragFeedback(QPainter& painter, const QRect& exposed) const;
     QRect FeedbackArea() const;
