@@ -828,18 +828,12 @@ void CHmiPainterDC::Ellipse(const HmiRect& rect)
         m_painter.drawEllipse(box);
         return;
     }
-    const QRect seen = pixels & ToQRect(m_clipBox);
-    QImage layer(seen.size(), QImage::Format_ARGB32_Premultiplied);
-    if (layer.isNull())
-        return; // nothing to see, or out of memory
-    layer.fill(Qt::transparent);
-    QPainter painter(&layer);
-    painter.translate(-seen.topLeft());
-    painter.setPen(m_painter.pen());
-    painter.setBrush(m_painter.brush());
-    painter.drawEllipse(box);
-    painter.end();
-    m_painter.drawImage(seen.topLeft(), layer);
+    const QRect seen = m_painter.combinedTransform().mapRect(pixels & ToQRect(m_clipBox));
+    DrawInLayer(seen, seen, [&](QPainter& layer) {
+        layer.setPen(m_painter.pen());
+        layer.setBrush(m_painter.brush());
+        layer.drawEllipse(box);
+    });
 }
 
 void CHmiPainterDC::Polygon(std::span<const HmiPoint> points)
@@ -974,20 +968,25 @@ void CHmiPainterDC::DrawCutPicture(const QRect& target, const QImage& shown)
     if (seen.isEmpty())
         return;
     const QRect reach(onDevice.topLeft(), seen.bottomRight());
-    QImage layer(reach.size(), QImage::Format_ARGB32_Premultiplied);
-    if (layer.isNull()) {
+    if (!DrawInLayer(reach, seen, [&](QPainter& layer) { layer.drawImage(target, shown); }))
         m_painter.drawImage(target, shown); // out of memory: a pixel off is the lesser harm
-        return;
-    }
+}
+
+bool CHmiPainterDC::DrawInLayer(const QRect& reach, const QRect& seen, const std::function<void(QPainter&)>& draw)
+{
+    QImage layer(reach.size(), QImage::Format_ARGB32_Premultiplied);
+    if (layer.isNull())
+        return false;
     layer.fill(Qt::transparent);
     QPainter painter(&layer);
-    painter.setTransform(toDevice * QTransform::fromTranslate(-reach.left(), -reach.top()));
-    painter.drawImage(target, shown);
+    painter.setTransform(m_painter.combinedTransform() * QTransform::fromTranslate(-reach.left(), -reach.top()));
+    draw(painter);
     painter.end();
     m_painter.save();
     m_painter.resetTransform();
     m_painter.drawImage(seen.topLeft(), layer, seen.translated(-reach.topLeft()));
     m_painter.restore();
+    return true;
 }
 
 void CHmiPainterDC::DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint)

@@ -67,6 +67,10 @@ public:
     void DrawReusable(const std::string& key, const HmiRect& box, const std::function<void(CHmiDC&)>& paint) override;
     HmiRect GetClipBox() const override;
 
+protected:
+    // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
+    bool PaintsWholeDevicePixels() const;
+
 private:
     // A line from one point up to, not including, the other, in the current pen.
     void DrawPenLine(HmiPoint from, HmiPoint to);
@@ -74,6 +78,9 @@ private:
     void DrawTextAnew(std::string_view text, const QRect& box, std::uint32_t format);
     // A stretched picture that the clip cuts, with the pixels it has drawn uncut.
     void DrawCutPicture(const QRect& target, const QImage& shown);
+    // Draws into a layer of the device's pixels in reach, with the painter's transformation, and
+    // lays down the part seen through the painter's clip; false when no layer could be made.
+    bool DrawInLayer(const QRect& reach, const QRect& seen, const std::function<void(QPainter&)>& draw);
     // The largest drawing kept, in pixels, unless a kind of drawing asks for more.
     static constexpr std::int64_t kMaxKeptPixels = std::int64_t(1) << 20;
     // The drawing kept under the key for paint's drawing of the area, kept now if the key has
@@ -82,8 +89,6 @@ private:
     const CHmiDrawingCache::Drawing* Kept(const std::string& key, const HmiRect& area, const HmiRect& inner,
                                           const std::function<void(CHmiDC&)>& paint,
                                           std::int64_t maxPixels = kMaxKeptPixels);
-    // Whether a pixel set in the painter's coordinates is exactly one pixel of its device.
-    bool PaintsWholeDevicePixels() const;
     void ApplyPenAndBrush();
 
     QPainter& m_painter;

@@ -10,7 +10,6 @@
 #include <QRegion>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -32,14 +31,10 @@ class CHandleDC : public CHmiPainterDC {
 public:
     CHandleDC(QPainter& painter, QImage* image) : CHmiPainterDC(painter), m_bounds(image ? image->rect() : QRect())
     {
-        const QTransform transform = painter.combinedTransform();
-        const bool wholePixels = transform.type() <= QTransform::TxTranslate &&
-                                 transform.dx() == std::floor(transform.dx()) &&
-                                 transform.dy() == std::floor(transform.dy());
-        if (image && wholePixels && !painter.hasClipping() && painter.opacity() == 1.0 &&
-            painter.compositionMode() == QPainter::CompositionMode_SourceOver) {
+        if (image && PaintsWholeDevicePixels() && !painter.hasClipping()) {
             m_bits = image->bits();
             m_stride = image->bytesPerLine();
+            const QTransform transform = painter.combinedTransform();
             m_offset = QPoint(int(transform.dx()), int(transform.dy()));
         }
     }
